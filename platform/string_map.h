@@ -15,7 +15,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
-#include <ranges>
+#include <utility>
 #include <vector>
 
 template <class TValue>
@@ -65,8 +65,8 @@ public:
     template <class TVisit>
     void ForEach(TVisit visit) const {
         for (const std::vector<std::uint32_t>& bucket : m_Buckets) {
-            for (std::uint32_t nEntry : std::views::reverse(bucket))
-                visit(m_Entries[nEntry - 1].m_Key, m_Entries[nEntry - 1].m_Value);
+            for (auto pEntry = bucket.rbegin(); pEntry != bucket.rend(); ++pEntry)
+                visit(m_Entries[*pEntry - 1].m_Key, m_Entries[*pEntry - 1].m_Value);
         }
     }
 
