@@ -1,0 +1,86 @@
+// Files, as far as the component needs them.
+//
+// Paths have backslashes between their parts, as hosts give them; only here do they become the system's own:
+// on a system with slashes, "\home\ann\page.cfg" is /home/ann/page.cfg. A backslash that is the second byte
+// of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
+// up part by part without regard to case, so that paths from systems that don't still work. A directory is
+// never a file, and "*" and "?" in a path are characters like others. Nothing here throws.
+#pragma once
+
+#include "platform/array.h"
+#include "platform/string.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// Whether the path names a file.
+bool FileExists(const CString& path);
+
+// Whether the path names a directory, with or without a backslash at its end.
+bool DirectoryExists(const CString& path);
+
+// The last part of the path as the disk spells it, e.g. "Photo.GIF" for "\home\ann\photo.gif"; empty when
+// there is no such file.
+CString FileNameOnDisk(const CString& path);
+
+// The names of the files in a directory that match a pattern such as "*.gif", sorted. "*" stands for any
+// characters, "?" for one; case plays no part. Empty when the directory can't be read.
+CStringArray FindFiles(const CString& directory, const CString& pattern);
+
+// Copies a file's bytes, replacing `to`, which keeps its permissions if it exists. The copy is whole or
+// absent: on a failure `to` is as it was. Copying a file onto itself, under whatever spelling, leaves it
+// alone and succeeds.
+bool CopyWholeFile(const CString& from, const CString& to);
+
+// A file read from its start to its end.
+class CInputFile {
+public:
+    CInputFile() = default;
+    ~CInputFile();
+    CInputFile(const CInputFile&) = delete;
+    CInputFile& operator=(const CInputFile&) = delete;
+
+    // False when there is no such file or it can't be read.
+    bool Open(const CString& path);
+
+    // The number of bytes put into the buffer, 0 at the end of the file. A read error counts as the end.
+    size_t Read(char* pBuffer, size_t nSize);
+
+private:
+    int m_nFile = -1;
+};
+
+// The whole content of a file; false when it can't be opened. What a read error cuts off is missing.
+bool ReadWholeFile(const CString& path, std::string& content);
+
+// A file that is replaced as a whole: what is written goes to a temporary file beside it, which takes its
+// name on Commit. Until then, and for ever if anything fails or the process dies, the old file stays as it
+// was. What exists but is no plain file (a device, a pipe) is written directly.
+class COutputFile {
+public:
+    COutputFile() = default;
+    ~COutputFile();
+    COutputFile(const COutputFile&) = delete;
+    COutputFile& operator=(const COutputFile&) = delete;
+
+    // False when a file can't be created there, or when the one that is there must not be written.
+    bool Open(const CString& path);
+
+    // Appends. A failure is remembered for Commit.
+    void Write(std::string_view bytes);
+
+    // Ends the writing; true when every byte is in place under the file's name. With bDurable the bytes are
+    // on the disk before the old file goes, so that not even a power cut leaves less than one of the two.
+    bool Commit(bool bDurable = true);
+
+private:
+    void Flush();
+    void Discard();
+
+    int m_nFile = -1;
+    bool m_bFailed = false;
+    std::string m_Target;
+    std::string m_Temporary; // empty when the target is written directly
+    std::string m_Pending;
+};

@@ -1,0 +1,313 @@
+#include "platform/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <functional>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr size_t kBlock = 256 * 1024;
+
+std::string SystemPath(const CString& path) {
+    CString result = path;
+    result.Replace("\\", "/");
+    return std::string(result.View());
+}
+
+bool Exists(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0;
+}
+
+bool IsPlainFile(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+void ForEachName(const std::string& directory, const std::function<void(const char*)>& visit) {
+    DIR* pDirectory = opendir(directory.empty() ? "." : directory.c_str());
+    if (!pDirectory)
+        return;
+    while (const dirent* pEntry = readdir(pDirectory))
+        visit(pEntry->d_name);
+    closedir(pDirectory);
+}
+
+// The first name in byte order that equals the given one but for case.
+std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
+    const CString wanted = CString(name).MakeLower();
+    std::optional<std::string> found;
+    ForEachName(directory, [&](const char* pName) {
+        if (CString(pName).MakeLower() == wanted && (!found || pName < *found))
+            found = pName;
+    });
+    return found;
+}
+
+// The path as the disk spells it, or nothing when no spelling of it exists.
+std::optional<std::string> FindOnDisk(const std::string& path) {
+    if (path.empty() || path.find('\0') != std::string::npos)
+        return std::nullopt;
+    if (Exists(path))
+        return path;
+    std::string found;
+    for (size_t nStart = 0; nStart < path.size();) {
+        const size_t nEnd = std::min(path.find('/', nStart), path.size());
+        const std::string name = path.substr(nStart, nEnd - nStart);
+        if (!name.empty()) {
+            if (Exists(found + name)) {
+                found += name;
+            } else if (const auto otherName = NameWithoutCase(found, name)) {
+                found += *otherName;
+            } else {
+                return std::nullopt;
+            }
+        }
+        if (nEnd < path.size())
+            found += '/';
+        nStart = nEnd + 1;
+    }
+    return Exists(found) ? std::optional(found) : std::nullopt;
+}
+
+std::optional<std::string> FindFileOnDisk(const CString& path) {
+    std::optional<std::string> found = FindOnDisk(SystemPath(path));
+    return found && IsPlainFile(*found) ? found : std::nullopt;
+}
+
+// Where a file of this path is to be written: its directory as the disk spells it, its name as the caller
+// does, and no symbolic link, which replacing would break.
+std::string TargetOf(const CString& path) {
+    std::string target = SystemPath(path);
+    const size_t nName = target.rfind('/') + 1;
+    if (nName > 0) {
+        if (const auto directory = FindOnDisk(target.substr(0, nName)))
+            target = *directory + target.substr(nName);
+    }
+    if (char* pResolved = realpath(target.c_str(), nullptr)) {
+        target = pResolved;
+        free(pResolved);
+    }
+    return target;
+}
+
+bool WriteAll(int nFile, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t nWritten = write(nFile, bytes.data(), bytes.size());
+        if (nWritten < 0 && errno == EINTR)
+            continue;
+        if (nWritten <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<size_t>(nWritten));
+    }
+    return true;
+}
+
+// Creates a file of a name that no other writer uses, in the directory of the target.
+int CreateBeside(const std::string& target, mode_t nMode, std::string& temporary) {
+    static unsigned s_nCounter = 0;
+    const std::string directory = target.substr(0, target.rfind('/') + 1);
+    for (int nTry = 0; nTry < 100; ++nTry) {
+        temporary = directory + ".orrelix-" + std::to_string(getpid()) + "-" + std::to_string(++s_nCounter);
+        const int nFile = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, nMode);
+        if (nFile >= 0 || errno != EEXIST)
+            return nFile;
+    }
+    return -1;
+}
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+    // On a mismatch the last "*" takes one more character; earlier ones never need to.
+    size_t nName = 0, nPattern = 0, nStar = std::string_view::npos, nStarName = 0;
+    while (nName < name.size()) {
+        if (nPattern < pattern.size() && pattern[nPattern] == '*') {
+            nStar = nPattern++;
+            nStarName = nName;
+        } else if (nPattern < pattern.size() &&
+                   (pattern[nPattern] == '?' || pattern[nPattern] == name[nName])) {
+            ++nPattern;
+            ++nName;
+        } else if (nStar != std::string_view::npos) {
+            nPattern = nStar + 1;
+            nName = ++nStarName;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', nPattern) == std::string_view::npos;
+}
+
+bool SameFile(const std::string& left, const std::string& right) {
+    struct stat leftStatus {
+    }, rightStatus{};
+    return stat(left.c_str(), &leftStatus) == 0 && stat(right.c_str(), &rightStatus) == 0 &&
+           leftStatus.st_dev == rightStatus.st_dev && leftStatus.st_ino == rightStatus.st_ino;
+}
+
+} // namespace
+
+bool FileExists(const CString& path) {
+    return FindFileOnDisk(path).has_value();
+}
+
+bool DirectoryExists(const CString& path) {
+    struct stat status {};
+    const auto found = FindOnDisk(SystemPath(path));
+    return found && stat(found->c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+CString FileNameOnDisk(const CString& path) {
+    const auto found = FindFileOnDisk(path);
+    return found ? CString(found->substr(found->rfind('/') + 1)) : CString();
+}
+
+CStringArray FindFiles(const CString& directory, const CString& pattern) {
+    CStringArray names;
+    const auto found = FindOnDisk(SystemPath(directory));
+    if (!found)
+        return names;
+    const CString lowerPattern = CString(pattern).MakeLower();
+    ForEachName(*found, [&](const char* pName) {
+        if (MatchesPattern(CString(pName).MakeLower(), lowerPattern) && IsPlainFile(*found + "/" + pName))
+            names.Add(pName);
+    });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+bool CopyWholeFile(const CString& from, const CString& to) {
+    const auto source = FindFileOnDisk(from);
+    if (!source)
+        return false;
+    if (SameFile(*source, TargetOf(to)))
+        return true;
+    CInputFile input;
+    COutputFile output;
+    if (!input.Open(from) || !output.Open(to))
+        return false;
+    struct stat status {};
+    off_t nLeft = stat(source->c_str(), &status) == 0 ? status.st_size : 0;
+    std::string block(kBlock, '\0');
+    while (const size_t nRead = input.Read(block.data(), block.size())) {
+        output.Write({block.data(), nRead});
+        nLeft -= static_cast<off_t>(nRead);
+    }
+    // A source that ended early, by an error of its disk, makes no whole copy.
+    return nLeft <= 0 && output.Commit(false);
+}
+
+CInputFile::~CInputFile() {
+    if (m_nFile >= 0)
+        close(m_nFile);
+}
+
+bool CInputFile::Open(const CString& path) {
+    const auto found = FindOnDisk(SystemPath(path));
+    if (!found)
+        return false;
+    m_nFile = open(found->c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status {};
+    if (m_nFile >= 0 && (fstat(m_nFile, &status) != 0 || S_ISDIR(status.st_mode))) {
+        close(m_nFile);
+        m_nFile = -1;
+    }
+    return m_nFile >= 0;
+}
+
+size_t CInputFile::Read(char* pBuffer, size_t nSize) {
+    ssize_t nRead = 0;
+    do {
+        nRead = read(m_nFile, pBuffer, nSize);
+    } while (nRead < 0 && errno == EINTR);
+    return nRead > 0 ? static_cast<size_t>(nRead) : 0;
+}
+
+bool ReadWholeFile(const CString& path, std::string& content) {
+    CInputFile file;
+    if (!file.Open(path))
+        return false;
+    content.clear();
+    std::string block(kBlock, '\0');
+    while (const size_t nRead = file.Read(block.data(), block.size()))
+        content.append(block, 0, nRead);
+    return true;
+}
+
+COutputFile::~COutputFile() {
+    Discard();
+}
+
+void COutputFile::Discard() {
+    if (m_nFile >= 0)
+        close(m_nFile);
+    m_nFile = -1;
+    if (!m_Temporary.empty())
+        unlink(m_Temporary.c_str());
+    m_Temporary.clear();
+}
+
+bool COutputFile::Open(const CString& path) {
+    Discard();
+    m_bFailed = false;
+    m_Pending.clear();
+    m_Target = TargetOf(path);
+    if (m_Target.empty() || m_Target.find('\0') != std::string::npos)
+        return false;
+    struct stat status {};
+    if (stat(m_Target.c_str(), &status) != 0) {
+        m_nFile = CreateBeside(m_Target, 0666, m_Temporary);
+    } else if (!S_ISREG(status.st_mode)) {
+        m_nFile = open(m_Target.c_str(), O_WRONLY | O_CLOEXEC);
+    } else if (access(m_Target.c_str(), W_OK) == 0) {
+        m_nFile = CreateBeside(m_Target, status.st_mode & 0777, m_Temporary);
+        if (m_nFile >= 0)
+            m_bFailed = fchmod(m_nFile, status.st_mode & 07777) != 0;
+    }
+    if (m_nFile < 0)
+        m_Temporary.clear();
+    return m_nFile >= 0;
+}
+
+void COutputFile::Write(std::string_view bytes) {
+    if (m_Pending.size() + bytes.size() <= kBlock) {
+        m_Pending += bytes;
+        return;
+    }
+    Flush();
+    if (bytes.size() <= kBlock)
+        m_Pending = bytes;
+    else if (!m_bFailed)
+        m_bFailed = !WriteAll(m_nFile, bytes);
+}
+
+void COutputFile::Flush() {
+    if (!m_bFailed)
+        m_bFailed = !WriteAll(m_nFile, m_Pending);
+    m_Pending.clear();
+}
+
+bool COutputFile::Commit(bool bDurable) {
+    if (m_nFile < 0)
+        return false;
+    Flush();
+    if (!m_Temporary.empty() && bDurable && !m_bFailed)
+        m_bFailed = fsync(m_nFile) != 0;
+    // A disk may report only at closing that it had no room.
+    m_bFailed = close(m_nFile) != 0 || m_bFailed;
+    m_nFile = -1;
+    if (!m_bFailed && !m_Temporary.empty()) {
+        m_bFailed = rename(m_Temporary.c_str(), m_Target.c_str()) != 0;
+        if (!m_bFailed)
+            m_Temporary.clear();
+    }
+    Discard();
+    return !m_bFailed;
+}
