@@ -9,3 +9,6 @@ CString GetModuleDirectory();
 
 // Names another directory, for a host that keeps the script files elsewhere.
 void SetModuleDirectory(const CString& directory);
+
+// A number that stands for the loaded library within this process: the address at which it begins.
+long GetModuleInstance();

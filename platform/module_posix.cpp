@@ -6,11 +6,15 @@
 
 namespace {
 
-CString FindModuleDirectory() {
+Dl_info ThisModule() {
     Dl_info module{};
-    if (!dladdr(reinterpret_cast<const void*>(&GetModuleDirectory), &module) || !module.dli_fname)
-        return {};
-    char* pResolved = realpath(module.dli_fname, nullptr);
+    dladdr(reinterpret_cast<const void*>(&GetModuleDirectory), &module);
+    return module;
+}
+
+CString FindModuleDirectory() {
+    const char* pFile = ThisModule().dli_fname;
+    char* pResolved = pFile ? realpath(pFile, nullptr) : nullptr;
     if (!pResolved)
         return {};
     std::string path(pResolved);
@@ -33,4 +37,8 @@ CString GetModuleDirectory() {
 
 void SetModuleDirectory(const CString& directory) {
     ModuleDirectory() = directory;
+}
+
+long GetModuleInstance() {
+    return reinterpret_cast<long>(ThisModule().dli_fbase);
 }

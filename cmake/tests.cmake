@@ -1,0 +1,50 @@
+# One test program per folder of tests/, and the browser tests.
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+file(GLOB support_sources CONFIGURE_DEPENDS tests/support/*.cpp)
+add_library(test_support STATIC ${support_sources})
+target_link_libraries(test_support PUBLIC orrelix orrelix_options GTest::gtest)
+target_compile_definitions(test_support PUBLIC ORRELIX_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+
+function(orrelix_test_program folder)
+    file(GLOB sources CONFIGURE_DEPENDS tests/${folder}/*_test.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(${folder}_test ${sources})
+    target_link_libraries(${folder}_test PRIVATE test_support GTest::gtest_main ${ARGN})
+    add_dependencies(${folder}_test scripts)
+    gtest_discover_tests(${folder}_test TEST_PREFIX ${folder}. DISCOVERY_TIMEOUT 60)
+endfunction()
+
+foreach(folder platform core gadgets toolkit controls dialogs)
+    orrelix_test_program(${folder})
+endforeach()
+
+if(ORRELIX_HOST)
+    orrelix_test_program(host)
+    if(TARGET host_test)
+        add_dependencies(host_test orrelix_program)
+        target_compile_definitions(host_test PRIVATE ORRELIX_PROGRAM="$<TARGET_FILE:orrelix_program>")
+    endif()
+
+    find_program(NODE_PROGRAM node)
+    find_program(CHROMIUM_PROGRAM NAMES chromium chromium-browser)
+    if(NODE_PROGRAM AND CHROMIUM_PROGRAM AND EXISTS ${PROJECT_SOURCE_DIR}/tests/browser/node_modules)
+        set(browser_pages ${PROJECT_BINARY_DIR}/browser_pages)
+        add_test(NAME browser.pages
+            COMMAND orrelix_program preview-all ${PROJECT_SOURCE_DIR}/examples --out ${browser_pages})
+        set_tests_properties(browser.pages PROPERTIES FIXTURES_SETUP browser_pages)
+        file(GLOB browser_tests CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/tests/browser tests/browser/*.test.mjs)
+        foreach(test ${browser_tests})
+            cmake_path(GET test STEM name)
+            add_test(NAME browser.${name} COMMAND ${NODE_PROGRAM} --test ${test}
+                WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/tests/browser)
+            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages TIMEOUT 300
+                ENVIRONMENT "ORRELIX_PAGES=${browser_pages};CHROMIUM=${CHROMIUM_PROGRAM}")
+        endforeach()
+    else()
+        message(WARNING "Browser tests are left out: they need node, chromium and 'npm ci' in tests/browser")
+    endif()
+endif()

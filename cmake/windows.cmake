@@ -1,0 +1,11 @@
+# The windows of the dialogs. The one place that names Qt beside the program's main file.
+file(GLOB window_sources CONFIGURE_DEPENDS qt/*.cpp)
+if(window_sources)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+    add_library(orrelix_windows SHARED ${window_sources})
+    target_link_libraries(orrelix_windows PRIVATE orrelix orrelix_options Qt6::Widgets)
+    # Qt keeps objects for the process's life, so the library that brought it in must never go.
+    target_link_options(orrelix_windows PRIVATE -Wl,-z,nodelete)
+    set_target_properties(orrelix_windows PROPERTIES OUTPUT_NAME VignelOrrelixQt AUTOMOC ON)
+    install(TARGETS orrelix_windows LIBRARY DESTINATION ${ORRELIX_LIBRARY_DIR})
+endif()

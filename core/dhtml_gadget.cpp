@@ -1,0 +1,67 @@
+#include "core/dhtml_gadget.h"
+
+#include "platform/files.h"
+
+#include <algorithm>
+
+bool CDhtmlGadget::ReadFields(const CVignelConfig& config) {
+    CParameterReader reader(config);
+    ExchangeParameters(reader);
+    return true;
+}
+
+void CDhtmlGadget::WriteFields(CVignelConfig& config) {
+    CParameterWriter writer(config);
+    ExchangeParameters(writer);
+}
+
+CString ScriptInclude(const CString& directory, const char* pFileName) {
+    return R"(<script type="text/javascript" src=")" + directory + pFileName + "\"></script>\r\n";
+}
+
+CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory) {
+    switch (mode) {
+    case kPreview:
+        return config.GetPreviewPath();
+    case kPublish:
+        return remoteDirectory;
+    default:
+        return {};
+    }
+}
+
+void CopyScript(const char* pFileName, const char* pPageName, const CString& directory) {
+    const CString source = GetModuleDirectory() + "\\" + pFileName;
+    CopyWholeFile(source, directory + pFileName);
+    if (CString(pFileName) != pPageName)
+        CopyWholeFile(source, directory + pPageName);
+}
+
+void RegisterScript(CVignelConfig& config, const char* pName, const CString& webPath) {
+    config.AddResource({pName, GetModuleDirectory() + "\\", webPath});
+}
+
+bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force) {
+    if (path.IsEmpty())
+        return true;
+    const CString name = FileNameOfPath(path);
+    const CString source = DirectoryOfPath(path) + "\\";
+    if (force != 0) {
+        CopyWholeFile(source + name, destination + name);
+        return true;
+    }
+    if (!FileExists(path)) {
+        path.Empty();
+        return true;
+    }
+    if (source == destination)
+        return true;
+    if (std::find(handled.begin(), handled.end(), path) != handled.end())
+        return true;
+    if (FileExists(destination + name))
+        return false;
+    CopyWholeFile(source + name, destination + name);
+    handled.Add(path);
+    path = destination + name;
+    return true;
+}

@@ -1,0 +1,78 @@
+// The contract of all effects, and what they share.
+//
+// A gadget is one page effect: a class that holds the user's settings as texts, packs them into the Parameter
+// Part of a configuration file and unpacks them again, generates the HTML, and names and copies the files
+// that the HTML needs. COrrelix owns one of each and works on the current one through CDhtmlGadget only.
+#pragma once
+
+#include "core/html_text.h"
+#include "core/parameters.h"
+#include "core/vignel_config.h"
+#include "platform/array.h"
+#include "platform/module.h"
+#include "platform/string.h"
+
+// How generated text refers to script and image files. Hosts may give any other number: such text refers to
+// no script.
+enum EHtmlMode : short {
+    kPreview = 0, // by the store's preview path, which the host gives with its separator at the end
+    kPublish = 1, // by the gadget's remote directories
+};
+
+class CDhtmlGadget {
+public:
+    virtual ~CDhtmlGadget() = default;
+
+    // The HTML of one segment. Of a gadget with two, a position other than 0 asks for the one that belongs
+    // with the page's scripts and 0 for the one at the cursor; a gadget with one has the same text for all. A
+    // text that isn't empty ends in CR LF. Properties of the store that the text doesn't use are not looked
+    // at.
+    virtual CString GetHTMLBody(CVignelConfig& config, short mode, short position) = 0;
+
+    // Puts the files that the page needs into a directory, given with a backslash at its end. Script files
+    // are copied over what is there. A user's file that would land on another of its name is asked about,
+    // unless `force` isn't 0. A copy that fails is not reported.
+    virtual void CopyResources(const CString& directory, short force) = 0;
+
+    // Fills the fields from the Parameter Part. `directory` is that of the configuration file, with a
+    // backslash at its end; it goes in front of the names of image files. Always true.
+    virtual bool ReadParameters(CVignelConfig& config, const CString& directory) = 0;
+
+    // Replaces the store's resources by those of this gadget; the result is their number.
+    virtual short RegisterResources(CVignelConfig& config) = 0;
+
+    virtual void WriteParameters(CVignelConfig& config) = 0;
+
+    // 1 or 2.
+    virtual short GetHTMLSegmentNumber() = 0;
+
+    // Says of each field where it lives in the Parameter Part.
+    virtual void ExchangeParameters(CParameterExchange&) {}
+
+protected:
+    // What most gadgets' ReadParameters and WriteParameters are: all fields, as ExchangeParameters places
+    // them.
+    bool ReadFields(const CVignelConfig& config);
+    void WriteFields(CVignelConfig& config);
+};
+
+// The line by which a page loads a script file of a directory, which is empty or ends in its separator.
+CString ScriptInclude(const CString& directory, const char* pFileName);
+
+// The directory by which a text of this mode refers to files: the store's preview path, or the remote
+// directory. Other modes have none.
+CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory);
+
+// Copies a script file that lies beside the component. `pPageName` is its name as the page's text spells it:
+// where that differs in case and the disk tells case apart, the file is there under both names.
+void CopyScript(const char* pFileName, const char* pPageName, const CString& directory);
+
+// Adds a script file's resource under the given name.
+void RegisterScript(CVignelConfig& config, const char* pName, const CString& webPath);
+
+// The copy of a user's file whose full path the gadget holds in `path`. `destination` is a directory with a
+// backslash at its end; `handled` collects the paths that one run has copied. False when a file of that name
+// is there already and the user has to be asked: nothing has been copied then. On a copy `path` becomes that
+// of the copy; where the file doesn't exist it becomes empty; with `force` not 0 the file is copied over
+// whatever is there and `path` stays.
+bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force);

@@ -1,0 +1,63 @@
+#include "core/orrelix.h"
+
+namespace {
+
+constexpr char kProgID[] = "VignelServer.Orrelix";
+
+} // namespace
+
+// A type that is none of ours leaves the gadget as it was.
+void COrrelix::SelectGadget() {
+    const struct {
+        const char* m_pType;
+        CDhtmlGadget& m_Gadget;
+    } gadgets[] = {
+        {"0", m_NoSelect},
+        {"1", m_AnimateText},
+    };
+    for (const auto& row : gadgets) {
+        if (m_Type == row.m_pType)
+            m_pGadget = &row.m_Gadget;
+    }
+}
+
+CVignelConfig& COrrelix::Registered() {
+    if (!m_bResourcesRegistered) {
+        m_pGadget->RegisterResources(m_Config);
+        m_bResourcesRegistered = true;
+    }
+    return m_Config;
+}
+
+bool COrrelix::ReadConfigFile(const CString& path) {
+    if (!m_Config.ReadFile(path))
+        return false;
+    if (m_Config.GetProgID() != kProgID)
+        return true;
+    m_Type = GetListItem(m_Config.GetParameter("DhtmlType", ""), 0);
+    SelectGadget();
+    m_pGadget->ReadParameters(m_Config, DirectoryOfPath(path) + "\\");
+    return true;
+}
+
+// Until there are dialogs, every one of them ends as if the user had cancelled it.
+bool COrrelix::Config() {
+    return false;
+}
+
+bool COrrelix::WriteConfigFileEx(const CString& path, short force) {
+    m_Config.ClearParameters();
+    m_Config.ClearResources();
+    m_Config.ClearSegments();
+    m_Config.SetProgID(kProgID);
+    // May change the gadget's image paths, which the next steps store.
+    m_pGadget->CopyResources(DirectoryOfPath(path) + "\\", force);
+    m_Config.SetParameter("DhtmlType", m_Type);
+    m_pGadget->WriteParameters(m_Config);
+    m_pGadget->RegisterResources(m_Config);
+    if (m_pGadget->GetHTMLSegmentNumber() == 2)
+        m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
+    m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
+    m_bResourcesRegistered = true;
+    return m_Config.WriteFile(path);
+}

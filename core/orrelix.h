@@ -1,0 +1,103 @@
+// COrrelix: the one object that a host sees, VignelServer.Orrelix.
+//
+// It owns the store of one configuration file and one gadget of each kind, and does the sequencing between
+// them:
+//
+//     COrrelix orrelix;
+//     orrelix.SetTitle("news");
+//     if (orrelix.Config())                                   // the user picks an effect and edits it
+//         orrelix.WriteConfigFile("\\home\\ann\\news.cfg");   // files are copied, the state is saved
+//     orrelix.GetHTMLBody(0, 1);                              // the published form, for the place at the
+//     cursor
+//
+// Paths have backslashes and are full. An object is used by one thread, that of its host's user interface.
+#pragma once
+
+#include "core/dhtml_gadget.h"
+#include "core/vignel_config.h"
+#include "gadgets/animate_text.h"
+#include "gadgets/no_select.h"
+
+class COrrelix {
+public:
+    COrrelix() = default;
+    COrrelix(const COrrelix&) = delete;
+    COrrelix& operator=(const COrrelix&) = delete;
+
+    // The dispatch table, in its order. Properties first.
+
+    CString GetProgID() { return m_Config.GetProgID(); }
+    void SetProgID(const CString& text) { m_Config.SetProgID(text); }
+    CString GetTitle() { return m_Config.GetTitle(); }
+    void SetTitle(const CString& text) { m_Config.SetTitle(text); }
+    CString GetDescription() { return m_Config.GetDescription(); }
+    void SetDescription(const CString& text) { m_Config.SetDescription(text); }
+    CString GetBitmapFileName() { return m_Config.GetBitmapFileName(); }
+    void SetBitmapFileName(const CString& text) { m_Config.SetBitmapFileName(text); }
+    // The directory that preview text puts in front of file names, with its separator at the end.
+    CString GetPreviewPath() { return m_Config.GetPreviewPath(); }
+    void SetPreviewPath(const CString& text) { m_Config.SetPreviewPath(text); }
+    // Days since 30 December 1899.
+    double GetLastUpdateTime() { return m_Config.GetLastUpdateTime(); }
+    void SetLastUpdateTime(double time) { m_Config.SetLastUpdateTime(time); }
+
+    // Reads a file and brings its gadget back. False, and nothing changes, when it can't be opened. A file of
+    // another component is read into the store, and the gadget stays.
+    bool ReadConfigFile(const CString& path);
+
+    // WriteConfigFileEx without force.
+    bool WriteConfigFile(const CString& path) { return WriteConfigFileEx(path, 0); }
+
+    // Runs the dialogs: first the choice of an effect, unless one is chosen, then that effect's own. False
+    // when the user cancelled.
+    bool Config();
+
+    // Ids of the texts and of the icon that a host loads from the library.
+    long GetVignelTypeID() const { return 1; }
+    long GetVignelNameID() const { return 2; }
+    long GetMenuTextID() const { return 3; }
+    long GetMessageTextID() const { return 4; }
+    long GetTipsTextID() const { return 5; }
+    long GetIconID(short) const { return 4000; }
+
+    short GetHTMLSegmentNumber() { return m_pGadget->GetHTMLSegmentNumber(); }
+    // "cursor" for 0, "script" for any other.
+    CString GetHTMLPosition(short nIndex) const { return nIndex == 0 ? "cursor" : "script"; }
+    // The text of a position in a mode (see EHtmlMode).
+    CString GetHTMLBody(short position, short mode) {
+        return m_pGadget->GetHTMLBody(m_Config, mode, position);
+    }
+
+    // The loaded library, from which a host takes the texts and the icon.
+    long GetResourceInstance() const { return GetModuleInstance(); }
+
+    // The files that the page needs. The first of these calls after a new object, or after a Config that
+    // ended in OK, asks the gadget; the following ones use its answer.
+    short GetResourceNumber() { return Registered().GetResourceCount(); }
+    CString GetResourceName(short nIndex) { return Registered().GetResourceName(nIndex); }
+    CString GetResourceLocalPath(short nIndex) { return Registered().GetResourceLocalPath(nIndex); }
+    CString GetResourceWebPath(short nIndex) { return Registered().GetResourceWebPath(nIndex); }
+    CString GetResourceLocalPathByName(const CString& name) {
+        return Registered().GetResourceLocalPathByName(name);
+    }
+    CString GetResourceWebPathByName(const CString& name) {
+        return Registered().GetResourceWebPathByName(name);
+    }
+    bool SetResourceLocalPath(const CString& path) { return Registered().SetResourceLocalPath(path); }
+
+    // Copies the gadget's files into the directory of `path` and writes the file there. With `force` not 0
+    // nobody is asked about names that are taken. False when the file can't be written; the copies have been
+    // made by then.
+    bool WriteConfigFileEx(const CString& path, short force);
+
+    CVignelConfig m_Config;
+    CDhtmlGadget* m_pGadget = &m_NoSelect; // the current one
+    CString m_Type = "0";                  // its type, "0" to "9", or what a file said
+    bool m_bResourcesRegistered = false;
+    CNoSelect m_NoSelect;
+    CAnimateText m_AnimateText;
+
+private:
+    void SelectGadget();
+    CVignelConfig& Registered();
+};

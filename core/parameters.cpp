@@ -1,0 +1,117 @@
+#include "core/parameters.h"
+
+#include "core/vignel_config.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view kCommaMask = "~@^`";
+constexpr std::string_view kLineBreakMask = "|_#`";
+
+std::string_view TakeItem(std::string_view& left) {
+    const size_t nComma = FindCharacters(left, ",");
+    const std::string_view item = left.substr(0, nComma);
+    left.remove_prefix(nComma == std::string_view::npos ? left.size() : nComma + 1);
+    return item;
+}
+
+CString Unmask(std::string_view item) {
+    CString text(item);
+    text.Replace(kCommaMask, ",");
+    text.Replace(kLineBreakMask, "\r\n");
+    return text;
+}
+
+void AppendItem(CString& value, const CString& item, bool bMasked) {
+    if (bMasked && item.Find(',') >= 0) {
+        CString masked = item;
+        masked.Replace(",", kCommaMask);
+        value += masked;
+    } else {
+        value += item;
+    }
+}
+
+// A line break within a value would end its line in the file.
+CString WithoutLineBreaks(CString value) {
+    if (value.View().find_first_of("\r\n") != std::string_view::npos) {
+        for (const char* pBreak : {"\r\n", "\r", "\n"})
+            value.Replace(pBreak, "<br>");
+    }
+    return value;
+}
+
+} // namespace
+
+CString CListItems::Next() {
+    return Unmask(TakeItem(m_Left));
+}
+
+CString GetListItem(const CString& text, int nIndex) {
+    if (nIndex < 0)
+        return {};
+    std::string_view left = text;
+    while (nIndex-- > 0 && !left.empty())
+        TakeItem(left);
+    return Unmask(TakeItem(left));
+}
+
+void CParameterExchange::Items(const char* pKey, CParameterField list) {
+    CStringArray& items = *list.m_pList;
+    items.SetSize(CountFor(items.GetSize()));
+    CParameterColumn column{list.m_pName, {}, list.m_bMasked};
+    column.m_Items.reserve(static_cast<size_t>(items.GetSize()));
+    for (CString& item : items)
+        column.m_Items.push_back(&item);
+    DoItems(pKey, column);
+}
+
+void CParameterReader::Fields(const char* pKey, std::initializer_list<CParameterField> fields) {
+    const CString value = m_Config.GetParameter(pKey, "");
+    CListItems items(value);
+    for (const CParameterField& field : fields) {
+        CString item = items.Next();
+        if (field.m_pList)
+            m_nCount = std::clamp(ToInteger(item), 0, kMaxListItems);
+        else if (!item.IsEmpty())
+            *field.m_pText = std::move(item);
+    }
+}
+
+void CParameterReader::Text(const char* pKey, CParameterField field) {
+    *field.m_pText = m_Config.GetParameter(pKey, "");
+}
+
+void CParameterReader::DoItems(const char* pKey, const CParameterColumn& column) {
+    const CString value = m_Config.GetParameter(pKey, "");
+    CListItems items(value);
+    for (CString* pItem : column.m_Items)
+        *pItem = items.Next();
+}
+
+void CParameterWriter::Fields(const char* pKey, std::initializer_list<CParameterField> fields) {
+    CString value;
+    for (const CParameterField& field : fields) {
+        if (&field != fields.begin())
+            value += ',';
+        if (field.m_pList)
+            value += ToText(field.m_pList->GetSize());
+        else
+            AppendItem(value, *field.m_pText, field.m_bMasked);
+    }
+    m_Config.SetParameter(pKey, WithoutLineBreaks(std::move(value)));
+}
+
+void CParameterWriter::Text(const char* pKey, CParameterField field) {
+    m_Config.SetParameter(pKey, WithoutLineBreaks(*field.m_pText));
+}
+
+void CParameterWriter::DoItems(const char* pKey, const CParameterColumn& column) {
+    CString value;
+    for (const CString* pItem : column.m_Items) {
+        AppendItem(value, *pItem, column.m_bMasked);
+        value += ',';
+    }
+    m_Config.SetParameter(pKey, WithoutLineBreaks(std::move(value)));
+}

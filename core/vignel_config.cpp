@@ -1,0 +1,307 @@
+#include "core/vignel_config.h"
+
+#include "core/line_reader.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+struct CPartMarkers {
+    std::string_view m_Begin;
+    std::string_view m_End;
+};
+
+constexpr CPartMarkers kDescriptionPart{"========== Description Part Begin ==========",
+                                        "========== Description Part End =========="};
+constexpr CPartMarkers kParameterPart{"========== Parameter Part Begin ==========",
+                                      "========== Parameter Part End =========="};
+constexpr CPartMarkers kResourcePart{"========== Resource Part Begin ==========",
+                                     "========== Resource Part End =========="};
+constexpr CPartMarkers kHtmlPart{"========== HTML Part Begin ==========",
+                                 "========== HTML Part End =========="};
+constexpr std::string_view kSegmentEnd = "===== Segment End =====";
+
+constexpr std::string_view kResourceNumber = "Resource Number";
+constexpr std::string_view kSegmentNumber = "Segment Number";
+constexpr std::string_view kSegmentPosition = "Segment Position";
+
+struct CKeyLine {
+    std::string_view m_Key;
+    std::string_view m_Value;
+};
+
+// A line cut at its first "=", both sides trimmed; nothing without "=".
+std::optional<CKeyLine> SplitKeyLine(std::string_view line) {
+    const size_t nEquals = line.find('=');
+    if (nEquals == std::string_view::npos)
+        return std::nullopt;
+    return CKeyLine{Trim(line.substr(0, nEquals)), Trim(line.substr(nEquals + 1))};
+}
+
+VignelResource ParseResource(std::string_view line) {
+    const size_t nFirst = line.find('=');
+    const size_t nLast = line.rfind('=');
+    VignelResource resource;
+    resource.m_Name = Trim(line.substr(0, nFirst));
+    resource.m_LocalPath = Trim(line.substr(nFirst + 1, nFirst == nLast ? nLast : nLast - nFirst - 1));
+    if (nFirst != nLast)
+        resource.m_WebPath = Trim(line.substr(nLast + 1));
+    return resource;
+}
+
+// The part readers below take lines from where the one before stopped and never go back. Each stops at the
+// end of the file wherever it is, leaving what it has stored.
+
+bool SkipTo(CLineReader& lines, std::string_view marker) {
+    while (lines.Next()) {
+        if (EqualsNoCase(lines.Line(), marker))
+            return true;
+    }
+    return false;
+}
+
+void ReadKeys(CLineReader& lines, const CPartMarkers& markers, CMapStringToString& map) {
+    if (!SkipTo(lines, markers.m_Begin))
+        return;
+    while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
+        if (const auto pair = SplitKeyLine(lines.Line()))
+            map[pair->m_Key] = pair->m_Value;
+    }
+}
+
+// The next line with the given key; its value.
+std::optional<std::string_view> SkipToKey(CLineReader& lines, std::string_view key) {
+    while (lines.Next()) {
+        const auto pair = SplitKeyLine(lines.Line());
+        if (pair && EqualsNoCase(pair->m_Key, key))
+            return pair->m_Value;
+    }
+    return std::nullopt;
+}
+
+// The number of records that a number line gives: 16 bits. The list gets exactly that size, but for 0, which
+// leaves it as it was.
+template <class TRecord>
+int ReadCount(CLineReader& lines, std::string_view key, CArray<TRecord>& records) {
+    const auto value = SkipToKey(lines, key);
+    const int nCount = value ? static_cast<std::uint16_t>(ToInteger(*value)) : 0;
+    if (nCount > 0)
+        records.SetSize(nCount);
+    return nCount;
+}
+
+void ReadResources(CLineReader& lines, CArray<VignelResource>& resources) {
+    if (!SkipTo(lines, kResourcePart.m_Begin))
+        return;
+    const int nCount = ReadCount(lines, kResourceNumber, resources);
+    for (int nRead = 0; nRead < nCount;) {
+        if (!lines.Next())
+            return;
+        if (lines.Line().find('=') != std::string_view::npos)
+            resources[nRead++] = ParseResource(lines.Line());
+    }
+    SkipTo(lines, kResourcePart.m_End);
+}
+
+void ReadBody(CLineReader& lines, std::string& body) {
+    while (lines.Next() && !EqualsNoCase(lines.Line(), kSegmentEnd))
+        body.append(lines.Line()).append(kLineEnd);
+}
+
+void ReadSegments(CLineReader& lines, CArray<VignelSegment>& segments) {
+    if (!SkipTo(lines, kHtmlPart.m_Begin))
+        return;
+    const int nCount = ReadCount(lines, kSegmentNumber, segments);
+    for (int nSegment = 0; nSegment < nCount; ++nSegment) {
+        const auto position = SkipToKey(lines, kSegmentPosition);
+        if (!position)
+            return;
+        segments[nSegment].m_Position = *position;
+        std::string body;
+        ReadBody(lines, body);
+        segments[nSegment].m_Body = std::move(body);
+    }
+}
+
+void WritePartBegin(COutputFile& file, const CPartMarkers& markers) {
+    file.Write(markers.m_Begin);
+    file.Write(kLineEnd);
+}
+
+void WritePartEnd(COutputFile& file, const CPartMarkers& markers) {
+    file.Write(markers.m_End);
+    file.Write("\r\n\r\n");
+}
+
+void WriteKeyLine(COutputFile& file, std::string_view key, std::string_view value) {
+    file.Write(key);
+    file.Write(" = ");
+    file.Write(value);
+    file.Write(kLineEnd);
+}
+
+void WriteKeys(COutputFile& file, const CPartMarkers& markers, const CMapStringToString& map) {
+    WritePartBegin(file, markers);
+    map.ForEach([&](const CString& key, const CString& value) { WriteKeyLine(file, key, value); });
+    WritePartEnd(file, markers);
+}
+
+// How many records the number lines, 16 bits wide, can promise.
+template <class TRecord>
+int WritableCount(const CArray<TRecord>& records) {
+    return static_cast<int>(std::min<std::ptrdiff_t>(records.GetSize(), 0xFFFF));
+}
+
+void WriteResources(COutputFile& file, const CArray<VignelResource>& resources) {
+    const int nCount = WritableCount(resources);
+    WritePartBegin(file, kResourcePart);
+    WriteKeyLine(file, kResourceNumber, ToText(nCount));
+    for (int nIndex = 0; nIndex < nCount; ++nIndex) {
+        const VignelResource& resource = resources[nIndex];
+        for (std::string_view piece :
+             {resource.m_Name.View(), std::string_view("="), resource.m_LocalPath.View(),
+              std::string_view("="), resource.m_WebPath.View(), kLineEnd})
+            file.Write(piece);
+    }
+    WritePartEnd(file, kResourcePart);
+}
+
+void WriteSegments(COutputFile& file, const CArray<VignelSegment>& segments) {
+    const int nCount = WritableCount(segments);
+    WritePartBegin(file, kHtmlPart);
+    WriteKeyLine(file, kSegmentNumber, ToText(nCount));
+    for (int nIndex = 0; nIndex < nCount; ++nIndex) {
+        WriteKeyLine(file, kSegmentPosition, segments[nIndex].m_Position);
+        file.Write(segments[nIndex].m_Body);
+        file.Write(kSegmentEnd);
+        file.Write(kLineEnd);
+    }
+    WritePartEnd(file, kHtmlPart);
+}
+
+const VignelResource kNoResource;
+
+const VignelResource& ResourceAt(const CArray<VignelResource>& resources, short nIndex) {
+    return nIndex >= 0 && nIndex < resources.GetSize() ? resources[nIndex] : kNoResource;
+}
+
+const VignelResource& ResourceNamed(const CArray<VignelResource>& resources, const CString& name) {
+    const auto found = std::find_if(resources.begin(), resources.end(),
+                                    [&](const VignelResource& resource) { return resource.m_Name == name; });
+    return found != resources.end() ? *found : kNoResource;
+}
+
+} // namespace
+
+bool CVignelConfig::SetProperty(const char* pKey, const CString& text) {
+    m_DescriptionMap[pKey] = text;
+    return true;
+}
+
+double CVignelConfig::GetLastUpdateTime() {
+    return atof(m_DescriptionMap["LastUpdateTime"]);
+}
+
+bool CVignelConfig::SetLastUpdateTime(double time) {
+    char text[400]; // the longest double has 309 digits before its point
+    snprintf(text, sizeof text, "%.9f", time);
+    return SetProperty("LastUpdateTime", text);
+}
+
+CString CVignelConfig::GetParameter(const CString& key, const CString& defaultValue) const {
+    const CString* pValue = m_ParameterMap.Find(key);
+    return pValue ? *pValue : defaultValue;
+}
+
+bool CVignelConfig::SetParameter(const CString& key, CString value) {
+    m_ParameterMap[key] = std::move(value);
+    return true;
+}
+
+bool CVignelConfig::ClearParameters() {
+    m_ParameterMap.RemoveAll();
+    return true;
+}
+
+bool CVignelConfig::ClearResources() {
+    m_Resources.RemoveAll();
+    return true;
+}
+
+bool CVignelConfig::AddResource(VignelResource record) {
+    m_Resources.Add(std::move(record));
+    return true;
+}
+
+CString CVignelConfig::GetResourceName(short nIndex) const {
+    return ResourceAt(m_Resources, nIndex).m_Name;
+}
+
+CString CVignelConfig::GetResourceLocalPath(short nIndex) const {
+    return ResourceAt(m_Resources, nIndex).m_LocalPath;
+}
+
+CString CVignelConfig::GetResourceWebPath(short nIndex) const {
+    return ResourceAt(m_Resources, nIndex).m_WebPath;
+}
+
+CString CVignelConfig::GetResourceLocalPathByName(const CString& name) const {
+    return ResourceNamed(m_Resources, name).m_LocalPath;
+}
+
+CString CVignelConfig::GetResourceWebPathByName(const CString& name) const {
+    return ResourceNamed(m_Resources, name).m_WebPath;
+}
+
+bool CVignelConfig::SetResourceLocalPath(const CString& path) {
+    for (VignelResource& resource : m_Resources)
+        resource.m_LocalPath = path;
+    return true;
+}
+
+bool CVignelConfig::ClearSegments() {
+    m_Segments.RemoveAll();
+    return true;
+}
+
+int CVignelConfig::AddSegment(VignelSegment record) {
+    return static_cast<int>(m_Segments.Add(std::move(record)));
+}
+
+bool CVignelConfig::ReadFile(const CString& path) {
+    CInputFile file;
+    if (!file.Open(path))
+        return false;
+    CLineReader lines(file);
+    ReadKeys(lines, kDescriptionPart, m_DescriptionMap);
+    ReadKeys(lines, kParameterPart, m_ParameterMap);
+    ReadResources(lines, m_Resources);
+    ReadSegments(lines, m_Segments);
+    return true;
+}
+
+bool CVignelConfig::WriteFile(const CString& path) const {
+    COutputFile file;
+    if (!file.Open(path))
+        return false;
+    WriteKeys(file, kDescriptionPart, m_DescriptionMap);
+    WriteKeys(file, kParameterPart, m_ParameterMap);
+    WriteResources(file, m_Resources);
+    WriteSegments(file, m_Segments);
+    return file.Commit();
+}
+
+CString FileNameOfPath(const CString& path) {
+    return path.Mid(path.ReverseFind('\\') + 1);
+}
+
+CString DirectoryOfPath(const CString& path) {
+    return path.Left(path.ReverseFind('\\'));
+}

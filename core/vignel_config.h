@@ -1,0 +1,91 @@
+// The store of one configuration file: a sectioned text file that the host keeps for each inserted effect.
+//
+// The file has four parts in this order, each between a Begin and an End line: the Description Part (what the
+// host shows and needs), the Parameter Part (what the effect needs to come back), the Resource Part (the
+// files that the page needs) and the HTML Part (the generated text). docs/file_format.md shows it whole. The
+// store knows nothing of what a key means.
+//
+// Text is bytes; nothing is converted. No operation throws but for want of memory.
+#pragma once
+
+#include "platform/array.h"
+#include "platform/string.h"
+#include "platform/string_map.h"
+
+struct VignelResource {
+    CString m_Name;      // the file's name
+    CString m_LocalPath; // the directory on the user's machine where it lies
+    CString m_WebPath;   // its directory as the page refers to it
+};
+
+struct VignelSegment {
+    CString m_Position; // where the host places it: "script" or "cursor"
+    CString m_Body;     // the text, which has to end in CR LF to be found again
+};
+
+class CVignelConfig {
+public:
+    // The properties of the Description Part. A getter creates a key that is absent, with an empty value, so
+    // that the next written file has it. A setter returns true.
+    CString GetProgID() { return m_DescriptionMap["ProgID"]; }
+    CString GetTitle() { return m_DescriptionMap["Title"]; }
+    CString GetDescription() { return m_DescriptionMap["Description"]; }
+    CString GetBitmapFileName() { return m_DescriptionMap["BitmapFileName"]; }
+    CString GetPreviewPath() { return m_DescriptionMap["PreviewPath"]; }
+    bool SetProgID(const CString& text) { return SetProperty("ProgID", text); }
+    bool SetTitle(const CString& text) { return SetProperty("Title", text); }
+    bool SetDescription(const CString& text) { return SetProperty("Description", text); }
+    bool SetBitmapFileName(const CString& text) { return SetProperty("BitmapFileName", text); }
+    bool SetPreviewPath(const CString& text) { return SetProperty("PreviewPath", text); }
+
+    // Days since 30 December 1899, the fraction being the time of day; stored with nine decimals.
+    double GetLastUpdateTime();
+    bool SetLastUpdateTime(double time);
+
+    // The value of a parameter, or `defaultValue` when the key is absent; creates nothing.
+    CString GetParameter(const CString& key, const CString& defaultValue) const;
+    bool SetParameter(const CString& key, CString value);
+    bool ClearParameters();
+
+    // Counts and indices of resources are 16 bits wide, as hosts have them. A field of an index outside of
+    // the list, or of a name that no record has, is empty. Names compare byte for byte; the first record of a
+    // name counts.
+    short GetResourceCount() const { return static_cast<short>(m_Resources.GetSize()); }
+    bool ClearResources();
+    bool AddResource(VignelResource record);
+    CString GetResourceName(short nIndex) const;
+    CString GetResourceLocalPath(short nIndex) const;
+    CString GetResourceWebPath(short nIndex) const;
+    CString GetResourceLocalPathByName(const CString& name) const;
+    CString GetResourceWebPathByName(const CString& name) const;
+    // Points every record at one directory.
+    bool SetResourceLocalPath(const CString& path);
+
+    bool ClearSegments();
+    // The result is the segment's index.
+    int AddSegment(VignelSegment record);
+
+    // Reads a file into the store: keys, records and segments of the file are added to or overwrite what the
+    // store holds; nothing is emptied first. False, and nothing changes, when the file can't be opened.
+    // Whatever else is wrong with the file, what could be read of it is in the store and the result is true.
+    // The time is in proportion to the file, the memory beside the store's own is that of the longest line.
+    bool ReadFile(const CString& path);
+
+    // Writes the store, replacing the file as a whole. False when that failed; an old file is then as it was.
+    // At most 65,535 resources and segments fit the format; what lies behind them is not written.
+    bool WriteFile(const CString& path) const;
+
+    CMapStringToString m_DescriptionMap;
+    CMapStringToString m_ParameterMap;
+    CArray<VignelResource> m_Resources;
+    CArray<VignelSegment> m_Segments;
+
+private:
+    bool SetProperty(const char* pKey, const CString& text);
+};
+
+// The text behind the last backslash; the whole path when it has none.
+CString FileNameOfPath(const CString& path);
+
+// The text before the last backslash, without it; empty when there is none.
+CString DirectoryOfPath(const CString& path);

@@ -1,0 +1,7 @@
+// The addresses that new effects start with.
+#pragma once
+
+inline constexpr char kMakerHomePage[] = "http://www.brindlefen.example/";
+inline constexpr char kMakerHost[] = "www.brindlefen.example";
+inline constexpr char kHostProductHomePage[] = "http://www.vellumark.example/";
+inline constexpr char kHostProductHost[] = "www.vellumark.example";
