@@ -8,6 +8,7 @@
 // Paths have backslashes between their parts.
 #pragma once
 
+#include "platform/array.h"
 #include "toolkit/edit.h"
 
 #include <utility>
