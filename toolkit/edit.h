@@ -1,0 +1,22 @@
+// CEdit: an edit box of one line or several, for any text or for digits alone.
+#pragma once
+
+#include "toolkit/control.h"
+
+class CEdit : public CControl {
+public:
+    bool IsMultiLine() const { return m_bMultiLine; }
+
+    // The box's text is now `text`. A box for digits takes the digits of it; a box of one line takes the
+    // first line. Notifies Changed. A disabled box takes nothing.
+    void PersonTypes(CPersonKey, const CString& text);
+
+protected:
+    void OnCreate(const CControlDescription& description) override;
+
+private:
+    CString Accepted(const CString& text) const;
+
+    bool m_bMultiLine = false;
+    bool m_bDigits = false;
+};

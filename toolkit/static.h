@@ -1,0 +1,6 @@
+// CStatic: a text that a person reads. The program may change it while the dialog is open.
+#pragma once
+
+#include "toolkit/control.h"
+
+class CStatic : public CControl {};
