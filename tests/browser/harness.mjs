@@ -117,11 +117,18 @@ export function givePage(text, name = `given_${++nGivenPages}.html`) {
     return name.replace(/\.html$/, "");
 }
 
+// The text of NAME.html, for tests that give a page made from it.
+export async function pageText(name) {
+    const bytes = await readPage(`${name}.html`);
+    assert.ok(bytes, `no ${name}.html in ORRELIX_PAGES`);
+    return bytes.toString("utf8");
+}
+
 // Opens NAME.html in a browser context of its own.
 //   mode           "standards" or "quirks"
 //   reducedMotion  the visitor asks for reduced motion
 //   scripts        false: a visitor without scripts
-//   before         a function run in the page before its first script (see Playwright's addInitScript)
+//   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
 //   clock          true: the page's time stands still until the test moves it with page.clock
 // Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
 // so far, and a test that provokes one on purpose empties it.
@@ -142,7 +149,7 @@ export async function openEffect(
         if (message.type() === "error")
             errors.push(`${message.text()} (${message.location().url})`);
     });
-    page.on("pageerror", (error) => errors.push(error.stack ?? String(error)));
+    page.on("pageerror", (error) => errors.push(error.stack || String(error)));
     if (clock)
         await page.clock.install();
     if (before)

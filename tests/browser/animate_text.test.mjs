@@ -1,0 +1,102 @@
+import test from "node:test";
+import assert from "node:assert/strict";
+import { givePage, openEffect, pageText, setHidden, testBothModes, watch } from "./harness.mjs";
+
+// What a visitor sees of the text: how far below the top of its box it stands, its colour and its words.
+function look() {
+    const element = document.getElementById("brndfntextanim");
+    const top = element.getBoundingClientRect().top - element.parentElement.getBoundingClientRect().top;
+    return { top, color: getComputedStyle(element).color, text: element.innerText.trim() };
+}
+
+const shownText = () => document.getElementById("brndfntextanim").innerText.trim();
+
+// A text that takes eleven seconds to rise, for tests that catch it on its way.
+const slow = givePage(
+    (await pageText("animate_text_plain")).replace("brndfnanimatetextinterval=10;", "brndfnanimatetextinterval=100;"),
+    "animate_text_slow.html",
+);
+
+async function assertMoves(page, bMoves) {
+    const before = await page.evaluate(look);
+    await page.waitForTimeout(300);
+    const after = await page.evaluate(look);
+    assert.equal(after.top < before.top, bMoves, `from ${before.top} to ${after.top}`);
+}
+
+testBothModes("animate_text_plain", "a text rises from its start and takes on its colour", async ({ page }) => {
+    const seen = await watch(page, look, (values) => values.at(-1).top === 0 && values.length > 1);
+    const tops = seen.map(({ top }) => top);
+    assert.ok(tops[0] > 20 && tops[0] <= 110, `starts at ${tops[0]}`);
+    assert.deepEqual(tops, tops.toSorted((a, b) => b - a), "it only ever rises");
+    assert.ok(new Set(tops).size > 8, `it moves smoothly, not in leaps: ${tops}`);
+    assert.equal(seen.at(-1).color, "rgb(0, 0, 255)");
+    assert.notEqual(seen[0].color, "rgb(0, 0, 255)");
+    assert.equal(seen.at(-1).text, "Animate Text");
+});
+
+testBothModes("animate_text_rich", "the texts follow one another and begin again", async ({ page }) => {
+    const seen = await watch(page, shownText, (texts) => texts.length > 3, { milliseconds: 20_000 });
+    assert.deepEqual(seen, ["First, with a comma", "Second\nline", "Third", "First, with a comma"]);
+});
+
+testBothModes(slow, "a click or a key stops the text and lets it go on", async ({ page }) => {
+    const element = page.locator("#brndfntextanim");
+    const ways = [() => element.click({ force: true }), () => element.press("Enter")];
+    for (const toggle of ways) {
+        await assertMoves(page, true);
+        await toggle();
+        await assertMoves(page, false);
+        await toggle();
+    }
+});
+
+testBothModes("animate_text_rich", "a link in the text stays while it has focus", async ({ page }) => {
+    await watch(page, shownText, (texts) => texts.at(-1) === "Third", { milliseconds: 20_000 });
+    await page.locator("#brndfntextanim a").focus();
+    await page.waitForTimeout(4_000);
+    assert.deepEqual(await page.evaluate(look), { top: 0, color: "rgb(165, 42, 0)", text: "Third" });
+});
+
+testBothModes(
+    "animate_text_rich",
+    "with reduced motion the texts change without movement and fading",
+    async ({ page }) => {
+        const seen = await watch(page, look, (values) => values.length > 2, { milliseconds: 20_000 });
+        assert.deepEqual(new Set(seen.map(({ top, color }) => `${top} ${color}`)), new Set(["0 rgb(165, 42, 0)"]));
+    },
+    { reducedMotion: true },
+);
+
+testBothModes(
+    slow,
+    "on a hidden page nothing runs",
+    async ({ page }) => {
+        await assertMoves(page, true);
+        await setHidden(page, true);
+        await page.evaluate(() => (window.nFrames = 0));
+        await assertMoves(page, false);
+        assert.equal(await page.evaluate(() => window.nFrames), 0);
+        await setHidden(page, false);
+        await assertMoves(page, true);
+    },
+    {
+        before: () => {
+            const native = window.requestAnimationFrame;
+            window.requestAnimationFrame = (fn) => {
+                window.nFrames++;
+                return native(fn);
+            };
+        },
+    },
+);
+
+test("a box without texts stays empty and takes clicks", async () => {
+    const name = givePage(
+        '<script src="animate.js"></script><div><div id="brndfntextanim" onclick="breakf()">&nbsp;</div></div>',
+    );
+    const { page, close } = await openEffect(name);
+    await page.locator("#brndfntextanim").click();
+    assert.equal(await page.evaluate(shownText), "");
+    await close();
+});
