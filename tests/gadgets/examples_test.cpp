@@ -80,4 +80,4 @@ TEST_P(Example, WrittenAgainHasTheSameBytes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Gadgets, Example, testing::ValuesIn(ExampleNames()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& example) { return example.param; });

@@ -1,0 +1,235 @@
+// Reading and writing large configuration files, beside reading and writing the same bytes plainly.
+//
+// Each measure runs next to its yardstick; "ratio" is how many times the yardstick's time it takes, and
+// "peak" how much memory reading took beside the size of the file.
+#include "core/parameters.h"
+#include "core/vignel_config.h"
+#include "gadgets/animate_text.h"
+#include "platform/files.h"
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr size_t kFileSize = 64 << 20;
+
+enum class EShape { BigSegment, Parameters, Resources };
+
+const char* NameOf(EShape shape) {
+    const char* names[] = {"one big segment", "parameter keys", "resources"};
+    return names[static_cast<int>(shape)];
+}
+
+std::string Number(long nNumber) {
+    char text[16];
+    snprintf(text, sizeof text, "%07ld", nNumber);
+    return text;
+}
+
+// A store whose file has about nSize bytes in nRecords records.
+std::unique_ptr<CVignelConfig> MakeStore(EShape shape, size_t nSize, long nRecords) {
+    auto pStore = std::make_unique<CVignelConfig>();
+    const size_t nEach = nSize / static_cast<size_t>(nRecords);
+    for (long nRecord = 0; nRecord < nRecords; ++nRecord) {
+        switch (shape) {
+        case EShape::BigSegment: {
+            std::string body;
+            body.reserve(nSize);
+            while (body.size() < nEach)
+                body += "<p>A line of the page, about as long as lines of generated text are.</p>\r\n";
+            pStore->AddSegment({"cursor", CString(std::move(body))});
+            break;
+        }
+        case EShape::Parameters:
+            pStore->SetParameter("Key" + Number(nRecord), CString(std::string(nEach - 15, 'v')));
+            break;
+        case EShape::Resources:
+            pStore->AddResource({CString("image" + Number(nRecord) + ".gif"),
+                                 CString(std::string(nEach / 2 - 16, 'l')),
+                                 CString(std::string(nEach / 2 - 4, 'w'))});
+        }
+    }
+    return pStore;
+}
+
+class CScratch {
+public:
+    CScratch() {
+        std::string name = (fs::temp_directory_path() / "orrelix-bench-XXXXXX").string();
+        m_Path = mkdtemp(name.data());
+    }
+    ~CScratch() { fs::remove_all(m_Path); }
+    fs::path m_Path;
+};
+
+CString HostPath(const fs::path& path) {
+    CString text = path.string();
+    text.Replace("/", "\\");
+    return text;
+}
+
+// A file of a shape, made once and kept while the program runs.
+fs::path FileOf(EShape shape, size_t nSize, long nRecords) {
+    static CScratch s_Scratch;
+    const fs::path path =
+        s_Scratch.m_Path / (std::string(NameOf(shape)) + Number(nRecords) + Number(long(nSize)) + ".cfg");
+    if (!fs::exists(path))
+        MakeStore(shape, nSize, nRecords)->WriteFile(HostPath(path));
+    return path;
+}
+
+double Seconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// Reads the file in one call and copies its bytes once, into memory of their own.
+void ReadPlainly(const fs::path& path) {
+    const size_t nSize = fs::file_size(path);
+    std::unique_ptr<char[]> pBytes(new char[nSize]), pCopy(new char[nSize]);
+    FILE* pFile = fopen(path.c_str(), "rb");
+    benchmark::DoNotOptimize(fread(pBytes.get(), 1, nSize, pFile));
+    fclose(pFile);
+    memcpy(pCopy.get(), pBytes.get(), nSize);
+    benchmark::DoNotOptimize(pCopy.get());
+}
+
+// Writes the bytes in one call and has them brought to the disk, as the store's writer does.
+void WritePlainly(const fs::path& path, const std::string& bytes) {
+    FILE* pFile = fopen(path.c_str(), "wb");
+    benchmark::DoNotOptimize(fwrite(bytes.data(), 1, bytes.size(), pFile));
+    fflush(pFile);
+    fsync(fileno(pFile));
+    fclose(pFile);
+}
+
+// How much memory a process of its own has at its peak, in bytes, that does nothing but the work.
+double PeakOf(const std::function<void()>& work) {
+    const pid_t nChild = fork();
+    if (nChild == 0) {
+        work();
+        _exit(0);
+    }
+    rusage usage{};
+    wait4(nChild, nullptr, 0, &usage);
+    return static_cast<double>(usage.ru_maxrss) * 1024;
+}
+
+// Runs the work as the benchmark and the yardstick before each round; reports how they compare.
+void MeasureBeside(benchmark::State& state, size_t nBytes, const std::function<void()>& yardstick,
+                   const std::function<void()>& work) {
+    double yardstickSeconds = 0, workSeconds = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        yardstickSeconds += Seconds(yardstick);
+        state.ResumeTiming();
+        workSeconds += Seconds(work);
+    }
+    state.counters["ratio"] = workSeconds / yardstickSeconds;
+    state.SetBytesProcessed(static_cast<int64_t>(nBytes) * state.iterations());
+}
+
+void ReadConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nRecords) {
+    const fs::path path = FileOf(shape, nSize, nRecords);
+    const auto read = [&] {
+        CVignelConfig config;
+        config.ReadFile(HostPath(path));
+        benchmark::DoNotOptimize(config.m_Segments.GetSize());
+    };
+    MeasureBeside(
+        state, fs::file_size(path), [&] { ReadPlainly(path); }, read);
+    const double nothing = PeakOf([] {});
+    state.counters["peak"] = (PeakOf(read) - nothing) / static_cast<double>(fs::file_size(path));
+}
+
+void WriteConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nRecords) {
+    const fs::path path = FileOf(shape, nSize, nRecords);
+    CVignelConfig config;
+    config.ReadFile(HostPath(path));
+    std::string bytes;
+    ReadWholeFile(HostPath(path), bytes);
+    const fs::path target = path.parent_path() / "written";
+    MeasureBeside(
+        state, bytes.size(), [&] { WritePlainly(target, bytes); },
+        [&] { config.WriteFile(HostPath(target)); });
+}
+
+// An effect with a list of as many items, read from its parameters.
+void ReadGadgetList(benchmark::State& state, long nItems) {
+    CAnimateText animate;
+    animate.m_Messages.RemoveAll();
+    for (long nItem = 0; nItem < nItems; ++nItem)
+        animate.m_Messages.Add("Message " + Number(nItem) + ", with a comma and some more text behind it");
+    CVignelConfig config;
+    animate.WriteParameters(config);
+    const size_t nBytes = static_cast<size_t>(config.GetParameter("AnimateTextStr", "").GetLength());
+    const std::string source(nBytes, 'x');
+    std::string target(nBytes, 'y');
+    MeasureBeside(
+        state, nBytes, [&] { benchmark::DoNotOptimize(memcpy(target.data(), source.data(), nBytes)); },
+        [&] { animate.ReadParameters(config, ""); });
+}
+
+// The text of an effect beside copying as many bytes into memory of their own.
+void GenerateBody(benchmark::State& state, long nItems, size_t nItemSize) {
+    CAnimateText animate;
+    animate.m_Messages.RemoveAll();
+    for (long nItem = 0; nItem < nItems; ++nItem)
+        animate.m_Messages.Add(CString(std::string(nItemSize, 'm')));
+    CVignelConfig config;
+    const std::string text(animate.GetHTMLBody(config, kPublish, 0).View());
+    MeasureBeside(
+        state, text.size(),
+        [&] {
+            std::unique_ptr<char[]> pCopy(new char[text.size()]);
+            benchmark::DoNotOptimize(memcpy(pCopy.get(), text.data(), text.size()));
+        },
+        [&] { benchmark::DoNotOptimize(animate.GetHTMLBody(config, kPublish, 0).GetLength()); });
+}
+
+const int s_nRegistered = [] {
+    const struct {
+        EShape m_Shape;
+        long m_nRecords;
+    } shapes[] = {{EShape::BigSegment, 1}, {EShape::Parameters, 1'000'000}, {EShape::Resources, 60'000}};
+    for (const auto& [shape, nRecords] : shapes) {
+        const std::string what = std::string("64 MiB of ") + NameOf(shape);
+        benchmark::RegisterBenchmark(("read " + what).c_str(), ReadConfigFile, shape, kFileSize, nRecords)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark(("write " + what).c_str(), WriteConfigFile, shape, kFileSize, nRecords)
+            ->Unit(benchmark::kMillisecond);
+        if (nRecords > 1) {
+            benchmark::RegisterBenchmark(
+                ("read a tenth of it, 1/10 of the " + std::string(NameOf(shape))).c_str(), ReadConfigFile,
+                shape, kFileSize / 10, nRecords / 10)
+                ->Unit(benchmark::kMillisecond);
+        }
+    }
+    for (long nItems : {6'000L, 60'000L}) {
+        benchmark::RegisterBenchmark(("read a list of " + std::to_string(nItems) + " items").c_str(),
+                                     ReadGadgetList, nItems)
+            ->Unit(benchmark::kMillisecond);
+    }
+    benchmark::RegisterBenchmark("GetHTMLBody, defaults", GenerateBody, 4, size_t(30))
+        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("GetHTMLBody, one text of 4 MiB", GenerateBody, 1, size_t(4) << 20)
+        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark("GetHTMLBody, 60,000 texts", GenerateBody, 60'000, size_t(50))
+        ->Unit(benchmark::kMicrosecond);
+    return 0;
+}();
+
+} // namespace
