@@ -13,10 +13,9 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -116,17 +115,27 @@ void WritePlainly(const fs::path& path, const std::string& bytes) {
     fclose(pFile);
 }
 
-// How much memory a process of its own has at its peak, in bytes, that runs this program with the given
-// argument.
-double PeakOf(const char* pArgument, const fs::path& path) {
-    const pid_t nChild = fork();
-    if (nChild == 0) {
-        execl("/proc/self/exe", "orrelix_bench", pArgument, path.c_str(), nullptr);
-        _exit(1);
+// The most memory that this process has had, in bytes.
+double PeakOfThisProcess() {
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        if (word == "VmHWM:" && status >> word)
+            return std::stod(word) * 1024;
     }
-    rusage usage{};
-    wait4(nChild, nullptr, 0, &usage);
-    return static_cast<double>(usage.ru_maxrss) * 1024;
+    return 0;
+}
+
+// The same of a process of its own, of this program with the given argument.
+double PeakOf(const char* pArgument, const fs::path& path) {
+    double peak = 0;
+    const std::string command = "exec '" + fs::read_symlink("/proc/self/exe").string() + "' " + pArgument +
+                                " '" + path.string() + "'";
+    if (FILE* pOutput = popen(command.c_str(), "r")) {
+        if (fscanf(pOutput, "%lf", &peak) != 1)
+            peak = 0;
+        pclose(pOutput);
+    }
+    return peak;
 }
 
 // Runs the work as the benchmark and the yardstick before each round. "ratio" compares the fastest rounds of
@@ -246,6 +255,7 @@ int main(int nArguments, char** pArguments) {
         CVignelConfig config;
         if (pArguments[1] == std::string_view("--read"))
             config.ReadFile(HostPath(pArguments[2]));
+        printf("%.0f\n", PeakOfThisProcess());
         return 0;
     }
     benchmark::Initialize(&nArguments, pArguments);
