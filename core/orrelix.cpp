@@ -14,6 +14,8 @@ void COrrelix::SelectGadget() {
     } gadgets[] = {
         {"0", m_NoSelect},
         {"1", m_AnimateText},
+        {"2", m_TextShow},
+        {"9", m_DanceText},
     };
     for (const auto& row : gadgets) {
         if (m_Type == row.m_pType)

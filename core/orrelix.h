@@ -16,7 +16,9 @@
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
 #include "gadgets/animate_text.h"
+#include "gadgets/dance_text.h"
 #include "gadgets/no_select.h"
+#include "gadgets/text_show.h"
 
 class COrrelix {
 public:
@@ -96,6 +98,8 @@ public:
     bool m_bResourcesRegistered = false;
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
+    CTextShow m_TextShow;
+    CDanceText m_DanceText;
 
 private:
     void SelectGadget();

@@ -63,11 +63,12 @@
         });
     }
 
-    // Font names that are no sequence of identifiers, such as "@Fixedsys", in quotes.
+    // Font names with a word that is no identifier, such as "@Fixedsys", in quotes.
     function withQuotedFonts(value) {
-        const identifiers = /^\s*(?:-?[a-z_\u0080-\uffff][\w\u0080-\uffff-]*\s*)+$/i;
+        const identifier = /^-?[a-z_\u0080-\uffff][\w\u0080-\uffff-]*$/i;
+        const needsQuotes = (name) => name.split(/\s+/).some((word) => word !== "" && !identifier.test(word));
         return splitOutside(value, ",")
-            .map((name) => (identifiers.test(name) || /["']/.test(name) ? name : `"${name.trim()}"`))
+            .map((name) => (needsQuotes(name) && !/["']/.test(name) ? `"${name.trim()}"` : name))
             .join(",");
     }
 
@@ -86,14 +87,14 @@
     }
 
     function repairDeclaration(declaration) {
-        const nColon = declaration.indexOf(":");
-        if (nColon < 0)
+        const [head, property] = /^(?:\s|\/\*.*?\*\/)*([-\w]+)\s*:\s*/s.exec(declaration) ?? [];
+        if (!head)
             return declaration;
-        const property = declaration.slice(0, nColon).replace(/\/\*.*?\*\//gs, "").trim().toLowerCase();
-        const [, blank, value, rest] = /^(\s*)(.*?)(\s*(?:!\s*important\s*)?)$/is.exec(declaration.slice(nColon + 1));
-        for (const meaning of meanings(property, value)) {
+        const value = declaration.slice(head.length).trimEnd().replace(/\s*!\s*important$/i, "");
+        const rest = declaration.slice(head.length + value.length);
+        for (const meaning of meanings(property.toLowerCase(), value)) {
             if (CSS.supports(property, meaning))
-                return declaration.slice(0, nColon + 1) + blank + meaning + rest;
+                return head + meaning + rest;
         }
         return declaration;
     }
@@ -267,7 +268,7 @@
         const handler = nativeOnload.get.call(window);
         if (handler) {
             nativeOnload.set.call(window, null);
-            loadHandlers.unshift(handler);
+            loadHandlers.push(handler);
         }
     }
 

@@ -1,0 +1,87 @@
+#include "gadgets/text_show.h"
+
+void CTextShow::ExchangeParameters(CParameterExchange& exchange) {
+    exchange.Fields("TextShowPara",
+                    {FIELD(m_Speed), FIELD(m_TableBorder), FIELD(m_TableHeight), FIELD(m_TableWidth),
+                     FIELD(m_TextHeight), FIELD(m_TextWidth), FIELD(m_TitleHeight), FIELD(m_TitleWidth),
+                     FIELD(m_TitleColor), FIELD(m_TextColor)});
+    exchange.Fields("TextShowFontPara",
+                    {Masked(FIELD(m_TitleFontFamily)), FIELD(m_TitleFontWeight), FIELD(m_TitleFontSize),
+                     FIELD(m_TitleFontStyle), Masked(FIELD(m_TextFontFamily)), FIELD(m_TextFontWeight),
+                     FIELD(m_TextFontSize), FIELD(m_TextFontStyle)});
+    exchange.Text("TextShowTitle", FIELD(m_TitleText));
+    exchange.Text("TextShowText", FIELD(m_Text));
+}
+
+void CTextShow::WriteParameters(CVignelConfig& config) {
+    m_Text.Replace("\r\n", "<br>");
+    WriteFields(config);
+}
+
+void CTextShow::WriteTitleCell(CHtmlText& html) const {
+    html.Line(R"(<td width=")", m_TitleWidth, R"(" height=")", m_TitleHeight, R"(" style="color:)",
+              m_TitleColor, "; font-weight: ", m_TitleFontWeight, "; font-family: ", m_TitleFontFamily,
+              "; font-style: ", m_TitleFontStyle, "; font-size: ", m_TitleFontSize, R"(;">)", m_TitleText,
+              "</td>");
+}
+
+// The script takes the text from the page, where visitors without scripts read it, and types it back.
+void CTextShow::WriteTextCell(CHtmlText& html) const {
+    html.Line(R"(<td width=")", m_TextWidth, R"(" height=")", m_TextHeight, R"(">)");
+    html.Lines(R"html(
+<script type="text/javascript1.2">
+var it=0
+var divname
+var innername
+function start()
+{
+	initialize(divname)
+}
+function initialize(testname){
+	mytext=document.all(testname).innerText
+	var myheight=document.all(testname).offsetHeight
+	document.all(testname).innerText=''
+	document.all(testname).style.height=myheight
+	document.all(testname).style.visibility="visible"
+	typeit(testname)
+}
+function typeit(){
+	document.all(divname).insertAdjacentText("beforeEnd",mytext.charAt(it))
+	if (it<mytext.length-1){
+			it++
+)html");
+    html.Line("\t\t\tsetTimeout(\"typeit()\",", m_Speed, ")}");
+    html.Lines(R"(
+	else
+		return
+}
+</script>
+)");
+    html.Line("\t", R"(<span id="typing" style="color:)", m_TextColor, "; font-family: ", m_TextFontFamily,
+              "; font-weight:", m_TextFontWeight, "; font-size:", m_TextFontSize,
+              "; font-style:", m_TextFontStyle, R"(;">)", m_Text, "</span></td>");
+}
+
+CString CTextShow::GetHTMLBody(CVignelConfig&, short, short) {
+    return MakeHtml([&](CHtmlText& html) {
+        html.Line(R"(<table width=")", m_TableWidth, R"(" border=")", m_TableBorder, R"(" height=")",
+                  m_TableHeight, R"(">)");
+        html.Line("<tr>");
+        WriteTitleCell(html);
+        WriteTextCell(html);
+        html.Lines(R"(
+</tr>
+<script language="JavaScript1.2">
+if (document.all)
+{divname="typing";
+document.body.onload=start}
+</script>
+</table>
+)");
+    });
+}
+
+short CTextShow::RegisterResources(CVignelConfig& config) {
+    config.ClearResources();
+    return 0;
+}
