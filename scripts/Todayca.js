@@ -69,7 +69,7 @@
             box.value = inside ? day : "";
             box.ariaLabel = inside ? `${weekday}, ${window.Months[month]} ${day}, ${year}` : null;
             box.ariaHidden = inside ? null : "true";
-            box.ariaCurrent = day === today ? "date" : null;
+            box.ariaCurrent = inside && day === today ? "date" : null;
         }
         [YEAR, MONTH, TODAY].forEach((index) => fit(form.elements[index]));
     }
@@ -101,11 +101,10 @@
             }
             element.tabIndex = -1;
             element.dataset.brndfnFontSize = element.style.fontSize;
-            if (index in BOX_LABELS) {
+            if (index in BOX_LABELS)
                 element.setAttribute("aria-label", BOX_LABELS[index]);
-            } else {
+            else
                 element.classList.add("brndfnday");
-            }
         });
     }
 
