@@ -14,6 +14,8 @@ void COrrelix::SelectGadget() {
     } gadgets[] = {
         {"0", m_NoSelect},
         {"1", m_AnimateText},
+        {"3", m_Calander},
+        {"8", m_TodayCa},
     };
     for (const auto& row : gadgets) {
         if (m_Type == row.m_pType)

@@ -16,7 +16,9 @@
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
 #include "gadgets/animate_text.h"
+#include "gadgets/calander.h"
 #include "gadgets/no_select.h"
+#include "gadgets/today_ca.h"
 
 class COrrelix {
 public:
@@ -96,6 +98,8 @@ public:
     bool m_bResourcesRegistered = false;
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
+    CCalander m_Calander;
+    CTodayCa m_TodayCa;
 
 private:
     void SelectGadget();

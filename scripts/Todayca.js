@@ -20,7 +20,7 @@
     // Inputs differ between pages with and without a doctype in how they count their size; both get one look.
     // The ring around today is light and dark, so that it stands out from whatever colours the author chose.
     const STYLE = `
-        .brndfncalendar input { box-sizing: border-box; display: block; margin: 0 auto; padding: 0; border: 0;
+        .brndfncalendar input { display: block; margin: 0 auto; padding: 0; border: 0;
             border-radius: 0; line-height: 1; text-align: center; }
         .brndfncalendar input[type=text] { cursor: default; }
         .brndfncalendar input[type=button] { cursor: pointer; }
