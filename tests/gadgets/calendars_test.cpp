@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+namespace fs = std::filesystem;
+
 namespace {
 
 // Gives each field its own name as its text, and a list's items their numbers behind it.
@@ -40,24 +42,21 @@ private:
 } // namespace
 
 TEST_F(Calendars, EveryFieldStandsInItsPlaces) {
+    COrrelix orrelix;
     const struct {
         const char* m_pType;
+        CDhtmlGadget& m_Gadget;
         const char* m_pExpected;
-    } gadgets[] = {{"3", "calander_fields.cfg"}, {"8", "today_ca_fields.cfg"}};
+    } gadgets[] = {{"3", orrelix.m_Calander, "calander_fields.cfg"},
+                   {"8", orrelix.m_TodayCa, "today_ca_fields.cfg"}};
     for (const auto& gadget : gadgets) {
-        COrrelix orrelix;
-        const CString path = m_Directory.Write("fields.cfg", CString("========== Description Part Begin ==========\n"
-                                                                     "ProgID = VignelServer.Orrelix\n"
-                                                                     "========== Description Part End ==========\n"
-                                                                     "========== Parameter Part Begin ==========\n"
-                                                                     "DhtmlType = ") +
-                                                                 gadget.m_pType + "\n");
-        ASSERT_TRUE(orrelix.ReadConfigFile(path));
         CNamer namer;
-        orrelix.m_pGadget->ExchangeParameters(namer);
-        ASSERT_TRUE(orrelix.WriteConfigFile(path));
-        const std::filesystem::path expected = std::filesystem::path(ORRELIX_SOURCE_DIR) / "tests/expected";
-        EXPECT_TRUE(EqualsExpected(expected / gadget.m_pExpected, FileContent(m_Directory.File("fields.cfg"))));
+        gadget.m_Gadget.ExchangeParameters(namer);
+        orrelix.m_Type = gadget.m_pType;
+        orrelix.m_pGadget = &gadget.m_Gadget;
+        ASSERT_TRUE(orrelix.WriteConfigFile(m_Directory.Path("fields.cfg")));
+        EXPECT_TRUE(EqualsExpected(fs::path(ORRELIX_SOURCE_DIR) / "tests/expected" / gadget.m_pExpected,
+                                   FileContent(m_Directory.File("fields.cfg"))));
     }
 }
 
@@ -90,8 +89,30 @@ TEST_F(Calendars, CommasAreKeptInTitlesAndFontsAlone) {
     EXPECT_EQ(read.m_SatCell.m_FontFamily, "Arial,serif");
     EXPECT_EQ(read.m_TodayText, "Hello");
 
-    // Titles alone don't survive a store without them.
-    read.m_Titles.RemoveAll();
-    EXPECT_NE(read.GetHTMLBody(m_Store, 0, 0).Find(";\"></th>"), -1);
-    read.ReadParameters(m_Config, "");
+    CVignelConfig empty;
+    read.ReadParameters(empty, "");
+    EXPECT_EQ(read.m_Titles, (CStringArray{"", "", "", "", "", "", ""}));
+    EXPECT_EQ(read.m_TodayText, "Hello");
+}
+
+TEST_F(Calendars, ThePagesSpellingOfTheScriptLiesBesideItsOwn) {
+    CCalander calander;
+    CTodayCa todayCa;
+    const struct {
+        CDhtmlGadget& m_Gadget;
+        const char* m_pScript;
+        const char* m_pPageName;
+        const char* m_pResource;
+    } gadgets[] = {{calander, "Calander2.js", "calander2.js", "Calander2.js"},
+                   {todayCa, "Todayca.js", "todayca.js", "todayca.js"}};
+    for (const auto& gadget : gadgets) {
+        const CTemporaryDirectory module, page;
+        module.Write(gadget.m_pScript, gadget.m_pScript);
+        SetModuleDirectory(module.Path());
+        gadget.m_Gadget.CopyResources(page.Path() + "\\", 0);
+        EXPECT_EQ(FileContent(page.File(gadget.m_pScript)), gadget.m_pScript);
+        EXPECT_EQ(FileContent(page.File(gadget.m_pPageName)), gadget.m_pScript);
+        EXPECT_EQ(gadget.m_Gadget.RegisterResources(m_Store), 1);
+        EXPECT_EQ(m_Store.GetResourceName(0), gadget.m_pResource);
+    }
 }
