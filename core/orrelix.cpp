@@ -15,6 +15,8 @@ void COrrelix::SelectGadget() {
         {"0", m_NoSelect},
         {"1", m_AnimateText},
         {"2", m_TextShow},
+        {"3", m_Calander},
+        {"8", m_TodayCa},
         {"9", m_DanceText},
     };
     for (const auto& row : gadgets) {

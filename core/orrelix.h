@@ -16,9 +16,11 @@
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
 #include "gadgets/animate_text.h"
+#include "gadgets/calander.h"
 #include "gadgets/dance_text.h"
 #include "gadgets/no_select.h"
 #include "gadgets/text_show.h"
+#include "gadgets/today_ca.h"
 
 class COrrelix {
 public:
@@ -99,6 +101,8 @@ public:
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
     CTextShow m_TextShow;
+    CCalander m_Calander;
+    CTodayCa m_TodayCa;
     CDanceText m_DanceText;
 
 private:

@@ -58,8 +58,12 @@ CString GetListItem(const CString& text, int nIndex) {
 }
 
 void CParameterExchange::Items(const char* pKey, CParameterField list) {
+    FixedItems(pKey, list, CountFor(list.m_pList->GetSize()));
+}
+
+void CParameterExchange::FixedItems(const char* pKey, CParameterField list, CStringArray::Index nItems) {
     CStringArray& items = *list.m_pList;
-    items.SetSize(CountFor(items.GetSize()));
+    items.SetSize(nItems);
     CParameterColumn column{list.m_pName, {}, list.m_bMasked};
     column.m_Items.reserve(static_cast<size_t>(items.GetSize()));
     for (CString& item : items)

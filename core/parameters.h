@@ -85,6 +85,9 @@ public:
     void Items(const char* pKey, CParameterField list);
     void MaskedItems(const char* pKey, CParameterField list) { Items(pKey, Masked(list)); }
 
+    // The same for a list that always has nItems items, whatever any count says.
+    void FixedItems(const char* pKey, CParameterField list, CStringArray::Index nItems);
+
     // The same for one member of a list of records. Reading, the list gets the size of the count.
     template <class TRecord>
     void Column(const char* pKey, const char* pName, CArray<TRecord>& records, CString TRecord::*pMember,

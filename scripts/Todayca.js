@@ -20,7 +20,7 @@
     // Inputs differ between pages with and without a doctype in how they count their size; both get one look.
     // The ring around today is light and dark, so that it stands out from whatever colours the author chose.
     const STYLE = `
-        .brndfncalendar input { box-sizing: border-box; display: block; margin: 0 auto; padding: 0; border: 0;
+        .brndfncalendar input { display: block; margin: 0 auto; padding: 0; border: 0;
             border-radius: 0; line-height: 1; text-align: center; }
         .brndfncalendar input[type=text] { cursor: default; }
         .brndfncalendar input[type=button] { cursor: pointer; }
@@ -69,7 +69,7 @@
             box.value = inside ? day : "";
             box.ariaLabel = inside ? `${weekday}, ${window.Months[month]} ${day}, ${year}` : null;
             box.ariaHidden = inside ? null : "true";
-            box.ariaCurrent = day === today ? "date" : null;
+            box.ariaCurrent = inside && day === today ? "date" : null;
         }
         [YEAR, MONTH, TODAY].forEach((index) => fit(form.elements[index]));
     }
@@ -101,11 +101,10 @@
             }
             element.tabIndex = -1;
             element.dataset.brndfnFontSize = element.style.fontSize;
-            if (index in BOX_LABELS) {
+            if (index in BOX_LABELS)
                 element.setAttribute("aria-label", BOX_LABELS[index]);
-            } else {
+            else
                 element.classList.add("brndfnday");
-            }
         });
     }
 
