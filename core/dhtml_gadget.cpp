@@ -30,6 +30,10 @@ CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remote
     }
 }
 
+CString LinkTarget(const CString& target) {
+    return target.IsEmpty() ? CString() : "_" + target;
+}
+
 CString WholeBorder(const CString& width, const CString& style, const CString& color) {
     return width + " " + style + " #" + color;
 }

@@ -1,6 +1,16 @@
 #include "core/image_files.h"
 
+#include "core/dhtml_gadget.h"
 #include "platform/files.h"
+
+#include <algorithm>
+
+CString ImageDirectoryOfMode(CVignelConfig& config, short mode, const CStringArray& images,
+                             const CString& remoteDirectory) {
+    const bool bImages =
+        std::any_of(images.begin(), images.end(), [](const CString& image) { return !image.IsEmpty(); });
+    return bImages ? DirectoryOfMode(config, mode, remoteDirectory) : CString();
+}
 
 void WriteItemImage(CHtmlText& html, const CString& directory, const CString& path,
                     const CCoolLinkImage& size) {
@@ -20,4 +30,10 @@ void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& 
         if (!image.IsEmpty() && !RegisterImage(config, image, webPath))
             image.Empty();
     }
+}
+
+void CopyImages(std::span<CString> images, const CString& directory, short force) {
+    CStringArray handled;
+    for (CString& image : images)
+        CopyGadgetFile(image, directory, handled, force);
 }

@@ -14,6 +14,8 @@ void COrrelix::SelectGadget() {
     } gadgets[] = {
         {"0", m_NoSelect},
         {"1", m_AnimateText},
+        {"4", m_CoolLink},
+        {"6", m_FadeSelect},
     };
     for (const auto& row : gadgets) {
         if (m_Type == row.m_pType)

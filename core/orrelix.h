@@ -16,6 +16,8 @@
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
 #include "gadgets/animate_text.h"
+#include "gadgets/cool_link.h"
+#include "gadgets/fade_select.h"
 #include "gadgets/no_select.h"
 
 class COrrelix {
@@ -96,6 +98,8 @@ public:
     bool m_bResourcesRegistered = false;
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
+    CCoolLink m_CoolLink;
+    CFadeSelect m_FadeSelect;
 
 private:
     void SelectGadget();
