@@ -1,16 +1,21 @@
 # The script files, as they are shipped beside the library.
 #
-# A page counts on finding the one script file of its effect and no other, so each carries the compatibility script in
-# front of itself. fade.js goes without: a page loads it behind fadeselect.js.
+# A page counts on finding the one script file of its effect and no other, so each carries what it shares with others in
+# front of itself: the compatibility script, and the drop-down list where it is one. fade.js goes without: a page loads
+# it behind fadeselect.js.
 file(GLOB script_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} scripts/*.js)
+list(REMOVE_ITEM script_sources scripts/drop_down.js)
 set(shipped_scripts)
 foreach(script ${script_sources})
     cmake_path(GET script FILENAME name)
-    if(name MATCHES "^(orrelix-compat|fade)\\.js$")
-        set(parts ${PROJECT_SOURCE_DIR}/${script})
-    else()
-        set(parts ${PROJECT_SOURCE_DIR}/scripts/orrelix-compat.js ${PROJECT_SOURCE_DIR}/${script})
+    set(parts ${script})
+    if(name MATCHES "^(fadeselect|select)\\.js$")
+        list(PREPEND parts scripts/drop_down.js)
     endif()
+    if(NOT name MATCHES "^(orrelix-compat|fade)\\.js$")
+        list(PREPEND parts scripts/orrelix-compat.js)
+    endif()
+    list(TRANSFORM parts PREPEND ${PROJECT_SOURCE_DIR}/)
     set(shipped ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${name})
     add_custom_command(OUTPUT ${shipped}
         COMMAND ${CMAKE_COMMAND} -E cat ${parts} > ${shipped}

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-bool CDhtmlGadget::ReadFields(const CVignelConfig& config) {
-    CParameterReader reader(config);
+bool CDhtmlGadget::ReadFields(const CVignelConfig& config, const CString& directory) {
+    CParameterReader reader(config, directory);
     ExchangeParameters(reader);
     return true;
 }
@@ -28,6 +28,14 @@ CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remote
     default:
         return {};
     }
+}
+
+CString LinkTarget(const CString& target) {
+    return target.IsEmpty() ? CString() : "_" + target;
+}
+
+CString WholeBorder(const CString& width, const CString& style, const CString& color) {
+    return width + " " + style + " #" + color;
 }
 
 void CopyScript(const char* pFileName, const char* pPageName, const CString& directory) {

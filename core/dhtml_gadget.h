@@ -51,8 +51,8 @@ public:
 
 protected:
     // What most gadgets' ReadParameters and WriteParameters are: all fields, as ExchangeParameters places
-    // them.
-    bool ReadFields(const CVignelConfig& config);
+    // them. The directory, with a backslash at its end, goes in front of the names of user's files.
+    bool ReadFields(const CVignelConfig& config, const CString& directory = {});
     void WriteFields(CVignelConfig& config);
 };
 
@@ -62,6 +62,12 @@ CString ScriptInclude(const CString& directory, const char* pFileName);
 // The directory by which a text of this mode refers to files: the store's preview path, or the remote
 // directory. Other modes have none.
 CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory);
+
+// The target of a link as HTML has it, "_self" for "self"; empty for none.
+CString LinkTarget(const CString& target);
+
+// A border as CSS has it, of a width, a style and six hexadecimal digits: "1 solid #d2b48c".
+CString WholeBorder(const CString& width, const CString& style, const CString& color);
 
 // Copies a script file that lies beside the component. `pPageName` is its name as the page's text spells it:
 // where that differs in case and the disk tells case apart, the file is there under both names.

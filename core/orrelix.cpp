@@ -16,6 +16,8 @@ void COrrelix::SelectGadget() {
         {"1", m_AnimateText},
         {"2", m_TextShow},
         {"3", m_Calander},
+        {"4", m_CoolLink},
+        {"6", m_FadeSelect},
         {"8", m_TodayCa},
         {"9", m_DanceText},
     };

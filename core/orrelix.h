@@ -17,7 +17,9 @@
 #include "core/vignel_config.h"
 #include "gadgets/animate_text.h"
 #include "gadgets/calander.h"
+#include "gadgets/cool_link.h"
 #include "gadgets/dance_text.h"
+#include "gadgets/fade_select.h"
 #include "gadgets/no_select.h"
 #include "gadgets/text_show.h"
 #include "gadgets/today_ca.h"
@@ -102,6 +104,8 @@ public:
     CAnimateText m_AnimateText;
     CTextShow m_TextShow;
     CCalander m_Calander;
+    CCoolLink m_CoolLink;
+    CFadeSelect m_FadeSelect;
     CTodayCa m_TodayCa;
     CDanceText m_DanceText;
 

@@ -23,8 +23,10 @@ CString Unmask(std::string_view item) {
     return text;
 }
 
-void AppendItem(CString& value, const CString& item, bool bMasked) {
-    if (bMasked && item.Find(',') >= 0) {
+void AppendItem(CString& value, const CString& item, bool bMasked, bool bFileName) {
+    if (bFileName) {
+        AppendItem(value, FileNameOfPath(item), bMasked, false);
+    } else if (bMasked && item.Find(',') >= 0) {
         CString masked = item;
         masked.Replace(",", kCommaMask);
         value += masked;
@@ -63,8 +65,13 @@ void CParameterExchange::Items(const char* pKey, CParameterField list) {
 
 void CParameterExchange::FixedItems(const char* pKey, CParameterField list, CStringArray::Index nItems) {
     CStringArray& items = *list.m_pList;
+<<<<<<< HEAD
     items.SetSize(nItems);
     CParameterColumn column{list.m_pName, {}, list.m_bMasked};
+=======
+    items.SetSize(CountFor(items.GetSize()));
+    CParameterColumn column{list.m_pName, {}, list.m_bMasked, list.m_bFileName};
+>>>>>>> effects-c
     column.m_Items.reserve(static_cast<size_t>(items.GetSize()));
     for (CString& item : items)
         column.m_Items.push_back(&item);
@@ -79,7 +86,7 @@ void CParameterReader::Fields(const char* pKey, std::initializer_list<CParameter
         if (field.m_pList)
             m_nCount = std::clamp(ToInteger(item), 0, kMaxListItems);
         else if (!item.IsEmpty())
-            *field.m_pText = std::move(item);
+            *field.m_pText = FromStored(std::move(item), field.m_bFileName);
     }
 }
 
@@ -91,7 +98,11 @@ void CParameterReader::DoItems(const char* pKey, const CParameterColumn& column)
     const CString value = m_Config.GetParameter(pKey, "");
     CListItems items(value);
     for (CString* pItem : column.m_Items)
-        *pItem = items.Next();
+        *pItem = FromStored(items.Next(), column.m_bFileName);
+}
+
+CString CParameterReader::FromStored(CString item, bool bFileName) const {
+    return bFileName && !item.IsEmpty() ? m_Directory + FileNameOfPath(item) : item;
 }
 
 void CParameterWriter::Fields(const char* pKey, std::initializer_list<CParameterField> fields) {
@@ -102,7 +113,7 @@ void CParameterWriter::Fields(const char* pKey, std::initializer_list<CParameter
         if (field.m_pList)
             value += ToText(field.m_pList->GetSize());
         else
-            AppendItem(value, *field.m_pText, field.m_bMasked);
+            AppendItem(value, *field.m_pText, field.m_bMasked, field.m_bFileName);
     }
     m_Config.SetParameter(pKey, WithoutLineBreaks(std::move(value)));
 }
@@ -114,7 +125,7 @@ void CParameterWriter::Text(const char* pKey, CParameterField field) {
 void CParameterWriter::DoItems(const char* pKey, const CParameterColumn& column) {
     CString value;
     for (const CString* pItem : column.m_Items) {
-        AppendItem(value, *pItem, column.m_bMasked);
+        AppendItem(value, *pItem, column.m_bMasked, column.m_bFileName);
         value += ',';
     }
     m_Config.SetParameter(pKey, WithoutLineBreaks(std::move(value)));

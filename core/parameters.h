@@ -44,6 +44,7 @@ struct CParameterField {
     CString* m_pText;      // the field, or
     CStringArray* m_pList; // the list whose number of items stands here
     bool m_bMasked = false;
+    bool m_bFileName = false;
 };
 
 inline CParameterField MakeField(const char* pName, CString& text) {
@@ -62,11 +63,18 @@ inline CParameterField Masked(CParameterField field) {
     return field;
 }
 
+// A path of which the value holds the file name alone. Reading puts the reader's directory in front of it.
+inline CParameterField FileName(CParameterField field) {
+    field.m_bFileName = true;
+    return field;
+}
+
 // A list of fields that are the items of one value: one column of a table of items.
 struct CParameterColumn {
     const char* m_pName;
     std::vector<CString*> m_Items;
-    bool m_bMasked;
+    bool m_bMasked = false;
+    bool m_bFileName = false;
 };
 
 class CParameterExchange {
@@ -109,10 +117,11 @@ protected:
     virtual void DoItems(const char* pKey, const CParameterColumn& column) = 0;
 };
 
-// Fills fields from a store.
+// Fills fields from a store. The directory, with a backslash at its end, goes in front of file names.
 class CParameterReader : public CParameterExchange {
 public:
-    explicit CParameterReader(const CVignelConfig& config) : m_Config(config) {}
+    explicit CParameterReader(const CVignelConfig& config, CString directory = {})
+        : m_Config(config), m_Directory(std::move(directory)) {}
     void Fields(const char* pKey, std::initializer_list<CParameterField> fields) override;
     void Text(const char* pKey, CParameterField field) override;
 
@@ -121,7 +130,10 @@ protected:
     void DoItems(const char* pKey, const CParameterColumn& column) override;
 
 private:
+    CString FromStored(CString item, bool bFileName) const;
+
     const CVignelConfig& m_Config;
+    CString m_Directory;
     int m_nCount = 0;
 };
 

@@ -48,3 +48,9 @@ private:
 };
 
 using CStringArray = CArray<CString>;
+
+// Gives lists that are shorter than nSize empty items up to it.
+template <class... TItem>
+void GrowTo(std::ptrdiff_t nSize, CArray<TItem>&... lists) {
+    ((lists.GetSize() < nSize ? lists.SetSize(nSize) : void()), ...);
+}

@@ -1,0 +1,23 @@
+// Gives every field of an effect its own name as its value, "<m_Width>", and the items of its lists theirs
+// with their index behind it, so that a generated text shows which field stands where.
+#pragma once
+
+#include "core/parameters.h"
+
+class CNamedFields : public CParameterExchange {
+public:
+    void Fields(const char*, std::initializer_list<CParameterField> fields) override {
+        for (const CParameterField& field : fields) {
+            if (field.m_pText)
+                Unstored(field);
+        }
+    }
+    void Text(const char*, CParameterField field) override { Unstored(field); }
+    void Unstored(CParameterField field) override { *field.m_pText = CString("<") + field.m_pName + ">"; }
+
+protected:
+    void DoItems(const char*, const CParameterColumn& column) override {
+        for (size_t i = 0; i < column.m_Items.size(); ++i)
+            *column.m_Items[i] = CString("<") + column.m_pName + ToText(static_cast<long long>(i)) + ">";
+    }
+};
