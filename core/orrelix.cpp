@@ -15,6 +15,7 @@ void COrrelix::SelectGadget() {
         {"0", m_NoSelect},
         {"1", m_AnimateText},
         {"4", m_CoolLink},
+        {"5", m_ScrollText},
         {"6", m_FadeSelect},
     };
     for (const auto& row : gadgets) {

@@ -19,6 +19,7 @@
 #include "gadgets/cool_link.h"
 #include "gadgets/fade_select.h"
 #include "gadgets/no_select.h"
+#include "gadgets/scroll_text.h"
 
 class COrrelix {
 public:
@@ -99,6 +100,7 @@ public:
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
     CCoolLink m_CoolLink;
+    CScrollText m_ScrollText;
     CFadeSelect m_FadeSelect;
 
 private:
