@@ -1,6 +1,5 @@
-#include "gadgets/scroll_text.h"
-
 #include "core/vignel_config.h"
+#include "gadgets/scroll_text.h"
 
 #include <gtest/gtest.h>
 
