@@ -17,6 +17,7 @@ void COrrelix::SelectGadget() {
         {"4", m_CoolLink},
         {"5", m_ScrollText},
         {"6", m_FadeSelect},
+        {"7", m_ToolTip},
     };
     for (const auto& row : gadgets) {
         if (m_Type == row.m_pType)

@@ -20,6 +20,7 @@
 #include "gadgets/fade_select.h"
 #include "gadgets/no_select.h"
 #include "gadgets/scroll_text.h"
+#include "gadgets/tool_tip.h"
 
 class COrrelix {
 public:
@@ -102,6 +103,7 @@ public:
     CCoolLink m_CoolLink;
     CScrollText m_ScrollText;
     CFadeSelect m_FadeSelect;
+    CToolTip m_ToolTip;
 
 private:
     void SelectGadget();
