@@ -17,7 +17,9 @@ void COrrelix::SelectGadget() {
         {"2", m_TextShow},
         {"3", m_Calander},
         {"4", m_CoolLink},
+        {"5", m_ScrollText},
         {"6", m_FadeSelect},
+        {"7", m_ToolTip},
         {"8", m_TodayCa},
         {"9", m_DanceText},
     };

@@ -21,8 +21,10 @@
 #include "gadgets/dance_text.h"
 #include "gadgets/fade_select.h"
 #include "gadgets/no_select.h"
+#include "gadgets/scroll_text.h"
 #include "gadgets/text_show.h"
 #include "gadgets/today_ca.h"
+#include "gadgets/tool_tip.h"
 
 class COrrelix {
 public:
@@ -105,7 +107,9 @@ public:
     CTextShow m_TextShow;
     CCalander m_Calander;
     CCoolLink m_CoolLink;
+    CScrollText m_ScrollText;
     CFadeSelect m_FadeSelect;
+    CToolTip m_ToolTip;
     CTodayCa m_TodayCa;
     CDanceText m_DanceText;
 

@@ -1,0 +1,73 @@
+#include "gadgets/tool_tip.h"
+
+void CToolTip::ExchangeParameters(CParameterExchange& exchange) {
+    exchange.Fields("ToolTipPara", {FIELD(m_TipBorderColor), FIELD(m_TipBackColor), FIELD(m_TipBorder),
+                                    FIELD(m_TipBorderWidth), FIELD(m_TipBorderStyle), FIELD(m_ScriptPath),
+                                    FIELD(m_TipTextColor), FIELD(m_TipFontSize), FIELD(m_TipFontStyle),
+                                    FIELD(m_TipFontWeight), FIELD(m_HtmlTag), FIELD(m_TipTag),
+                                    FIELD(m_MarqueeWidth), FIELD(m_DelayTime), FIELD(m_ShowTime)});
+    exchange.Text("ToolTipTextPara", FIELD(m_HtmlText));
+    exchange.Text("ToolTipFontFamPara", FIELD(m_TipFont));
+    exchange.Text("ToolTipToolTipPara", FIELD(m_TipText));
+    exchange.Fields("ToolTipImgPara",
+                    {FileName(FIELD(m_Image)), FIELD(m_ImageSize.m_Border), FIELD(m_ImageSize.m_Height),
+                     FIELD(m_ImageSize.m_Width), Masked(FIELD(m_Link)), Masked(FIELD(m_ImagePath))});
+}
+
+// The attributes of the tip, or what is left of them: without a tag there is no image and no box, without a
+// text the image stands bare in the element's tag. The blanks between the pieces stay in any case.
+void CToolTip::WriteTip(CHtmlText& html, const CString& imageDirectory) const {
+    const bool bBox = !m_TipTag.IsEmpty();
+    const bool bTip = bBox && !m_TipText.IsEmpty();
+    if (bTip) {
+        html.Text(R"(tooltip=" <nobr><)", m_TipTag, "  style='width:", m_MarqueeWidth,
+                  "; color:", m_TipTextColor, "; font-family:", m_TipFont, "; font-weight:", m_TipFontWeight,
+                  "; font-style:", m_TipFontStyle, "; font-size:", m_TipFontSize, ";'>");
+    }
+    html.Text(" ");
+    if (bBox && !m_Image.IsEmpty()) {
+        html.Text("<img src='", imageDirectory, FileNameOfPath(m_Image), "' border=", m_ImageSize.m_Border,
+                  " height=", m_ImageSize.m_Height, " width=", m_ImageSize.m_Width, " align=absmiddle>");
+    }
+    html.Text(" ", m_TipText, " ");
+    if (bTip)
+        html.Text("</", m_TipTag, R"(>")");
+    html.Text(" ");
+    if (bBox)
+        html.Text(R"(tooltipstyle="background:)", m_TipBackColor, "; border:", m_TipBorder, R"(;")");
+}
+
+CString CToolTip::GetHTMLBody(CVignelConfig& config, short mode, short position) {
+    const bool bWithScript = mode == kPreview || mode == kPublish;
+    if (position != 0 && bWithScript)
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "tooltip.js");
+    const CString title = config.GetTitle();
+    const bool bImage = !m_Image.IsEmpty() && !m_TipTag.IsEmpty();
+    const CString imageDirectory = bImage ? DirectoryOfMode(config, mode, m_ImagePath) : CString();
+    return MakeHtml([&](CHtmlText& html) {
+        html.Line(R"(<SCRIPT LANGUAGE="JavaScript">)");
+        html.Line("var ", title, "delayTime = ", m_DelayTime, ";");
+        html.Line("var ", title, "showTime = ", m_ShowTime, ";");
+        html.Line("</script>");
+        html.Text("<", m_HtmlTag);
+        if (m_HtmlTag == "a")
+            html.Text(R"( href=")", m_Link, R"(" )");
+        html.Text(R"( id=")", title, R"(" )");
+        WriteTip(html, imageDirectory);
+        html.Line(" > ", m_HtmlText, "</", m_HtmlTag, ">");
+    });
+}
+
+void CToolTip::CopyResources(const CString& directory, short force) {
+    CopyScript("Tooltip.js", "tooltip.js", directory);
+    CopyImages({&m_Image, 1}, directory, force);
+}
+
+short CToolTip::RegisterResources(CVignelConfig& config) {
+    config.ClearResources();
+    RegisterScript(config, "tooltip.js", m_ScriptPath);
+    // The path of a lost image stays.
+    if (!m_Image.IsEmpty() && !RegisterImage(config, m_Image, m_ImagePath))
+        m_ImagePath.Empty();
+    return config.GetResourceCount();
+}

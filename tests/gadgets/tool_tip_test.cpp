@@ -1,0 +1,109 @@
+#include "core/vignel_config.h"
+#include "gadgets/tool_tip.h"
+#include "tests/support/temporary_directory.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+CString LastLine(const CString& body) {
+    const CString text = body.Left(body.GetLength() - 2);
+    return text.Mid(text.ReverseFind('\n') + 1);
+}
+
+} // namespace
+
+TEST(ToolTip, WhatIsLeftOutLeavesItsBlanks) {
+    const struct {
+        const char* m_pTag;
+        const char* m_pTipTag;
+        const char* m_pTipText;
+        short m_nMode;
+        const char* m_pLine;
+    } cases[] = {
+        {"div", "span", "", kPublish,
+         R"(<div id="Tip1"  <img src='pictures/a.gif' border=1 height= width= align=absmiddle>   tooltipstyle="background:8b8b00; border:2 inset #ff6820;" > Text</div>)"},
+        {"p", "", "some tip", kPublish, R"(<p id="Tip1"   some tip   > Text</p>)"},
+        {"a", "", "", kPublish, R"(<a href="x.htm"  id="Tip1"      > Text</a>)"},
+        {"A", "b", "tip", 2,
+         R"(<A id="Tip1" tooltip=" <nobr><b  style='width:100; color:32cd32; font-family:@Fixedsys; font-weight:normal; font-style:normal; font-size:20;'> <img src='a.gif' border=1 height= width= align=absmiddle> tip </b>" tooltipstyle="background:8b8b00; border:2 inset #ff6820;" > Text</A>)"},
+    };
+    CVignelConfig config;
+    config.SetTitle("Tip1");
+    for (const auto& row : cases) {
+        CToolTip gadget;
+        gadget.m_Link = "x.htm";
+        gadget.m_HtmlText = "Text";
+        gadget.m_HtmlTag = row.m_pTag;
+        gadget.m_TipTag = row.m_pTipTag;
+        gadget.m_TipText = row.m_pTipText;
+        gadget.m_Image = "\\somewhere\\a.gif";
+        gadget.m_ImagePath = "pictures/";
+        gadget.m_ImageSize.m_Border = "1";
+        EXPECT_EQ(LastLine(gadget.GetHTMLBody(config, row.m_nMode, 0)), row.m_pLine);
+    }
+}
+
+TEST(ToolTip, CommasInItsAddressesAndTextsComeBack) {
+    CVignelConfig config;
+    CToolTip written;
+    written.m_Link = "list.htm?a,b";
+    written.m_ImagePath = "pictures,old/";
+    written.m_Image = "\\home\\ann\\a.gif";
+    written.m_ImageSize = {"10", "20", "1"};
+    written.m_TipText = "one, two~@^`three";
+    written.m_HtmlText = ",";
+    written.m_TipFont = "Georgia,serif";
+    written.WriteParameters(config);
+    CToolTip read;
+    read.ReadParameters(config, "\\site\\");
+    EXPECT_EQ(read.m_Link, written.m_Link);
+    EXPECT_EQ(read.m_ImagePath, written.m_ImagePath);
+    EXPECT_EQ(read.m_Image, "\\site\\a.gif");
+    EXPECT_EQ(read.m_ImageSize, written.m_ImageSize);
+    EXPECT_EQ(read.m_TipText, written.m_TipText);
+    EXPECT_EQ(read.m_HtmlText, written.m_HtmlText);
+    EXPECT_EQ(read.m_TipFont, written.m_TipFont);
+}
+
+TEST(ToolTip, AFileWithoutItsParametersEmptiesTheTextsAlone) {
+    CVignelConfig config;
+    CToolTip gadget;
+    gadget.ReadParameters(config, "\\");
+    EXPECT_EQ(gadget.m_TipText + gadget.m_HtmlText + gadget.m_TipFont, "");
+    EXPECT_EQ(gadget.m_TipTag, "marquee");
+}
+
+TEST(ToolTip, AnImageIsCopiedAndRegisteredAsTheDiskSpellsIt) {
+    CTemporaryDirectory directory;
+    directory.Write("Clock.GIF", "picture");
+    std::filesystem::create_directory(directory.File("site"));
+    CVignelConfig config;
+    CToolTip gadget;
+    gadget.m_Image = directory.Path("clock.gif");
+    gadget.m_ImagePath = "pictures/";
+    EXPECT_EQ(gadget.RegisterResources(config), 2);
+    EXPECT_EQ(config.GetResourceName(1), "Clock.GIF");
+    EXPECT_EQ(config.GetResourceWebPath(1), "pictures/");
+
+    gadget.CopyResources(directory.Path("site") + "\\", 0);
+    EXPECT_EQ(gadget.m_Image, directory.Path("site") + "\\clock.gif");
+    EXPECT_EQ(FileContent(directory.File("site/clock.gif")), "picture");
+    // A server that tells case apart finds the script under the name that the page says.
+    EXPECT_TRUE(std::filesystem::exists(directory.File("site/Tooltip.js")));
+    EXPECT_TRUE(std::filesystem::exists(directory.File("site/tooltip.js")));
+}
+
+TEST(ToolTip, ALostImageKeepsItsPathAndLosesItsRemoteDirectory) {
+    CTemporaryDirectory directory;
+    CVignelConfig config;
+    CToolTip gadget;
+    const CString lost = directory.Path("lost.gif");
+    gadget.m_Image = lost;
+    gadget.m_ImagePath = "pictures/";
+    EXPECT_EQ(gadget.RegisterResources(config), 1);
+    EXPECT_EQ(config.GetResourceName(0), "tooltip.js");
+    EXPECT_EQ(gadget.m_Image, lost);
+    EXPECT_EQ(gadget.m_ImagePath, "");
+}
