@@ -131,6 +131,7 @@ protected:
 private:
     void OnNotify(int nId, Notification notification) override;
     void CreateControls();
+    void DropControls();
     [[noreturn]] void StopOnWrongItem(int nId) const;
 
     const CDialogDescription& m_Description;

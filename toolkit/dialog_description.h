@@ -56,7 +56,7 @@ struct CControlDescription {
     const char* m_pCaption = ""; // the text of a button or static text
     const char* m_pName = "";    // what a screen reader says where label and caption don't tell enough
     unsigned m_nStyle = STYLE_NONE;
-    std::vector<const char*> m_Choices; // rows of a combo box, in the order of adding
+    std::vector<const char*> m_Choices = {}; // rows of a combo box, in the order of adding
     int m_nBuddy = 0; // the edit box of a spin control or of an owner-drawn button beside it
     int m_nLower = 0; // range of a spin control or slider
     int m_nUpper = 0;

@@ -1,0 +1,40 @@
+// The dialogs that edit a CSS font. The caller sets the fields, runs the dialog and reads them back if it
+// ended in IDOK.
+#pragma once
+
+#include "toolkit/dialog.h"
+
+// What the two have in common: the list of the system's font families, of which a double click puts one into
+// the box of font faces, so that the box grows into a CSS family list.
+class CFontDlg : public CDialog {
+public:
+    CString m_FontWeight;
+    CString m_FontFace;
+    CString m_FontSize;
+    CString m_FontStyle;
+
+protected:
+    explicit CFontDlg(const CDialogDescription& description);
+
+    void OnInitDialog() override;
+    void DoDataExchange(CDataExchange& exchange) override;
+
+private:
+    void OnFamilyDoubleClicked();
+};
+
+class CFontPropertiesDlg : public CFontDlg {
+public:
+    CFontPropertiesDlg();
+};
+
+// With an alignment of the text.
+class CCalanderFontDlg : public CFontDlg {
+public:
+    CCalanderFontDlg();
+
+    CString m_TextAlign;
+
+protected:
+    void DoDataExchange(CDataExchange& exchange) override;
+};

@@ -1,0 +1,21 @@
+// CUrlDlg: asks for an address. Picking another kind of address swaps the prefix in front of it.
+#pragma once
+
+#include "toolkit/dialog.h"
+
+class CUrlDlg : public CDialog {
+public:
+    CUrlDlg();
+
+    CString m_Url;  // set by the caller, and read back if the dialog ended in IDOK; any text passes
+    CString m_Type; // then: the kind of the address, e.g. "http:" or "(other)", or whatever was typed for it
+
+protected:
+    void OnInitDialog() override;
+    void DoDataExchange(CDataExchange& exchange) override;
+
+private:
+    void OnTypeListClosed();
+
+    CString m_LastType; // the kind before the latest change
+};

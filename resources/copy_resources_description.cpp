@@ -1,0 +1,25 @@
+#include "resources/copy_resources_description.h"
+
+const CDialogDescription& CopyResourcesDescription() {
+    using namespace describe;
+    using Id = CopyResourcesId;
+    static const CDialogDescription description{
+        "Copy Resources",
+        Column({Text(Id::Destination, "", STYLE_SUNKEN),
+                ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS, "Files with clashing names"),
+                Row({Button(IDOK, "OK"), Button(Id::Browse, "&Browse ..."), Button(Id::Rename, "&Rename")}),
+                Text(Id::Explanation,
+                     "These files' names have already been used in the destination directory. If you don't "
+                     "rename the destination file's name, the files with same name will be overwritten.")})};
+    return description;
+}
+
+const CDialogDescription& BrowseFilesDescription() {
+    using namespace describe;
+    using Id = BrowseFilesId;
+    static const CDialogDescription description{
+        "Browse Files",
+        Column({Text(Id::Heading, "Files Existing in the Destination Directory:"),
+                ListView(Id::Files, "", STYLE_SORTED, "Files Existing in the Destination Directory")})};
+    return description;
+}

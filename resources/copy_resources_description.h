@@ -1,0 +1,14 @@
+// The dialogs that settle name clashes when files are copied.
+#pragma once
+
+#include "toolkit/dialog_description.h"
+
+struct CopyResourcesId {
+    enum : int { Destination = 100, Clashes, Browse, Rename, Explanation };
+};
+const CDialogDescription& CopyResourcesDescription();
+
+struct BrowseFilesId {
+    enum : int { Heading = 100, Files };
+};
+const CDialogDescription& BrowseFilesDescription();

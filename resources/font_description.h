@@ -1,0 +1,10 @@
+// The dialogs that edit a font.
+#pragma once
+
+#include "toolkit/dialog_description.h"
+
+struct FontId {
+    enum : int { Weight = 100, Style, Size, Align, Face, Families };
+};
+const CDialogDescription& FontPropertiesDescription();
+const CDialogDescription& CalanderFontDescription();

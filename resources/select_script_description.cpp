@@ -1,0 +1,10 @@
+#include "resources/select_script_description.h"
+
+const CDialogDescription& SelectScriptDescription() {
+    using namespace describe;
+    using Id = SelectScriptId;
+    static const CDialogDescription description{"Select a DHTML Scripts",
+                                                Column({ListBox(Id::Names, "", STYLE_NONE, "DHTML Scripts"),
+                                                        Text(Id::Description, ""), OkAndCancel()})};
+    return description;
+}

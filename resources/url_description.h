@@ -1,0 +1,9 @@
+// The dialog that asks for an address.
+#pragma once
+
+#include "toolkit/dialog_description.h"
+
+struct UrlId {
+    enum : int { Type = 100, Url };
+};
+const CDialogDescription& UrlDescription();

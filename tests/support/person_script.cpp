@@ -1,0 +1,338 @@
+#include "tests/support/person_script.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::vector<ControlKind> kBoxes = {ControlKind::Edit, ControlKind::ComboBox};
+const std::vector<ControlKind> kLists = {ControlKind::ListBox, ControlKind::ListCtrl};
+const std::vector<ControlKind> kRows = {ControlKind::ListBox, ControlKind::ListCtrl, ControlKind::ComboBox};
+const std::vector<ControlKind> kTexts = {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static,
+                                         ControlKind::Button};
+const std::vector<ControlKind> kAll = {ControlKind::Static,   ControlKind::Edit,    ControlKind::Button,
+                                       ControlKind::ComboBox, ControlKind::ListBox, ControlKind::ListCtrl,
+                                       ControlKind::Slider};
+
+bool IsCalled(const CControlDescription& control, const CString& name) {
+    return name == WithoutMnemonic(control.m_pLabel) || name == WithoutMnemonic(control.m_pCaption) ||
+           name == WithoutMnemonic(control.m_pName) || name == AccessibleNameOf(control);
+}
+
+int RowWithText(const CTarget& target, CPersonHands& hands, const CString& text) {
+    const std::vector<CString> rows = hands.RowsOf(target);
+    const auto row = std::find(rows.begin(), rows.end(), text);
+    if (row != rows.end())
+        return static_cast<int>(row - rows.begin());
+    ADD_FAILURE() << "there is no row \"" << text << "\" in " << AccessibleNameOf(target.m_Description);
+    return -1;
+}
+
+CPoint MiddleOf(const CRect& rect) {
+    return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
+} // namespace
+
+const CControlDescription* FindByName(const CDialogDescription& description, const CString& name,
+                                      const std::vector<ControlKind>& kinds) {
+    const CControlDescription* pAlone = nullptr; // what the name means without a group
+    const CControlDescription* pExact = nullptr;
+    int nAlone = 0;
+    ForEachControl(description, [&](const CControlDescription& control, const char* pGroup) {
+        if (std::find(kinds.begin(), kinds.end(), control.m_Kind) == kinds.end())
+            return;
+        const CString prefix = *pGroup ? WithoutMnemonic(pGroup) + " / " : CString();
+        if (name.Left(prefix.GetLength()) == prefix && IsCalled(control, name.Mid(prefix.GetLength())))
+            pExact = pExact ? pExact : &control;
+        if (IsCalled(control, name)) {
+            pAlone = &control;
+            ++nAlone;
+        }
+    });
+    return pExact ? pExact : nAlone == 1 ? pAlone : nullptr;
+}
+
+CPersonScript::~CPersonScript() {
+    if (m_bLost)
+        return;
+    for (const CStep& step : m_Steps)
+        ADD_FAILURE() << "never reached, in \"" << step.m_Dialog << "\": the person " << step.m_Words;
+}
+
+CPersonScript& CPersonScript::In(const CString& title) {
+    m_Dialog = title;
+    return *this;
+}
+
+CPersonScript& CPersonScript::Add(CStep step) {
+    step.m_Dialog = m_Dialog;
+    m_Steps.push_back(std::move(step));
+    return *this;
+}
+
+CPersonScript& CPersonScript::AddAct(const CString& words, std::function<void(CDialog&, CPersonHands&)> act) {
+    CStep step;
+    step.m_Words = words;
+    step.m_Act = std::move(act);
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::AddLook(const CString& verb, const CString& name,
+                                      std::vector<ControlKind> kinds, Act act) {
+    const CString words = verb + " " + name;
+    return AddAct(words, [this, name, kinds, act, words](CDialog& dialog, CPersonHands& hands) {
+        const CControlDescription* pControl = FindByName(dialog.GetDescription(), name, kinds);
+        if (!pControl) {
+            Fail(CString("there is no \"") + name + "\", or more than one, for: " + words);
+            return;
+        }
+        act({dialog, *pControl, dialog.Item<CControl>(pControl->m_nId)}, hands);
+    });
+}
+
+CPersonScript& CPersonScript::AddAct(const CString& verb, const CString& name, std::vector<ControlKind> kinds,
+                                     Act act) {
+    return AddLook(verb, name, std::move(kinds),
+                   [this, verb, name, act](const CTarget& target, CPersonHands& hands) {
+                       if (!target.m_Dialog.IsWindowEnabled() || !hands.IsEnabled(target))
+                           Fail(CString("disabled: ") + verb + " " + name);
+                       else
+                           act(target, hands);
+                   });
+}
+
+CPersonScript& CPersonScript::Types(const CString& name, const CString& text) {
+    return AddAct("types into", name, kBoxes,
+                  [text](const CTarget& target, CPersonHands& hands) { hands.Type(target, text); });
+}
+
+CPersonScript& CPersonScript::Turns(const CString& name, int nSteps) {
+    return AddAct("turns", name, {ControlKind::Spin},
+                  [nSteps](const CTarget& target, CPersonHands& hands) { hands.Turn(target, nSteps); });
+}
+
+CPersonScript& CPersonScript::Clicks(const CString& name) {
+    return AddAct("clicks", name, {ControlKind::Button},
+                  [](const CTarget& target, CPersonHands& hands) { hands.Click(target); });
+}
+
+CPersonScript& CPersonScript::SelectsRows(const CString& name, std::vector<int> rows) {
+    return AddAct("selects a row of", name, kLists,
+                  [rows](const CTarget& target, CPersonHands& hands) { hands.SelectRows(target, rows); });
+}
+
+CPersonScript& CPersonScript::DoubleClicks(const CString& name, int nRow) {
+    return AddAct("double-clicks in", name, {ControlKind::ListBox},
+                  [nRow](const CTarget& target, CPersonHands& hands) { hands.DoubleClick(target, nRow); });
+}
+
+CPersonScript& CPersonScript::DoubleClicks(const CString& name, const CString& row) {
+    return AddAct("double-clicks in", name, {ControlKind::ListBox},
+                  [row](const CTarget& target, CPersonHands& hands) {
+                      hands.DoubleClick(target, RowWithText(target, hands, row));
+                  });
+}
+
+CPersonScript& CPersonScript::Picks(const CString& name, const CString& choice) {
+    return AddAct("picks from", name, {ControlKind::ComboBox},
+                  [choice](const CTarget& target, CPersonHands& hands) {
+                      hands.Pick(target, RowWithText(target, hands, choice));
+                  });
+}
+
+CPersonScript& CPersonScript::ClosesList(const CString& name) {
+    return AddAct("closes the list of", name, {ControlKind::ComboBox},
+                  [](const CTarget& target, CPersonHands& hands) { hands.CloseList(target); });
+}
+
+CPersonScript& CPersonScript::Moves(const CString& name, int nPos) {
+    return AddAct("moves", name, {ControlKind::Slider},
+                  [nPos](const CTarget& target, CPersonHands& hands) { hands.Move(target, nPos); });
+}
+
+CPersonScript& CPersonScript::Renames(const CString& name, const CString& text) {
+    return AddAct("renames in", name, {ControlKind::ListCtrl},
+                  [text](const CTarget& target, CPersonHands& hands) { hands.Rename(target, text); });
+}
+
+CPersonScript& CPersonScript::CancelsRenaming(const CString& name) {
+    return AddAct("cancels the renaming in", name, {ControlKind::ListCtrl},
+                  [](const CTarget& target, CPersonHands& hands) { hands.Rename(target, {}); });
+}
+
+CPersonScript& CPersonScript::PressesEscape() {
+    return AddAct("presses Escape", [](CDialog& dialog, CPersonHands& hands) { hands.PressEscape(dialog); });
+}
+
+CPersonScript& CPersonScript::PressesEnter() {
+    return AddAct("presses Enter", [](CDialog& dialog, CPersonHands& hands) { hands.PressEnter(dialog); });
+}
+
+CPersonScript& CPersonScript::OpensColours(const CString& name) {
+    return AddAct("opens the colours of", name, {ControlKind::OwnerDrawnButton},
+                  [](const CTarget& target, CPersonHands& hands) { hands.Click(target); });
+}
+
+CPersonScript& CPersonScript::AddPopupAct(const CString& words,
+                                          std::function<void(CPopupWindow&, CPersonHands&)> act) {
+    return AddAct(words, [this, words, act](CDialog&, CPersonHands& hands) {
+        if (CPopupWindow* pPopup = hands.GetPopup())
+            act(*pPopup, hands);
+        else
+            Fail(CString("no popup is open: ") + words);
+    });
+}
+
+CPersonScript& CPersonScript::PicksColour(const CString& colourName) {
+    return AddPopupAct(CString("picks the colour ") + colourName,
+                       [this, colourName](CPopupWindow& popup, CPersonHands& hands) {
+                           for (const CToolTipText& cell : popup.GetToolTips()) {
+                               if (cell.m_Text == colourName) {
+                                   hands.MoveInPopup(MiddleOf(cell.m_Rect));
+                                   hands.ReleaseInPopup(MiddleOf(cell.m_Rect));
+                                   return;
+                               }
+                           }
+                           Fail(CString("the popup has no colour ") + colourName);
+                       });
+}
+
+CPersonScript& CPersonScript::PressesInPopup(std::initializer_list<PopupKey> keys) {
+    for (PopupKey key : keys) {
+        AddPopupAct("presses a key in the popup",
+                    [key](CPopupWindow&, CPersonHands& hands) { hands.PressInPopup(key); });
+    }
+    return *this;
+}
+
+CPersonScript& CPersonScript::Answers(const CString& message, int nAnswer) {
+    CStep step;
+    step.m_Kind = Kind::Message;
+    step.m_Words = CString("answers the message \"") + message + "\"";
+    step.m_Message = message;
+    step.m_nAnswer = nAnswer;
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::ChoosesFile(const CString& path, const CString& addedText) {
+    CStep step;
+    step.m_Kind = Kind::File;
+    step.m_Words = CString("chooses the file ") + path;
+    step.m_File = {path, addedText};
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::CancelsFile() {
+    CStep step;
+    step.m_Kind = Kind::File;
+    step.m_Words = "cancels the file dialog";
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::MixesColour(CColour colour) {
+    CStep step;
+    step.m_Kind = Kind::Colour;
+    step.m_Words = "mixes a colour";
+    step.m_Colour = colour;
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::CancelsColour() {
+    CStep step;
+    step.m_Kind = Kind::Colour;
+    step.m_Words = "cancels the colour dialog";
+    return Add(std::move(step));
+}
+
+CPersonScript& CPersonScript::Shows(const CString& name, const CString& text) {
+    return AddLook("reads", name, kTexts, [name, text](const CTarget& target, CPersonHands& hands) {
+        EXPECT_EQ(hands.TextOf(target), text) << name;
+    });
+}
+
+CPersonScript& CPersonScript::ShowsPosition(const CString& name, int nPos) {
+    return AddLook("looks at", name, {ControlKind::Slider},
+                   [name, nPos](const CTarget& target, CPersonHands& hands) {
+                       EXPECT_EQ(hands.PositionOf(target), nPos) << name;
+                   });
+}
+
+CPersonScript& CPersonScript::ShowsRows(const CString& name, std::vector<CString> rows) {
+    return AddLook("reads the rows of", name, kRows,
+                   [name, rows](const CTarget& target, CPersonHands& hands) {
+                       EXPECT_EQ(hands.RowsOf(target), rows) << name;
+                   });
+}
+
+CPersonScript& CPersonScript::ShowsSelected(const CString& name, std::vector<int> rows) {
+    return AddLook("looks at the selection of", name, kRows,
+                   [name, rows](const CTarget& target, CPersonHands& hands) {
+                       EXPECT_EQ(hands.SelectedRowsOf(target), rows) << name;
+                   });
+}
+
+CPersonScript& CPersonScript::ShowsEnabled(const CString& name, bool bEnabled) {
+    return AddLook("looks at", name, kAll, [name, bEnabled](const CTarget& target, CPersonHands& hands) {
+        EXPECT_EQ(hands.IsEnabled(target), bEnabled) << name;
+    });
+}
+
+CPersonScript& CPersonScript::Then(std::function<void(CDialog&)> action) {
+    return AddAct("does something", [action](CDialog& dialog, CPersonHands&) { action(dialog); });
+}
+
+bool CPersonScript::PlayStep(CDialog& dialog, CPersonHands& hands) {
+    const CString title = dialog.GetDescription().m_pTitle;
+    const std::optional<CStep> step = Take(Kind::Act, CString("the dialog \"") + title + "\"");
+    if (!step)
+        return false;
+    if (step->m_Dialog != title) {
+        Fail(CString("in front is the dialog \"") + title + "\", not \"" + step->m_Dialog +
+             "\" where the person " + step->m_Words);
+        return false;
+    }
+    step->m_Act(dialog, hands);
+    return !m_bLost;
+}
+
+int CPersonScript::AnswerMessageBox(const CString& text) {
+    const std::optional<CStep> step = Take(Kind::Message, CString("the message \"") + text + "\"");
+    if (!step)
+        return IDCANCEL;
+    EXPECT_EQ(text, step->m_Message);
+    return step->m_nAnswer;
+}
+
+std::optional<CPersonScript::CFileAnswer> CPersonScript::AnswerFileDialog() {
+    const std::optional<CStep> step = Take(Kind::File, "a file dialog");
+    return step ? step->m_File : std::nullopt;
+}
+
+std::optional<CColour> CPersonScript::AnswerColourDialog() {
+    const std::optional<CStep> step = Take(Kind::Colour, "the colour dialog");
+    return step ? step->m_Colour : std::nullopt;
+}
+
+std::optional<CPersonScript::CStep> CPersonScript::Take(Kind kind, const CString& what) {
+    if (m_bLost)
+        return {};
+    if (m_Steps.empty()) {
+        Fail(what + " is on the screen and no step is left");
+        return {};
+    }
+    if (m_Steps.front().m_Kind != kind) {
+        Fail(what + " is on the screen where, in \"" + m_Steps.front().m_Dialog + "\", the person " +
+             m_Steps.front().m_Words);
+        return {};
+    }
+    CStep step = std::move(m_Steps.front());
+    m_Steps.pop_front();
+    return step;
+}
+
+void CPersonScript::Fail(const CString& message) {
+    if (!m_bLost)
+        ADD_FAILURE() << message;
+    m_bLost = true;
+}

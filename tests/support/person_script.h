@@ -1,0 +1,159 @@
+// CPersonScript: what a person does at the screen, step by step, to be played before any desktop.
+//
+//     script.In("Slide Text").Types("Table / Width:", "300").Clicks("Title Font...");
+//     script.In("Font Properties").Turns("Font Size:", 2).Clicks("OK");
+//     script.In("Slide Text").Shows("Table / Width:", "300").Clicks("OK");
+//
+// Controls go by what a person sees: their label, caption or spoken name, after the title of their group and
+// " / " where the name alone could mean two. A step fails the test when it names what isn't there, is
+// disabled or lies behind another dialog; so does a dialog or message box that no step is about, and a step
+// that is never reached. After a failure the person closes whatever comes up.
+#pragma once
+
+#include "toolkit/dialog.h"
+#include "toolkit/popup_window.h"
+
+#include <deque>
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+class CFileDialog;
+
+// A control as a step found it on the screen.
+struct CTarget {
+    CDialog& m_Dialog;
+    const CControlDescription& m_Description;
+    CControl& m_Control;
+};
+
+// How a person reaches what is on the screen: each desktop under test has its own.
+class CPersonHands {
+public:
+    virtual ~CPersonHands() = default;
+
+    virtual void Type(const CTarget& target, const CString& text) = 0;
+    virtual void Turn(const CTarget& target, int nSteps) = 0;
+    virtual void Click(const CTarget& target) = 0;
+    virtual void SelectRows(const CTarget& target, const std::vector<int>& rows) = 0;
+    virtual void DoubleClick(const CTarget& target, int nRow) = 0;
+    virtual void Pick(const CTarget& target, int nRow) = 0;
+    virtual void CloseList(const CTarget& target) = 0;
+    virtual void Move(const CTarget& target, int nPos) = 0;
+    // Ends the editing of a label that is under way; no text: cancels it.
+    virtual void Rename(const CTarget& target, const std::optional<CString>& text) = 0;
+    virtual void PressEscape(CDialog& dialog) = 0;
+    virtual void PressEnter(CDialog& dialog) = 0;
+
+    // The popup that is open, or null.
+    virtual CPopupWindow* GetPopup() = 0;
+    virtual void MoveInPopup(CPoint point) = 0;
+    virtual void ReleaseInPopup(CPoint point) = 0;
+    virtual void PressInPopup(PopupKey key) = 0;
+
+    virtual CString TextOf(const CTarget& target) = 0;
+    virtual bool IsEnabled(const CTarget& target) = 0;
+    virtual int PositionOf(const CTarget& target) = 0;
+    // Rows of a list or combo box; the cells of a row with columns are joined by " | ".
+    virtual std::vector<CString> RowsOf(const CTarget& target) = 0;
+    virtual std::vector<int> SelectedRowsOf(const CTarget& target) = 0;
+};
+
+class CPersonScript {
+public:
+    CPersonScript() = default;
+    CPersonScript(const CPersonScript&) = delete;
+    CPersonScript& operator=(const CPersonScript&) = delete;
+    // Fails the test for each step that was never reached.
+    ~CPersonScript();
+
+    // The steps that follow happen in the dialog with this title.
+    CPersonScript& In(const CString& title);
+
+    CPersonScript& Types(const CString& name, const CString& text);
+    CPersonScript& Turns(const CString& name, int nSteps);
+    CPersonScript& Clicks(const CString& name);
+    CPersonScript& SelectsRow(const CString& name, int nRow) { return SelectsRows(name, {nRow}); }
+    CPersonScript& SelectsRows(const CString& name, std::vector<int> rows);
+    CPersonScript& DoubleClicks(const CString& name, int nRow);
+    CPersonScript& DoubleClicks(const CString& name, const CString& row);
+    CPersonScript& Picks(const CString& name, const CString& choice);
+    CPersonScript& ClosesList(const CString& name);
+    CPersonScript& Moves(const CString& name, int nPos);
+    CPersonScript& Renames(const CString& name, const CString& text);
+    CPersonScript& CancelsRenaming(const CString& name);
+    CPersonScript& PressesEscape();
+    CPersonScript& PressesEnter();
+
+    // The colour button beside the edit box of this name, and what happens in its popup.
+    CPersonScript& OpensColours(const CString& name);
+    CPersonScript& PicksColour(const CString& colourName);
+    CPersonScript& PressesInPopup(std::initializer_list<PopupKey> keys);
+
+    // What comes up by itself: a message box, which is answered; the system's file and colour dialogs.
+    CPersonScript& Answers(const CString& message, int nAnswer = IDOK);
+    CPersonScript& ChoosesFile(const CString& path, const CString& addedText = "");
+    CPersonScript& CancelsFile();
+    CPersonScript& MixesColour(CColour colour);
+    CPersonScript& CancelsColour();
+
+    // What the person sees.
+    CPersonScript& Shows(const CString& name, const CString& text);
+    CPersonScript& ShowsPosition(const CString& name, int nPos);
+    CPersonScript& ShowsRows(const CString& name, std::vector<CString> rows);
+    CPersonScript& ShowsSelected(const CString& name, std::vector<int> rows);
+    CPersonScript& ShowsEnabled(const CString& name, bool bEnabled = true);
+    CPersonScript& ShowsDisabled(const CString& name) { return ShowsEnabled(name, false); }
+
+    // Anything else, done when the steps before have been.
+    CPersonScript& Then(std::function<void(CDialog&)> action);
+
+    // --- For who plays the script ---
+
+    // Plays the next step in this dialog, which is the one in front. False when the dialog has to be closed:
+    // the next step isn't about it. The failure has been reported then.
+    bool PlayStep(CDialog& dialog, CPersonHands& hands);
+
+    int AnswerMessageBox(const CString& text);
+
+    struct CFileAnswer {
+        CString m_Path;
+        CString m_AddedText;
+    };
+    std::optional<CFileAnswer> AnswerFileDialog();
+    std::optional<CColour> AnswerColourDialog();
+
+private:
+    enum class Kind { Act, Message, File, Colour };
+
+    struct CStep {
+        Kind m_Kind = Kind::Act;
+        CString m_Dialog;
+        CString m_Words; // how the step reads, for failures
+        std::function<void(CDialog&, CPersonHands&)> m_Act = {};
+        CString m_Message = {};
+        int m_nAnswer = IDOK;
+        std::optional<CFileAnswer> m_File = {};
+        std::optional<CColour> m_Colour = {};
+    };
+
+    using Act = std::function<void(const CTarget&, CPersonHands&)>;
+    CPersonScript& Add(CStep step);
+    CPersonScript& AddAct(const CString& words, std::function<void(CDialog&, CPersonHands&)> act);
+    // An act upon a control that must be there, of one of these kinds, and enabled.
+    CPersonScript& AddAct(const CString& verb, const CString& name, std::vector<ControlKind> kinds, Act act);
+    CPersonScript& AddLook(const CString& verb, const CString& name, std::vector<ControlKind> kinds, Act act);
+    CPersonScript& AddPopupAct(const CString& words, std::function<void(CPopupWindow&, CPersonHands&)> act);
+    std::optional<CStep> Take(Kind kind, const CString& what);
+    void Fail(const CString& message);
+
+    std::deque<CStep> m_Steps;
+    CString m_Dialog;
+    bool m_bLost = false;
+};
+
+// The control of one of these kinds that the name means, or null: see the head of this file.
+const CControlDescription* FindByName(const CDialogDescription& description, const CString& name,
+                                      const std::vector<ControlKind>& kinds);

@@ -1,0 +1,170 @@
+#include "tests/support/scripted_person.h"
+
+#include "toolkit/button.h"
+#include "toolkit/combo_box.h"
+#include "toolkit/file_dialog.h"
+#include "toolkit/list_box.h"
+#include "toolkit/list_ctrl.h"
+#include "toolkit/slider_ctrl.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+template <class TControl>
+TControl* As(const CTarget& target) {
+    return dynamic_cast<TControl*>(&target.m_Control);
+}
+
+CString JoinedCells(const CListCtrl& list, int nRow) {
+    CString cells = list.GetItemText(nRow, 0);
+    for (int nColumn = 1; nColumn < list.GetColumnCount(); ++nColumn)
+        cells += CString(" | ") + list.GetItemText(nRow, nColumn);
+    return cells;
+}
+
+} // namespace
+
+void CScriptedPerson::RunDialog(CDialog& dialog) {
+    while (!dialog.HasEnded()) {
+        if (!PlayStep(dialog, *this)) {
+            if (m_pPopup)
+                m_pPopup->OnDeactivate(Person());
+            dialog.PersonCloses(Person());
+            return;
+        }
+    }
+}
+
+int CScriptedPerson::ShowMessageBox(const CString& text, MessageBoxKind) {
+    return AnswerMessageBox(text);
+}
+
+bool CScriptedPerson::RunFileDialog(CFileDialog& dialog) {
+    const auto answer = AnswerFileDialog();
+    if (!answer)
+        return false;
+    if (CEdit* pEdit = dialog.GetAddedEdit(); pEdit && !answer->m_AddedText.IsEmpty())
+        pEdit->PersonTypes(Person(), answer->m_AddedText);
+    dialog.PersonChooses(Person(), answer->m_Path);
+    return true;
+}
+
+bool CScriptedPerson::RunColourDialog(CColour& colour) {
+    const auto answer = AnswerColourDialog();
+    colour = answer.value_or(colour);
+    return answer.has_value();
+}
+
+void CScriptedPerson::OpenPopup(CPopupWindow& popup) {
+    m_pPopup = &popup;
+}
+
+void CScriptedPerson::ClosePopup(CPopupWindow& popup) {
+    m_pPopup = nullptr;
+    popup.OnClosed();
+}
+
+CSize CScriptedPerson::MeasureText(const CString& text) const {
+    return {static_cast<int>(text.GetLength()) * 7, 14};
+}
+
+CColour CScriptedPerson::GetSystemColour(SystemColour colour) const {
+    switch (colour) {
+    case SystemColour::ButtonFace:
+        return MakeColour(212, 208, 200);
+    case SystemColour::ButtonText:
+        return MakeColour(0, 0, 0);
+    case SystemColour::Highlight:
+        return MakeColour(255, 255, 255);
+    case SystemColour::Light:
+        return MakeColour(226, 223, 218);
+    case SystemColour::Shadow:
+        return MakeColour(128, 128, 128);
+    }
+    return 0;
+}
+
+void CScriptedPerson::Type(const CTarget& target, const CString& text) {
+    if (auto* pBox = As<CComboBox>(target))
+        pBox->PersonTypes(Person(), text);
+    else
+        As<CEdit>(target)->PersonTypes(Person(), text);
+}
+
+void CScriptedPerson::Turn(const CTarget& target, int nSteps) {
+    As<CSpinButtonCtrl>(target)->PersonTurns(Person(), nSteps);
+}
+
+void CScriptedPerson::Click(const CTarget& target) {
+    As<CButton>(target)->PersonClicks(Person());
+}
+
+void CScriptedPerson::SelectRows(const CTarget& target, const std::vector<int>& rows) {
+    if (auto* pList = As<CListCtrl>(target))
+        pList->PersonSelects(Person(), rows, rows.empty() ? -1 : rows.back());
+    else
+        As<CListBox>(target)->PersonSelects(Person(), rows.at(0));
+}
+
+void CScriptedPerson::DoubleClick(const CTarget& target, int nRow) {
+    As<CListBox>(target)->PersonDoubleClicks(Person(), nRow);
+}
+
+void CScriptedPerson::Pick(const CTarget& target, int nRow) {
+    As<CComboBox>(target)->PersonPicks(Person(), nRow);
+}
+
+void CScriptedPerson::CloseList(const CTarget& target) {
+    As<CComboBox>(target)->PersonClosesList(Person());
+}
+
+void CScriptedPerson::Move(const CTarget& target, int nPos) {
+    As<CSliderCtrl>(target)->PersonMoves(Person(), nPos);
+}
+
+void CScriptedPerson::Rename(const CTarget& target, const std::optional<CString>& text) {
+    As<CListCtrl>(target)->PersonEndsLabelEdit(Person(), text.value_or(""), !text);
+}
+
+void CScriptedPerson::PressEnter(CDialog& dialog) {
+    ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
+        if (control.Has(STYLE_DEFAULT))
+            dialog.Item<CButton>(control.m_nId).PersonClicks(Person());
+    });
+}
+
+int CScriptedPerson::PositionOf(const CTarget& target) {
+    return As<CSliderCtrl>(target)->GetPos();
+}
+
+std::vector<CString> CScriptedPerson::RowsOf(const CTarget& target) {
+    std::vector<CString> rows;
+    if (auto* pBox = As<CComboBox>(target)) {
+        for (int nRow = 0; nRow < pBox->GetCount(); ++nRow)
+            rows.push_back(pBox->GetLBText(nRow));
+    } else if (auto* pList = As<CListCtrl>(target)) {
+        for (int nRow = 0; nRow < pList->GetItemCount(); ++nRow)
+            rows.push_back(JoinedCells(*pList, nRow));
+    } else {
+        for (int nRow = 0; nRow < As<CListBox>(target)->GetCount(); ++nRow)
+            rows.push_back(As<CListBox>(target)->GetText(nRow));
+    }
+    return rows;
+}
+
+std::vector<int> CScriptedPerson::SelectedRowsOf(const CTarget& target) {
+    std::vector<int> rows;
+    if (auto* pList = As<CListCtrl>(target)) {
+        for (int nRow = 0; nRow < pList->GetItemCount(); ++nRow) {
+            if (pList->IsSelected(nRow))
+                rows.push_back(nRow);
+        }
+        return rows;
+    }
+    auto* pBox = As<CComboBox>(target);
+    const int nRow = pBox ? pBox->GetCurSel() : As<CListBox>(target)->GetCurSel();
+    if (nRow >= 0)
+        rows.push_back(nRow);
+    return rows;
+}

@@ -1,0 +1,6 @@
+#include "toolkit/button.h"
+
+void CButton::PersonClicks(CPersonKey) {
+    if (IsWindowEnabled())
+        OnClick();
+}

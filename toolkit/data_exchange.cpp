@@ -1,0 +1,20 @@
+#include "toolkit/data_exchange.h"
+
+#include "toolkit/combo_box.h"
+#include "toolkit/dialog.h"
+
+void CDataExchange::Text(int nId, CString& value) {
+    CControl& control = m_Dialog.Item<CControl>(nId);
+    if (m_bSave)
+        value = control.GetWindowText();
+    else
+        control.SetWindowText(value);
+}
+
+void CDataExchange::Index(int nId, int& nValue) {
+    CComboBox& box = m_Dialog.Item<CComboBox>(nId);
+    if (m_bSave)
+        nValue = box.GetCurSel();
+    else
+        box.SetCurSel(nValue);
+}

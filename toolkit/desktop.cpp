@@ -1,0 +1,41 @@
+#include "toolkit/desktop.h"
+
+#include "toolkit/dialog.h"
+#include "toolkit/popup_window.h"
+
+namespace {
+
+// Where nobody is there to answer: every dialog is closed at once, nothing is chosen.
+class CNobody : public CDesktop {
+public:
+    void RunDialog(CDialog& dialog) override { dialog.PersonCloses(Person()); }
+    int ShowMessageBox(const CString&, MessageBoxKind kind) override {
+        return kind == MessageBoxKind::OkCancel ? IDCANCEL : IDOK;
+    }
+    bool RunFileDialog(CFileDialog&) override { return false; }
+    bool RunColourDialog(CColour&) override { return false; }
+    void OpenPopup(CPopupWindow& popup) override { popup.OnDeactivate(Person()); }
+    void ClosePopup(CPopupWindow& popup) override { popup.OnClosed(); }
+    CRect GetScreenRect(const COwnerDrawnButton&) const override { return {}; }
+    CScreenMetrics GetMetrics() const override { return {}; }
+    CSize MeasureText(const CString&) const override { return {}; }
+    CColour GetSystemColour(SystemColour) const override { return 0; }
+    CStringArray GetFontFamilies() const override { return {}; }
+};
+
+CDesktop* g_pDesktop = nullptr;
+
+} // namespace
+
+CDesktop& GetDesktop() {
+    static CNobody nobody;
+    return g_pDesktop ? *g_pDesktop : nobody;
+}
+
+void SetDesktop(CDesktop* pDesktop) {
+    g_pDesktop = pDesktop;
+}
+
+int AfxMessageBox(const CString& text, MessageBoxKind kind) {
+    return GetDesktop().ShowMessageBox(text, kind);
+}
