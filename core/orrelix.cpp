@@ -12,16 +12,8 @@ void COrrelix::SelectGadget() {
         const char* m_pType;
         CDhtmlGadget& m_Gadget;
     } gadgets[] = {
-        {"0", m_NoSelect},
-        {"1", m_AnimateText},
-        {"2", m_TextShow},
-        {"3", m_Calander},
-        {"4", m_CoolLink},
-        {"5", m_ScrollText},
-        {"6", m_FadeSelect},
-        {"7", m_ToolTip},
-        {"8", m_TodayCa},
-        {"9", m_DanceText},
+        {"0", m_NoSelect},   {"1", m_AnimateText}, {"2", m_TextShow}, {"3", m_Calander}, {"4", m_CoolLink},
+        {"5", m_ScrollText}, {"6", m_FadeSelect},  {"7", m_ToolTip},  {"8", m_TodayCa},  {"9", m_DanceText},
     };
     for (const auto& row : gadgets) {
         if (m_Type == row.m_pType)

@@ -65,13 +65,8 @@ void CParameterExchange::Items(const char* pKey, CParameterField list) {
 
 void CParameterExchange::FixedItems(const char* pKey, CParameterField list, CStringArray::Index nItems) {
     CStringArray& items = *list.m_pList;
-<<<<<<< HEAD
     items.SetSize(nItems);
-    CParameterColumn column{list.m_pName, {}, list.m_bMasked};
-=======
-    items.SetSize(CountFor(items.GetSize()));
     CParameterColumn column{list.m_pName, {}, list.m_bMasked, list.m_bFileName};
->>>>>>> effects-c
     column.m_Items.reserve(static_cast<size_t>(items.GetSize()));
     for (CString& item : items)
         column.m_Items.push_back(&item);

@@ -1,9 +1,8 @@
 // How an effect's fields lie in the Parameter Part of a configuration file.
 //
 // One parameter value holds many fields as a comma list. There are no quotes and no escape character: "~@^`"
-// stands for
-// "," and "|_#`" for CR LF. Every effect says once, in ExchangeParameters, which field is which item of which
-// key; reading and writing follow from it:
+// stands for "," and "|_#`" for CR LF. Every effect says once, in ExchangeParameters, which field is which
+// item of which key; reading and writing follow from it:
 //
 //     exchange.Fields("TextShowPara", {FIELD(m_Speed), FIELD(m_TableBorder), FIELD(m_TableHeight)});
 //     exchange.Fields("TextShowFontPara", {Masked(FIELD(m_TitleFontFamily)), FIELD(m_TitleFontWeight)});
