@@ -371,6 +371,7 @@
 
         const steps = gate();
         let bTyping = false;
+        let bStepDue = false;
 
         function begin() {
             bTyping = true;
@@ -392,20 +393,25 @@
             typing.textContent = window.mytext;
             end();
         }
-        // The halves of a character outside the basic plane arrive one by one and show once they share a node.
         function step() {
-            const nTyped = window.it;
+            bStepDue = false;
             window.typeit();
             typing.normalize();
-            if (window.it === nTyped)
+            if (!bStepDue)
                 end();
         }
         stepBy("typeit()", (nDelay) => {
             if (!bTyping)
                 begin();
-            if (!calm())
+            if (calm()) {
+                showAll();
+            } else if (/[\ud800-\udbff]/.test(window.mytext[window.it - 1])) {
+                // Half a character shows nothing: the other half comes with it, into the same text node.
+                step();
+            } else {
+                bStepDue = true;
                 return steps.after(nDelay, () => steps.signal.aborted || step());
-            showAll();
+            }
             return 0;
         });
     }
