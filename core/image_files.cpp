@@ -1,6 +1,7 @@
 #include "core/image_files.h"
 
 #include "core/dhtml_gadget.h"
+#include "dialogs/copy_resources.h"
 #include "platform/files.h"
 
 #include <algorithm>
@@ -33,7 +34,13 @@ void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& 
 }
 
 void CopyImages(std::span<CString> images, const CString& directory, short force) {
+    CCopyResourcesDlg dialog;
+    dialog.m_Destination = directory;
     CStringArray handled;
-    for (CString& image : images)
-        CopyGadgetFile(image, directory, handled, force);
+    for (CString& image : images) {
+        if (!CopyGadgetFile(image, directory, handled, force))
+            dialog.AddClash(image);
+    }
+    if (dialog.m_nClashes > 0)
+        dialog.DoModal();
 }
