@@ -86,12 +86,14 @@
         return { element, box, strips };
     }
 
-    // Makes the element known to keyboard and screen reader as one that has a tip.
+    // Makes the element known to mouse, keyboard and screen reader as one that has a tip.
     function describe({ element, box }) {
         const others = element.getAttribute("aria-describedby") ?? "";
         element.setAttribute("aria-describedby", `${others} ${box.id}`.trim());
-        if (element.tabIndex < 0 && !element.hasAttribute("tabindex"))
+        if (element.tabIndex < 0 && !element.hasAttribute("tabindex")) {
             element.tabIndex = 0;
+            element.style.cursor ||= "help";
+        }
     }
 
     // Makes tips for new elements and drops those of elements that are gone.
