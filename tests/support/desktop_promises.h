@@ -56,8 +56,8 @@ inline const CDialogDescription& Description() {
              Row({ListBox(Id::List, "L&ist:", STYLE_NONE),
                   ListView(Id::View, "&View:", STYLE_REPORT | STYLE_MULTIPLE_SELECTION | STYLE_EDIT_LABELS)}),
              Slider(Id::Level, "Level", "Low", "High", 0, 1000, 100),
-             Row({Button(Id::Add, "&Add"), Button(Id::More, "&More...")}), Text(Id::Status, "ready"),
-             OkAndCancel()})};
+             Row({Button(Id::Add, "&Add"), Button(Id::More, "&More...")}),
+             Text(Id::Status, "ready", STYLE_NONE, "Status"), OkAndCancel()})};
     return description;
 }
 
@@ -216,7 +216,7 @@ TEST_P(DesktopPromises, TheDialogComesUpAsTheProgramSetItUpAndNobodyIsNotified) 
         .ShowsSelected("List:", {})
         .ShowsRows("View:", {"item 0 | link 0", "item 1 | link 1", "item 2 | link 2"})
         .ShowsPosition("Level", 300)
-        .Shows("ready", "ready")
+        .Shows("Status", "ready")
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Log, "");
@@ -246,7 +246,8 @@ TEST_P(DesktopPromises, WhatAHandlerChangesShowsAtOnce) {
         .Clicks("Add")
         .ShowsDisabled("Add")
         .Shows("Text:", "")
-        .Shows("added new", "added new")
+        .CancelsRenaming("View:")
+        .Shows("Status", "added new")
         .ShowsRows("List:", {"row 0", "row 1", "row 2", "new"})
         .Then([this](CDialog&) { m_Dialog.Enable(promises::Id::Add, true); })
         .ShowsEnabled("Add")
