@@ -12,7 +12,7 @@ namespace {
 class CopyResources : public testing::Test {
 protected:
     CopyResources() {
-        m_Dialog.m_Destination = m_Site.Path() + "\\";
+        m_Dialog.m_Destination = m_Site.Path();
         for (CString* pPath : {&m_Photo, &m_SamePhoto, &m_Logo})
             m_Dialog.AddClash(*pPath);
     }
@@ -34,7 +34,7 @@ protected:
 
 TEST_F(CopyResources, OkOverwritesAndPointsEveryTextOfAPathAtTheCopy) {
     EXPECT_EQ(m_Dialog.m_nClashes, 3);
-    m_Person.In("Copy Resources").Shows("Destination", "Destination Directory: " + m_Site.Path() + "\\");
+    m_Person.In("Copy Resources").Shows("Destination", "Destination Directory: " + m_Site.Path());
     m_Person.Then([](CDialog& dialog) {
         const CListCtrl& list = dialog.Item<CListCtrl>(CopyResourcesId::Clashes);
         EXPECT_EQ(list.GetItemCount(), 2) << "one row for each source path";
@@ -61,7 +61,7 @@ TEST_F(CopyResources, ARenamedFileLeavesTheOldOneAlone) {
     m_Dialog.DoModal();
     EXPECT_EQ(InSite("photo.gif"), "old photo");
     EXPECT_EQ(InSite("other.gif"), "new photo");
-    EXPECT_EQ(m_SamePhoto, m_Site.Path() + "\\other.gif");
+    EXPECT_EQ(m_SamePhoto, m_Site.Path() + "other.gif");
 }
 
 TEST_F(CopyResources, RenameNeedsAFocusedRow) {
