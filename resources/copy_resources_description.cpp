@@ -5,7 +5,7 @@ const CDialogDescription& CopyResourcesDescription() {
     using Id = CopyResourcesId;
     static const CDialogDescription description{
         "Copy Resources",
-        Column({Text(Id::Destination, "", STYLE_SUNKEN),
+        Column({Text(Id::Destination, "", STYLE_SUNKEN, "Destination"),
                 ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS, "Files with clashing names"),
                 Row({Button(IDOK, "OK"), Button(Id::Browse, "&Browse ..."), Button(Id::Rename, "&Rename")}),
                 Text(Id::Explanation,

@@ -3,8 +3,9 @@
 const CDialogDescription& SelectScriptDescription() {
     using namespace describe;
     using Id = SelectScriptId;
-    static const CDialogDescription description{"Select a DHTML Scripts",
-                                                Column({ListBox(Id::Names, "", STYLE_NONE, "DHTML Scripts"),
-                                                        Text(Id::Description, ""), OkAndCancel()})};
+    static const CDialogDescription description{
+        "Select a DHTML Scripts",
+        Column({ListBox(Id::Names, "", STYLE_NONE, "DHTML Scripts"),
+                Text(Id::Description, "", STYLE_NONE, "Description"), OkAndCancel()})};
     return description;
 }

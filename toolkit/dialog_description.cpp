@@ -81,8 +81,12 @@ CDialogItem Group(const char* pTitle, Items items) {
     return Box(CDialogItem::Kind::Group, pTitle, std::move(items));
 }
 
-CDialogItem Text(int nId, const char* pCaption, unsigned nStyle) {
-    return Control({.m_Kind = ControlKind::Static, .m_nId = nId, .m_pCaption = pCaption, .m_nStyle = nStyle});
+CDialogItem Text(int nId, const char* pCaption, unsigned nStyle, const char* pName) {
+    return Control({.m_Kind = ControlKind::Static,
+                    .m_nId = nId,
+                    .m_pCaption = pCaption,
+                    .m_pName = pName,
+                    .m_nStyle = nStyle});
 }
 
 CDialogItem Edit(int nId, const char* pLabel, unsigned nStyle, const char* pName) {

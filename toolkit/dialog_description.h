@@ -113,7 +113,8 @@ CDialogItem Row(Items items);
 CDialogItem Column(Items items);
 CDialogItem Group(const char* pTitle, Items items);
 
-CDialogItem Text(int nId, const char* pCaption, unsigned nStyle = STYLE_NONE);
+// A screen reader speaks its text; the name is for whoever looks for a text that changes.
+CDialogItem Text(int nId, const char* pCaption, unsigned nStyle = STYLE_NONE, const char* pName = "");
 CDialogItem Edit(int nId, const char* pLabel, unsigned nStyle = STYLE_NONE, const char* pName = "");
 // An edit box with its spin control, which has the id SpinOf(nId).
 CDialogItem Number(int nId, const char* pLabel, int nLower, int nUpper, unsigned nStyle = STYLE_NONE);

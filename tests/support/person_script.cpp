@@ -95,7 +95,9 @@ CPersonScript& CPersonScript::AddAct(const CString& verb, const CString& name, s
                                      Act act) {
     return AddLook(verb, name, std::move(kinds),
                    [this, verb, name, act](const CTarget& target, CPersonHands& hands) {
-                       if (!target.m_Dialog.IsWindowEnabled() || !hands.IsEnabled(target))
+                       if (hands.GetPopup())
+                           Fail(CString("behind the popup: ") + verb + " " + name);
+                       else if (!target.m_Dialog.IsWindowEnabled() || !hands.IsEnabled(target))
                            Fail(CString("disabled: ") + verb + " " + name);
                        else
                            act(target, hands);

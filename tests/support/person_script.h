@@ -67,7 +67,7 @@ public:
     CPersonScript(const CPersonScript&) = delete;
     CPersonScript& operator=(const CPersonScript&) = delete;
     // Fails the test for each step that was never reached.
-    ~CPersonScript();
+    virtual ~CPersonScript();
 
     // The steps that follow happen in the dialog with this title.
     CPersonScript& In(const CString& title);

@@ -1,0 +1,123 @@
+#include "dialogs/copy_resources.h"
+#include "resources/copy_resources_description.h"
+#include "tests/support/scripted_person.h"
+#include "tests/support/temporary_directory.h"
+#include "toolkit/list_ctrl.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Two folders: where the images are, and where files of their names are already.
+class CopyResources : public testing::Test {
+protected:
+    CopyResources() {
+        m_Dialog.m_Destination = m_Site.Path();
+        for (CString* pPath : {&m_Photo, &m_SamePhoto, &m_Logo})
+            m_Dialog.AddClash(*pPath);
+    }
+    std::string InSite(const char* pName) const { return FileContent(m_Site.File(pName)); }
+
+    CTemporaryDirectory m_Source;
+    CTemporaryDirectory m_Site;
+    CString m_Photo = m_Source.Write("photo.gif", "new photo");
+    CString m_SamePhoto = m_Photo;
+    CString m_Logo = m_Source.Write("logo.jpg", "new logo");
+    CString m_OldPhoto = m_Site.Write("photo.gif", "old photo");
+    CString m_OldLogo = m_Site.Write("logo.jpg", "old logo");
+    CScriptedPerson m_Person;
+    CCopyResourcesDlg m_Dialog;
+    const CString m_List = "Files with clashing names";
+};
+
+} // namespace
+
+TEST_F(CopyResources, OkOverwritesAndPointsEveryTextOfAPathAtTheCopy) {
+    EXPECT_EQ(m_Dialog.m_nClashes, 3);
+    m_Person.In("Copy Resources").Shows("Destination", "Destination Directory: " + m_Site.Path());
+    m_Person.Then([](CDialog& dialog) {
+        const CListCtrl& list = dialog.Item<CListCtrl>(CopyResourcesId::Clashes);
+        EXPECT_EQ(list.GetItemCount(), 2) << "one row for each source path";
+        EXPECT_EQ(list.GetColumn(1).m_nExtraWidth, 140);
+    });
+    m_Person.Clicks("OK");
+    m_Dialog.DoModal();
+    EXPECT_EQ(InSite("photo.gif"), "new photo");
+    EXPECT_EQ(InSite("logo.jpg"), "new logo");
+    EXPECT_EQ(m_Photo, m_OldPhoto);
+    EXPECT_EQ(m_SamePhoto, m_OldPhoto);
+    EXPECT_EQ(m_Logo, m_OldLogo);
+}
+
+TEST_F(CopyResources, ARenamedFileLeavesTheOldOneAlone) {
+    int nPhoto = -1;
+    m_Person.In("Copy Resources").Then([&](CDialog& dialog) {
+        const CListCtrl& list = dialog.Item<CListCtrl>(CopyResourcesId::Clashes);
+        nPhoto = list.GetItemText(0, 0) == "photo.gif" ? 0 : 1;
+        // The row is known only now, so the rest of the steps follow from here.
+        m_Person.SelectsRow(m_List, nPhoto).Clicks("Rename").Renames(m_List, "").Clicks("Rename");
+        m_Person.CancelsRenaming(m_List).Clicks("Rename").Renames(m_List, "other.gif").Clicks("OK");
+    });
+    m_Dialog.DoModal();
+    EXPECT_EQ(InSite("photo.gif"), "old photo");
+    EXPECT_EQ(InSite("other.gif"), "new photo");
+    EXPECT_EQ(m_SamePhoto, m_Site.Path() + "other.gif");
+}
+
+TEST_F(CopyResources, RenameNeedsAFocusedRow) {
+    m_Person.In("Copy Resources")
+        .Clicks("Rename")
+        .Answers("Please select a file to rename first!")
+        .Clicks("OK");
+    m_Dialog.DoModal();
+}
+
+TEST_F(CopyResources, ClosingItCopiesNothing) {
+    const CString before = m_Photo;
+    m_Person.In("Copy Resources").PressesEscape();
+    m_Dialog.DoModal();
+    EXPECT_EQ(m_Photo, before);
+    EXPECT_EQ(InSite("photo.gif"), "old photo");
+}
+
+TEST_F(CopyResources, AFailedCopyStillMovesTheText) {
+    std::filesystem::remove(m_Source.File("logo.jpg"));
+    m_Person.In("Copy Resources").Clicks("OK");
+    m_Dialog.DoModal();
+    EXPECT_EQ(m_Logo, m_OldLogo);
+    EXPECT_EQ(InSite("logo.jpg"), "old logo");
+}
+
+TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {
+    m_Site.Write("notes.txt", "");
+    m_Site.Write("Anthem.AU", "");
+    m_Person.In("Copy Resources").Clicks("Browse ...");
+    m_Person.In("Browse Files")
+        .ShowsRows("Files Existing in the Destination Directory", {"Anthem.AU", "logo.jpg", "photo.gif"})
+        .Then([](CDialog& dialog) {
+            const CListCtrl& list = dialog.Item<CListCtrl>(BrowseFilesId::Files);
+            EXPECT_EQ(list.GetImageList().GetSize(), 3) << "no icon for a pattern without files";
+            EXPECT_EQ(list.GetItemImage(0), 2);
+        })
+        .PressesEscape();
+    m_Person.In("Copy Resources").Clicks("OK");
+    m_Dialog.DoModal();
+}
+
+TEST(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
+    CTemporaryDirectory directory;
+    const CString missing = directory.Path("none");
+    const struct {
+        CString m_Directory;
+        const char* m_pTypes;
+        CString m_Message;
+    } cases[] = {{"", "*.gif", "The directory and file type can not be blank!"},
+                 {directory.Path(), "", "The directory and file type can not be blank!"},
+                 {missing, "*.gif", "Directory " + missing + "\\ does not exist!"}};
+    for (const auto& c : cases) {
+        CScriptedPerson person;
+        person.Answers(c.m_Message);
+        CBrowseFilesDlg dialog(c.m_Directory, c.m_pTypes);
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    }
+}
