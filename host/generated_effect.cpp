@@ -46,7 +46,9 @@ std::vector<CString> Spellings(const CString& name, const std::set<CString>& ref
     return names;
 }
 
-std::vector<CEffectFile> RegisteredFiles(COrrelix& orrelix, const std::set<CString>& references) {
+// In a preview the page has all of its files beside it.
+std::vector<CEffectFile> RegisteredFiles(COrrelix& orrelix, EHtmlMode mode,
+                                         const std::set<CString>& references) {
     std::vector<CEffectFile> files;
     std::set<CString> seen;
     const short nCount = orrelix.GetResourceNumber();
@@ -54,7 +56,8 @@ std::vector<CEffectFile> RegisteredFiles(COrrelix& orrelix, const std::set<CStri
         const CString name = orrelix.GetResourceName(i);
         const CString source = orrelix.GetResourceLocalPath(i) + name;
         if (seen.insert(source).second)
-            files.push_back({source, orrelix.GetResourceWebPath(i), Spellings(name, references)});
+            files.push_back({source, mode == kPreview ? CString() : orrelix.GetResourceWebPath(i),
+                             Spellings(name, references)});
     }
     return files;
 }
@@ -99,7 +102,7 @@ CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mod
     effect.m_pEffect = file.GetEffect();
     // In this order: registering the files makes the component forget those that are lost.
     const std::set<CString> references = FindReferences(orrelix);
-    effect.m_Files = RegisteredFiles(orrelix, references);
+    effect.m_Files = RegisteredFiles(orrelix, mode, references);
     effect.m_Lost = LostFiles(references, effect.m_Files);
     orrelix.SetPreviewPath("");
     effect.m_Script = ScriptText(orrelix, mode);
