@@ -1,0 +1,48 @@
+// A configuration file as it lies on the disk: what its parts hold, in the order of the file, and whether it
+// is whole.
+//
+// The store takes any file for good and leaves out what it doesn't find. A person wants to be told.
+#pragma once
+
+#include "core/vignel_config.h"
+#include "host/report.h"
+#include "resources/effects.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class CConfigFile {
+public:
+    // Throws CFileError when the file can't be read.
+    explicit CConfigFile(const std::filesystem::path& path);
+
+    // The values and lists.
+    CVignelConfig m_Store;
+
+    // The keys of the Description and of the Parameter Part, each once.
+    std::vector<CString> m_DescriptionKeys;
+    std::vector<CString> m_ParameterKeys;
+
+    // What is wrong with the file's form, a sentence's rest each; empty when it is whole.
+    std::vector<std::string> m_Damage;
+
+    // Whether anything of the file was recognised.
+    bool IsConfigFile() const { return m_nMarkers > 0; }
+
+    // Whether an effect can come back from the file: it is our component's, names an effect, and its
+    // Parameter Part is there whole. If not, `reason` says why.
+    bool HoldsEffect(std::string& reason) const;
+
+    bool IsOurs() const;
+
+    // The name of the effect's kind; null when none is chosen or it is none that is known.
+    const CEffect* GetEffect() const;
+    CString GetEffectType() const;
+
+private:
+    void Inspect(std::string_view content);
+    void CheckCounts(std::string_view resourcePart, std::string_view htmlPart);
+
+    size_t m_nMarkers = 0; // how many of the eight lines that begin and end parts are there
+};

@@ -1,0 +1,122 @@
+// The program orrelix: what a page editor does with the component, as commands.
+#include "host/component_path.h"
+#include "host/preview.h"
+#include "host/publish.h"
+#include "host/report.h"
+#include "host/show.h"
+#include "host/text_encoding.h"
+#include "platform/code_page.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+#include <memory>
+#include <string>
+
+namespace {
+
+// One command of the program: its arguments, and what it does with them.
+struct CCommand {
+    CLI::App* m_pArguments;
+    std::function<void(int nCodePage, CReport& report)> m_Run;
+};
+
+CCommand AddShow(CLI::App& program) {
+    auto pOptions = std::make_shared<CShowOptions>();
+    CLI::App* pShow = program.add_subcommand("show", "Print what a configuration file holds");
+    pShow->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    pShow->add_flag("--json", pOptions->m_bJson, "Print it as JSON");
+    return {pShow, [pOptions](int nCodePage, CReport& report) {
+                pOptions->m_nCodePage = nCodePage;
+                Show(*pOptions, report);
+            }};
+}
+
+CCommand AddPreview(CLI::App& program) {
+    auto pOptions = std::make_shared<CPreviewOptions>();
+    CLI::App* pPreview =
+        program.add_subcommand("preview", "Make a page to look at for each configuration file");
+    pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required();
+    pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")->required()->type_name("DIR");
+    pPreview->add_flag("--index", pOptions->m_bIndex, "Write an index.html that shows all of them");
+    return {pPreview, [pOptions](int nCodePage, CReport& report) {
+                pOptions->m_nCodePage = nCodePage;
+                Preview(*pOptions, report);
+            }};
+}
+
+CCommand AddPublish(CLI::App& program) {
+    auto pOptions = std::make_shared<CPublishOptions>();
+    CLI::App* pPublish = program.add_subcommand("publish", "Put an effect into a page of a site");
+    pPublish->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    pPublish->add_option("--page", pOptions->m_Page, "The page, marked with <!-- vignel: TITLE -->")
+        ->required()
+        ->type_name("PAGE");
+    pPublish->add_option("--site", pOptions->m_Site, "The folder of the site's root")
+        ->required()
+        ->type_name("DIR");
+    return {pPublish, [pOptions](int nCodePage, CReport& report) {
+                pOptions->m_nCodePage = nCodePage;
+                Publish(*pOptions, report);
+            }};
+}
+
+// Whatever a command throws makes the program fail and nothing else.
+int RunCommand(const CCommand& command, int nCodePage) {
+    CReport report;
+    try {
+        command.m_Run(nCodePage, report);
+    } catch (const CFileError& error) {
+        report.Error(error.m_File, error.what());
+    } catch (const std::exception& error) {
+        report.Error(command.m_pArguments->get_name(), error.what());
+    }
+    std::cout.flush();
+    if (!std::cout)
+        report.Error("standard output", "can't be written: " + SystemReason());
+    return report.GetExitCode();
+}
+
+int WrongUsage(const std::string& text) {
+    std::cerr << "orrelix: " << text << "\nTry 'orrelix --help'.\n";
+    return kWrongUsage;
+}
+
+int RunProgram(int nArguments, char** ppArguments) {
+    CLI::App program("Shows, previews and publishes effects for web pages, from their configuration files.",
+                     "orrelix");
+    program.set_version_flag("--version", "orrelix " ORRELIX_VERSION);
+    program.require_subcommand(1);
+    program.fallthrough();
+    program.footer("'orrelix COMMAND --help' tells about a command, 'man orrelix' about all.");
+    int nCodePage = kUtf8CodePage;
+    program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
+        ->type_name("N");
+    const CCommand commands[] = {AddShow(program), AddPreview(program), AddPublish(program)};
+    try {
+        program.parse(nArguments, ppArguments);
+    } catch (const CLI::Success& success) { // --help, --version
+        return program.exit(success);
+    } catch (const CLI::ParseError& error) {
+        return WrongUsage(error.what());
+    }
+    if (EncodingOfCodePage(nCodePage).empty() || !SetCodePage(nCodePage))
+        return WrongUsage("--code-page: " + std::to_string(nCodePage) +
+                          " is no code page that is known here");
+    for (const CCommand& command : commands) {
+        if (command.m_pArguments->parsed())
+            return RunCommand(command, nCodePage);
+    }
+    return kWrongUsage;
+}
+
+} // namespace
+
+int main(int nArguments, char** ppArguments) {
+    try {
+        return RunProgram(nArguments, ppArguments);
+    } catch (const std::exception& error) {
+        std::cerr << "orrelix: " << error.what() << '\n';
+        return kFailure;
+    }
+}

@@ -1,0 +1,241 @@
+#include "host/marked_page.h"
+
+#include "host/html_scanner.h"
+#include "platform/string.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+struct CRange {
+    size_t m_nBegin;
+    size_t m_nEnd;
+};
+
+// What a page has for one title, as positions in its bytes.
+struct CPlaces {
+    std::vector<CRange> m_Marks;
+    std::vector<CRange> m_Scripts; // what an earlier time put in, with its comments
+    std::vector<CRange> m_Cursors;
+    std::vector<std::string> m_OtherTitles; // of marks that aren't for this one
+    std::optional<size_t> m_HeadBegin;
+    std::optional<size_t> m_HeadEnd;
+    std::optional<size_t> m_HtmlBegin;
+    std::optional<size_t> m_Body;
+
+    // Where a script goes into the head: before its end, which may be told by the body's beginning only.
+    std::optional<size_t> ScriptPlace() const {
+        if (m_HeadEnd && m_HeadEnd < m_Body.value_or(std::string::npos))
+            return m_HeadEnd;
+        return m_Body ? m_Body : m_HeadBegin ? m_HeadBegin : m_HtmlBegin;
+    }
+};
+
+// A mark or a comment of ours, as positions in the comment's text.
+struct CVignelComment {
+    CString m_Word; // "vignel", "vignel cursor", "vignel script 2", …
+    size_t m_nWord;
+    CRange m_Title;
+};
+
+std::optional<CVignelComment> ParseComment(std::string_view comment) {
+    const size_t nColon = comment.find(':');
+    if (nColon == std::string_view::npos)
+        return std::nullopt;
+    const std::string_view word = Trim(comment.substr(0, nColon));
+    const std::string_view title = Trim(comment.substr(nColon + 1));
+    const CString lower = CString(word).MakeLower();
+    if (lower != "vignel" && !lower.View().starts_with("vignel "))
+        return std::nullopt;
+    const size_t nTitle = static_cast<size_t>(title.data() - comment.data());
+    return CVignelComment{
+        lower, static_cast<size_t>(word.data() - comment.data()), {nTitle, nTitle + title.size()}};
+}
+
+class CPlaceFinder {
+public:
+    CPlaceFinder(const CPageText& text, const std::string& title)
+        : m_Text(text), m_Outline(text.GetOutline()), m_Title(title), m_Scanner(m_Outline) {}
+
+    // False, and `problem` says why, when an earlier time's text has lost its end.
+    bool Find(CPlaces& places, std::string& problem) {
+        CHtmlPiece piece;
+        while (m_Scanner.Next(piece)) {
+            if (piece.m_Kind != CHtmlPiece::kComment)
+                NoteTag(piece, places);
+            else if (!NoteComment(piece, places, problem))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    void NoteTag(const CHtmlPiece& piece, CPlaces& places) const {
+        const struct {
+            CHtmlPiece::EKind m_Kind;
+            const char* m_pName;
+            std::optional<size_t>& m_Place;
+            size_t m_nPosition;
+        } rows[] = {
+            {CHtmlPiece::kTag, "html", places.m_HtmlBegin, piece.m_nEnd},
+            {CHtmlPiece::kTag, "head", places.m_HeadBegin, piece.m_nEnd},
+            {CHtmlPiece::kEndTag, "head", places.m_HeadEnd, piece.m_nBegin},
+            {CHtmlPiece::kTag, "body", places.m_Body, piece.m_nBegin},
+            {CHtmlPiece::kTag, "frameset", places.m_Body, piece.m_nBegin},
+        };
+        for (const auto& row : rows) {
+            if (!row.m_Place && piece.m_Kind == row.m_Kind && piece.m_Name == row.m_pName)
+                row.m_Place = row.m_nPosition * m_Text.GetUnitSize();
+        }
+    }
+
+    bool NoteComment(const CHtmlPiece& piece, CPlaces& places, std::string& problem) {
+        const auto text = m_Outline.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
+        const auto comment = ParseComment(text);
+        if (!comment)
+            return true;
+        const bool bOurs = m_Text.Equals(Bytes(piece.m_nInnerBegin + comment->m_Title.m_nBegin,
+                                               piece.m_nInnerBegin + comment->m_Title.m_nEnd),
+                                         m_Title);
+        const size_t nUnit = m_Text.GetUnitSize();
+        CRange range{piece.m_nBegin * nUnit, piece.m_nEnd * nUnit};
+        if (comment->m_Word == "vignel") {
+            if (bOurs)
+                places.m_Marks.push_back(range);
+            else
+                places.m_OtherTitles.emplace_back(text.substr(comment->m_Title.m_nBegin));
+            return true;
+        }
+        // What stands between two comments of ours may hold anything and is passed over.
+        const auto end = FindEndOf(piece, piece.m_nInnerBegin + comment->m_nWord);
+        if (!end) {
+            problem =
+                "has the comment \"<!--" + std::string(text) +
+                "-->\" with an effect behind it, but not "
+                "the comment with \"/vignel\" where that ends; put it back, or take out what was put in";
+            return false;
+        }
+        range.m_nEnd = *end;
+        m_Scanner.ContinueAt(*end / nUnit);
+        if (bOurs)
+            (comment->m_Word.View().starts_with("vignel script") ? places.m_Scripts : places.m_Cursors)
+                .push_back(range);
+        return true;
+    }
+
+    // The end of the comment that is the same as the given one but for a "/" in front of its word.
+    std::optional<size_t> FindEndOf(const CHtmlPiece& piece, size_t nWord) const {
+        const size_t nUnit = m_Text.GetUnitSize();
+        std::string slash(nUnit, '\0');
+        slash[m_Text.GetEncoding() == "UTF-16BE" ? 1 : 0] = '/';
+        const std::string wanted =
+            std::string(Bytes(piece.m_nBegin, nWord)) + slash + std::string(Bytes(nWord, piece.m_nEnd));
+        const std::string_view page = m_Text.GetBytes();
+        size_t nFound = page.find(wanted, piece.m_nEnd * nUnit);
+        while (nFound != std::string_view::npos && nFound % nUnit != 0)
+            nFound = page.find(wanted, nFound + 1);
+        return nFound != std::string_view::npos ? std::optional(nFound + wanted.size()) : std::nullopt;
+    }
+
+    // The bytes of a part of the outline.
+    std::string_view Bytes(size_t nBegin, size_t nEnd) const {
+        const size_t nUnit = m_Text.GetUnitSize();
+        return std::string_view(m_Text.GetBytes()).substr(nBegin * nUnit, (nEnd - nBegin) * nUnit);
+    }
+
+    const CPageText& m_Text;
+    const std::string_view m_Outline;
+    const std::string& m_Title;
+    CHtmlScanner m_Scanner;
+};
+
+// A title as it stands in our comments.
+std::string EscapedTitle(const std::string& title) {
+    CString text(title);
+    text.Replace("&#", "&#38;#");
+    text.Replace("--", "&#45;&#45;");
+    return std::string(text.View());
+}
+
+std::string MarkOf(const std::string& title) {
+    return "\"<!-- vignel: " + EscapedTitle(title) + " -->\"";
+}
+
+std::string WhyNoMark(const std::string& title, const CPlaces& places) {
+    if (places.m_Marks.size() > 1)
+        return "has the mark " + MarkOf(title) + " " + std::to_string(places.m_Marks.size()) +
+               " times; leave the one where the effect is to appear";
+    std::string reason = "has no place for the effect; put " + MarkOf(title) + " where it is to appear";
+    if (!places.m_OtherTitles.empty())
+        reason += " (the titles that the page has marks for:";
+    for (const std::string& other : places.m_OtherTitles)
+        reason += " \"" + other + "\"";
+    return reason + (places.m_OtherTitles.empty() ? "" : ")");
+}
+
+struct CEdit {
+    CRange m_Range;
+    std::string m_Text;
+};
+
+std::string Apply(std::string_view page, std::vector<CEdit> edits) {
+    std::stable_sort(edits.begin(), edits.end(), [](const CEdit& left, const CEdit& right) {
+        return left.m_Range.m_nBegin < right.m_Range.m_nBegin;
+    });
+    std::string result;
+    size_t nDone = 0;
+    for (const CEdit& edit : edits) {
+        result += page.substr(nDone, edit.m_Range.m_nBegin - nDone);
+        result += edit.m_Text;
+        nDone = edit.m_Range.m_nEnd;
+    }
+    return result += page.substr(nDone);
+}
+
+} // namespace
+
+std::optional<std::string> CMarkedPage::Place(const std::string& title, std::string_view script,
+                                              std::string_view cursor, std::string& problem) {
+    CPlaces places;
+    if (!CPlaceFinder(m_Text, title).Find(places, problem))
+        return std::nullopt;
+    if (places.m_Marks.size() != 1) {
+        problem = WhyNoMark(title, places);
+        return std::nullopt;
+    }
+    const auto scriptPlace = places.ScriptPlace();
+    if (!scriptPlace && !script.empty()) {
+        problem = "has no head for the effect's script; put \"<head></head>\" at its beginning";
+        return std::nullopt;
+    }
+    const size_t nCursor = places.m_Marks.front().m_nEnd;
+    std::vector<CEdit> edits = {{{nCursor, nCursor}, Enclose("cursor", title, cursor)}};
+    for (const CRange& old : places.m_Cursors)
+        edits.push_back({old, ""});
+    for (const CRange& old : places.m_Scripts)
+        edits.push_back({old, ""});
+    if (!script.empty()) {
+        // Where it stood before, unless that has come to lie behind the head.
+        const bool bKeepsPlace =
+            !places.m_Scripts.empty() && places.m_Scripts.front().m_nBegin < *scriptPlace;
+        const size_t nScript = bKeepsPlace ? places.m_Scripts.front().m_nBegin : *scriptPlace;
+        edits.insert(edits.begin(), {{nScript, nScript}, Enclose("script", title, script)});
+    }
+    return Apply(m_Text.GetBytes(), std::move(edits));
+}
+
+// A text between comments; they get a number when the text holds the one that would end it.
+std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title, std::string_view text) {
+    const CConvertedText inPage = m_Text.ToPage(text);
+    m_nUnfit += inPage.m_nUnfit;
+    m_nInvalid += inPage.m_nInvalid;
+    for (int nNumber = 1;; ++nNumber) {
+        const std::string comment = std::string("vignel ") + pPosition +
+                                    (nNumber > 1 ? " " + std::to_string(nNumber) : "") + ": " +
+                                    EscapedTitle(title) + " -->";
+        const std::string end = m_Text.ToPage("<!-- /" + comment).m_Text;
+        if (inPage.m_Text.find(end) == std::string::npos)
+            return m_Text.ToPage("<!-- " + comment + "\r\n").m_Text + inPage.m_Text + end;
+    }
+}

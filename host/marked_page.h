@@ -1,0 +1,43 @@
+// A page with places for effects, and the effects put into it.
+//
+// The page's author marks where an effect is to appear:
+//
+//     <!-- vignel: news -->
+//
+// What is put in stands between comments of ours, by which the next time finds it again:
+//
+//     <!-- vignel script: news -->…<!-- /vignel script: news -->     at the end of the head
+//     <!-- vignel cursor: news -->…<!-- /vignel cursor: news -->     behind the mark
+//
+// A title in these comments has "&#45;" for hyphens in a row, which would end a comment, and "&#N;" for
+// characters that the page's encoding hasn't. Nothing but what is between these comments ever changes.
+#pragma once
+
+#include "host/page_text.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+class CMarkedPage {
+public:
+    CMarkedPage(std::string page, int nCodePage) : m_Text(std::move(page), nCodePage) {}
+
+    // The page with an effect's texts in it, all of the code page; those of an earlier time are replaced. An
+    // empty script leaves the head alone. Nothing, and `problem` says why, when the page has no place for it.
+    std::optional<std::string> Place(const std::string& title, std::string_view script,
+                                     std::string_view cursor, std::string& problem);
+
+    // The page's encoding, empty when it isn't known, and how what was put in got along with it: characters
+    // that it hasn't, and bytes that are no text in the code page.
+    const std::string& GetEncoding() const { return m_Text.GetEncoding(); }
+    size_t GetUnfitCount() const { return m_nUnfit; }
+    size_t GetInvalidCount() const { return m_nInvalid; }
+
+private:
+    std::string Enclose(const char* pPosition, const std::string& title, std::string_view text);
+
+    CPageText m_Text;
+    size_t m_nUnfit = 0;
+    size_t m_nInvalid = 0;
+};

@@ -1,0 +1,147 @@
+#include "host/page_text.h"
+
+#include "host/html_scanner.h"
+#include "platform/string.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+constexpr struct {
+    std::string_view m_Mark;
+    const char* m_pEncoding;
+    size_t m_nUnitSize;
+} kByteOrderMarks[] = {
+    {"\xEF\xBB\xBF", "UTF-8", 1},
+    {"\xFF\xFE", "UTF-16LE", 2},
+    {"\xFE\xFF", "UTF-16BE", 2},
+};
+
+constexpr char kNoAscii = '\x80';
+
+// The charset in a text such as "text/html; charset=gb2312".
+std::string_view CharsetOfContentType(std::string_view content) {
+    const CString lower = CString(content).MakeLower();
+    const auto nCharset = lower.Find("charset");
+    if (nCharset < 0)
+        return {};
+    std::string_view value = Trim(content.substr(static_cast<size_t>(nCharset) + 7));
+    if (!value.starts_with('='))
+        return {};
+    value = Trim(value.substr(1));
+    const size_t nBegin = std::min(value.find_first_not_of("\"'"), value.size());
+    return value.substr(nBegin, value.find_first_of("\"'; \t\r\n", nBegin) - nBegin);
+}
+
+std::string_view DeclaredCharset(std::string_view page) {
+    CHtmlScanner scanner(page);
+    CHtmlPiece piece;
+    while (scanner.Next(piece) && piece.m_Name != "body") {
+        if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
+            continue;
+        const std::string_view attributes =
+            page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
+        std::string_view charset = Trim(FindAttribute(attributes, "charset"));
+        if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
+            charset = CharsetOfContentType(FindAttribute(attributes, "content"));
+        if (!charset.empty())
+            return charset;
+    }
+    return {};
+}
+
+// In this encoding, bytes between an escape sequence and the next may be halves of characters, whatever they
+// look like.
+void MaskEscapedText(std::string& outline) {
+    bool bAscii = true;
+    for (size_t i = 0; i < outline.size(); ++i) {
+        if (outline[i] == '\x1B') {
+            const std::string_view sequence = std::string_view(outline).substr(i, 3);
+            bAscii = sequence == "\x1B(B" || sequence == "\x1B(J";
+            i += 2;
+        } else if (!bAscii) {
+            outline[i] = kNoAscii;
+        }
+    }
+}
+
+// Decodes "&#45;" and "&#x2d;" as far as the characters are ASCII or the text is UTF-8.
+std::string WithoutReferences(std::string_view text, bool bUtf8) {
+    std::string result;
+    for (size_t nBegin = 0; nBegin < text.size();) {
+        const size_t nReference = std::min(text.find("&#", nBegin), text.size());
+        result += text.substr(nBegin, nReference - nBegin);
+        const size_t nEnd = text.find(';', nReference);
+        unsigned nCharacter = 0;
+        if (nEnd != std::string_view::npos) {
+            std::string digits(text.substr(nReference + 2, nEnd - nReference - 2));
+            const bool bHex = digits.starts_with('x') || digits.starts_with('X');
+            char* pEnd = nullptr;
+            nCharacter =
+                static_cast<unsigned>(strtoul(digits.c_str() + (bHex ? 1 : 0), &pEnd, bHex ? 16 : 10));
+            if (*pEnd || nCharacter > (bUtf8 ? 0x10FFFFU : 0x7FU))
+                nCharacter = 0;
+        }
+        if (nCharacter == 0) {
+            result += text.substr(nReference, 2);
+            nBegin = std::min(nReference + 2, text.size());
+            continue;
+        }
+        char units[4];
+        for (size_t i = 0; i < sizeof units; ++i)
+            units[i] = static_cast<char>(nCharacter >> (8 * i));
+        result += ConvertText({units, sizeof units}, "UTF-32LE", "UTF-8").m_Text;
+        nBegin = nEnd + 1;
+    }
+    return result;
+}
+
+} // namespace
+
+CPageText::CPageText(std::string page, int nCodePage)
+    : m_Page(std::move(page)), m_CodePageEncoding(EncodingOfCodePage(nCodePage)) {
+    DetectEncoding();
+    MakeOutline();
+}
+
+void CPageText::DetectEncoding() {
+    for (const auto& row : kByteOrderMarks) {
+        if (m_Page.starts_with(row.m_Mark)) {
+            m_Encoding = row.m_pEncoding;
+            m_nUnitSize = row.m_nUnitSize;
+            return;
+        }
+    }
+    m_Encoding = EncodingOfLabel(DeclaredCharset(m_Page));
+}
+
+void CPageText::MakeOutline() {
+    if (m_nUnitSize == 1) {
+        m_Outline = m_Page;
+        if (m_Encoding == "ISO-2022-JP")
+            MaskEscapedText(m_Outline);
+        return;
+    }
+    const size_t nLow = m_Encoding == "UTF-16LE" ? 0 : 1;
+    m_Outline.resize(m_Page.size() / 2);
+    for (size_t i = 0; i < m_Outline.size(); ++i) {
+        const char low = m_Page[2 * i + nLow];
+        const bool bAscii = m_Page[2 * i + 1 - nLow] == 0 && static_cast<unsigned char>(low) < 0x80;
+        m_Outline[i] = bAscii ? low : kNoAscii;
+    }
+}
+
+CConvertedText CPageText::ToPage(std::string_view text) const {
+    return Converts() ? ConvertText(text, m_CodePageEncoding, m_Encoding) : CConvertedText{std::string(text)};
+}
+
+bool CPageText::Equals(std::string_view part, std::string_view text) const {
+    if (part == text)
+        return true;
+    if (!Converts())
+        return WithoutReferences(part, m_Encoding == "UTF-8") == text;
+    const std::string ours = ConvertText(text, m_CodePageEncoding, "UTF-8").m_Text;
+    const std::string theirs = ConvertText(part, m_Encoding, "UTF-8").m_Text;
+    return theirs == ours || WithoutReferences(theirs, true) == ours;
+}

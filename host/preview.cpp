@@ -1,0 +1,101 @@
+#include "host/preview.h"
+
+#include "host/component_path.h"
+#include "host/generated_effect.h"
+#include "host/preview_page.h"
+#include "host/site.h"
+#include "host/text_encoding.h"
+#include "platform/files.h"
+
+#include <cerrno>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char kIndexName[] = "index.html";
+
+class CPreviewRun {
+public:
+    CPreviewRun(const CPreviewOptions& options, CReport& report)
+        : m_Options(options), m_Report(report), m_Out(fs::canonical(options.m_Out)), m_Site(m_Out),
+          m_Copies(m_Site, options.m_nCodePage, report) {}
+
+    void Run() {
+        for (const fs::path& file : m_Options.m_Files) {
+            try {
+                AddPage(file);
+            } catch (const CFileError& error) {
+                m_Report.Error(error.m_File, error.what());
+            }
+        }
+        m_Copies.Run();
+        if (m_Options.m_bIndex)
+            Write(kIndexName, IndexPage(m_Pages, m_Options.m_nCodePage));
+    }
+
+private:
+    void AddPage(const fs::path& file) {
+        const std::string name = file.stem().string() + ".html";
+        const fs::path page = m_Out / name;
+        if (fs::equivalent(fs::absolute(file).parent_path(), m_Out))
+            throw CFileError(file, "lies in the folder for the pages; name another one with --out");
+        if (m_Options.m_bIndex && name == kIndexName)
+            throw CFileError(file, "would have its page where the index belongs; rename the file");
+        for (const CPreviewPage& other : m_Pages) {
+            if (other.m_Name == name)
+                throw CFileError(file, "would have its page where that of " + other.m_Source +
+                                           " is; rename one of them");
+        }
+        const CGeneratedEffect effect = GenerateEffect(file, kPreview);
+        m_Copies.Plan(effect, page, file.string());
+        CPreviewPage preview{name, file.string(), effect};
+        WarnOfInvalidText(preview);
+        Write(name, EffectPage(preview, m_Options.m_nCodePage));
+        m_Pages.push_back(std::move(preview));
+    }
+
+    void WarnOfInvalidText(const CPreviewPage& page) {
+        const std::string encoding = EncodingOfCodePage(m_Options.m_nCodePage);
+        size_t nInvalid = 0;
+        for (const CString* pText :
+             {&page.m_Effect.m_Title, &page.m_Effect.m_Script, &page.m_Effect.m_Cursor})
+            nInvalid += ConvertText(pText->View(), encoding, "UTF-8").m_nInvalid;
+        if (nInvalid > 0)
+            m_Report.Warning(page.m_Source,
+                             Counted(nInvalid, "byte") +
+                                 " of its text are none of the code "
+                                 "page's; if it was made in another one, name that with --code-page");
+    }
+
+    void Write(const std::string& name, const std::string& content) {
+        COutputFile file;
+        errno = 0;
+        bool bWritten = file.Open(ComponentPath(m_Out / name));
+        if (bWritten) {
+            file.Write(content);
+            bWritten = file.Commit(false);
+        }
+        if (!bWritten)
+            return m_Report.Error((m_Out / name).string(), "can't be written: " + SystemReason());
+        std::cout << (m_Out / name).string() << '\n';
+    }
+
+    const CPreviewOptions& m_Options;
+    CReport& m_Report;
+    const fs::path m_Out;
+    const CSite m_Site;
+    CFileCopies m_Copies;
+    std::vector<CPreviewPage> m_Pages;
+};
+
+} // namespace
+
+void Preview(const CPreviewOptions& options, CReport& report) {
+    std::error_code failed;
+    fs::create_directories(options.m_Out, failed);
+    if (failed || !fs::is_directory(options.m_Out))
+        return report.Error(options.m_Out.string(), "is no folder that pages can be written to");
+    CPreviewRun(options, report).Run();
+}

@@ -1,0 +1,236 @@
+#include "host/preview_page.h"
+
+#include "host/text_encoding.h"
+
+namespace {
+
+// All names are the frame's own, so that it and the effect leave each other alone. Effects were made for
+// light pages, so their stage is one, whatever the frame is.
+constexpr char kSharedStyle[] = R"(
+:root {
+    color-scheme: light dark;
+    --orrelix-ground: #eef1f5;
+    --orrelix-card: #fff;
+    --orrelix-line: #d3dae3;
+    --orrelix-text: #1c2733;
+    --orrelix-quiet: #55657a;
+    --orrelix-link: #0b5cad;
+}
+@media (prefers-color-scheme: dark) {
+    :root {
+        --orrelix-ground: #14181d;
+        --orrelix-card: #1e252d;
+        --orrelix-line: #36414d;
+        --orrelix-text: #e6ebf1;
+        --orrelix-quiet: #9fb0c3;
+        --orrelix-link: #7dbbf5;
+    }
+}
+.orrelix-header {
+    font: 1rem/1.5 system-ui, sans-serif;
+    color: var(--orrelix-text);
+}
+.orrelix-header h1 {
+    margin: 0;
+    font-size: 1.5rem;
+    line-height: 1.25;
+}
+.orrelix-header p {
+    margin: .25rem 0 0;
+    color: var(--orrelix-quiet);
+}
+)";
+
+// The index frames a page as PAGE#effect, where its stage stands alone.
+constexpr char kEffectStyle[] = R"(
+.orrelix-page {
+    background: var(--orrelix-ground);
+}
+.orrelix-page > body {
+    margin: 0 auto;
+    padding: clamp(1rem, 4vw, 2.5rem);
+    max-width: 75rem;
+}
+.orrelix-header {
+    margin-bottom: 1.5rem;
+}
+.orrelix-stage {
+    color-scheme: light;
+    min-height: 24rem;
+    padding: 1.5rem;
+    overflow: auto;
+    border: 1px solid var(--orrelix-line);
+    border-radius: .75rem;
+    background: #fff;
+    color: #000;
+    box-shadow: 0 1px 3px rgb(0 0 0 / 12%);
+}
+.orrelix-page:target > body {
+    max-width: none;
+    padding: 0;
+}
+.orrelix-page:target .orrelix-header {
+    display: none;
+}
+.orrelix-page:target .orrelix-stage {
+    border: 0;
+    border-radius: 0;
+    box-shadow: none;
+    box-sizing: border-box;
+    min-height: 100vh;
+}
+)";
+
+// A picture is a page of twice the card's size, at half its scale.
+constexpr char kIndexStyle[] = R"(
+body {
+    margin: 0 auto;
+    padding: clamp(1rem, 4vw, 2.5rem);
+    max-width: 90rem;
+    background: var(--orrelix-ground);
+    color: var(--orrelix-text);
+    font: 1rem/1.5 system-ui, sans-serif;
+}
+main {
+    display: grid;
+    grid-template-columns: repeat(auto-fill, minmax(min(24rem, 100%), 1fr));
+    gap: 1.5rem;
+    margin-top: 2rem;
+}
+article {
+    display: flex;
+    flex-direction: column;
+    overflow: hidden;
+    border: 1px solid var(--orrelix-line);
+    border-radius: .75rem;
+    background: var(--orrelix-card);
+    box-shadow: 0 1px 3px rgb(0 0 0 / 12%);
+}
+.picture {
+    aspect-ratio: 16 / 10;
+    overflow: hidden;
+    border-bottom: 1px solid var(--orrelix-line);
+    background: #fff;
+}
+iframe {
+    width: 200%;
+    height: 200%;
+    border: 0;
+    transform: scale(.5);
+    transform-origin: 0 0;
+}
+.about {
+    display: flex;
+    flex: 1;
+    flex-direction: column;
+    padding: 1rem 1.25rem 1.25rem;
+}
+h2 {
+    margin: 0;
+    font-size: 1.125rem;
+}
+.about p {
+    flex: 1;
+    margin: .25rem 0 .75rem;
+    color: var(--orrelix-quiet);
+}
+a {
+    color: var(--orrelix-link);
+}
+)";
+
+std::string Escaped(std::string_view text) {
+    std::string result;
+    for (char byte : text) {
+        switch (byte) {
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '"':
+            result += "&quot;";
+            break;
+        default:
+            result += byte;
+        }
+    }
+    return result;
+}
+
+// A file's name as an address in UTF-8.
+std::string AddressOf(std::string_view name) {
+    constexpr std::string_view kPlain = "-._~";
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string result;
+    for (char byte : name) {
+        const auto code = static_cast<unsigned char>(byte);
+        const bool bPlain = (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') ||
+                            (byte >= 'A' && byte <= 'Z') || kPlain.find(byte) != std::string_view::npos;
+        result += bPlain ? std::string(1, byte) : std::string("%") + kDigits[code >> 4] + kDigits[code & 15];
+    }
+    return result;
+}
+
+// The effect's kind and, where the file gives one, its title.
+std::string HeadingOf(const CPreviewPage& page) {
+    const std::string name = page.m_Effect.m_pEffect->m_pName;
+    return page.m_Effect.m_Title.IsEmpty() ? name : name + ": " + Escaped(page.m_Effect.m_Title.View());
+}
+
+std::string PageHead(const std::string& label, std::string_view title) {
+    return "<meta charset=\"" + label +
+           "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
+           std::string(title) + "</title>\n";
+}
+
+// Text of the code page with a charset that browsers know: the code page's own, or else UTF-8.
+template <class TMake>
+std::string InKnownCharset(int nCodePage, TMake make) {
+    const std::string label = LabelOfCodePage(nCodePage);
+    if (!label.empty())
+        return make(label);
+    return ConvertText(make("utf-8"), EncodingOfCodePage(nCodePage), "UTF-8").m_Text;
+}
+
+std::string Card(const CPreviewPage& page) {
+    const std::string heading = HeadingOf(page);
+    const std::string address = AddressOf(page.m_Name);
+    return "<article>\n<div class=\"picture\"><iframe src=\"" + address + "#effect\" title=\"" + heading +
+           "\" loading=\"lazy\"></iframe></div>\n<div class=\"about\">\n<h2>" + heading + "</h2>\n<p>" +
+           Escaped(page.m_Effect.m_pEffect->m_pDescription) + "</p>\n<a href=\"" + address + "\">Open " +
+           address + "</a>\n</div>\n</article>\n";
+}
+
+} // namespace
+
+std::string EffectPage(const CPreviewPage& page, int nCodePage) {
+    return InKnownCharset(nCodePage, [&](const std::string& label) {
+        const CGeneratedEffect& effect = page.m_Effect;
+        return "<!DOCTYPE html>\n<html lang=\"en\" class=\"orrelix-page\" id=\"effect\">\n<head>\n" +
+               PageHead(label, HeadingOf(page)) + "<style>" + kSharedStyle + kEffectStyle + "</style>\n" +
+               std::string(effect.m_Script.View()) +
+               "</head>\n<body>\n<header class=\"orrelix-header\">\n<h1>" + HeadingOf(page) + "</h1>\n<p>" +
+               Escaped(effect.m_pEffect->m_pDescription) +
+               "</p>\n</header>\n<main class=\"orrelix-stage\">\n" + std::string(effect.m_Cursor.View()) +
+               "</main>\n</body>\n</html>\n";
+    });
+}
+
+std::string IndexPage(const std::vector<CPreviewPage>& pages, int nCodePage) {
+    return InKnownCharset(nCodePage, [&](const std::string& label) {
+        std::string text =
+            "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n" + PageHead(label, "Effects") + "<style>" +
+            kSharedStyle + kIndexStyle +
+            "</style>\n</head>\n<body>\n<header class=\"orrelix-header\">\n<h1>Effects</h1>\n<p>" +
+            std::to_string(pages.size()) + (pages.size() == 1 ? " effect" : " effects") +
+            ", each running in its own page.</p>\n</header>\n<main>\n";
+        for (const CPreviewPage& page : pages)
+            text += Card(page);
+        return text + "</main>\n</body>\n</html>\n";
+    });
+}

@@ -1,0 +1,71 @@
+#include "host/publish.h"
+
+#include "host/component_path.h"
+#include "host/generated_effect.h"
+#include "host/marked_page.h"
+#include "host/site.h"
+#include "platform/files.h"
+
+#include <cerrno>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CReport& report) {
+    if (page.GetUnfitCount() > 0)
+        report.Warning(subject, Counted(page.GetUnfitCount(), "character") +
+                                    " can't be written in the page's "
+                                    "encoding, " +
+                                    page.GetEncoding() + ", and stand in it as \"&#N;\"");
+    if (page.GetInvalidCount() > 0)
+        report.Warning(subject, Counted(page.GetInvalidCount(), "byte") +
+                                    " of the effect's text are none of the "
+                                    "code page's; if it was made in another one, name that with --code-page");
+}
+
+void WritePage(const fs::path& path, const std::string& bytes, const std::string& subject, CReport& report) {
+    COutputFile file;
+    errno = 0;
+    bool bWritten = file.Open(ComponentPath(path));
+    if (bWritten) {
+        file.Write(bytes);
+        bWritten = file.Commit();
+    }
+    if (!bWritten)
+        report.Error(subject, "can't be written: " + SystemReason() + "; the page is as it was");
+}
+
+} // namespace
+
+void Publish(const CPublishOptions& options, CReport& report) {
+    const std::string pageName = options.m_Page.string();
+    if (!fs::is_directory(options.m_Site))
+        return report.Error(options.m_Site.string(), "is no folder; name the folder of the site with --site");
+    std::string before;
+    if (!fs::is_regular_file(options.m_Page) || !ReadFileContent(options.m_Page, before))
+        return report.Error(pageName, "can't be read as a page: " + SystemReason());
+    const CSite site(options.m_Site);
+    if (!site.Holds(options.m_Page))
+        return report.Error(pageName, "doesn't lie in the site's folder " + options.m_Site.string());
+
+    const CGeneratedEffect effect = GenerateEffect(options.m_File, kPublish);
+    CMarkedPage page(before, options.m_nCodePage);
+    std::string problem;
+    const auto after =
+        page.Place(std::string(effect.m_Title.View()), effect.m_Script, effect.m_Cursor, problem);
+    if (!after)
+        return report.Error(pageName, problem + ". Nothing has been written");
+    WarnOfCharacters(page, pageName, report);
+
+    // The files first: a page never refers to what isn't there yet.
+    const fs::path pagePath =
+        fs::canonical(fs::absolute(options.m_Page).parent_path()) / options.m_Page.filename();
+    CFileCopies copies(site, options.m_nCodePage, report);
+    copies.Plan(effect, pagePath, options.m_File.string());
+    copies.Run();
+    if (*after != before)
+        WritePage(pagePath, *after, pageName, report);
+    std::cout << pageName << '\n';
+}

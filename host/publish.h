@@ -1,0 +1,18 @@
+// orrelix publish: an effect into a page of a site.
+#pragma once
+
+#include "host/report.h"
+
+#include <filesystem>
+
+struct CPublishOptions {
+    std::filesystem::path m_File; // the configuration file
+    std::filesystem::path m_Page;
+    std::filesystem::path m_Site; // the folder of the site's root, in which the page lies
+    int m_nCodePage;
+};
+
+// Puts the effect's texts into the page and its files where their web paths say. When the page has no place
+// for it, nothing is written; a file that can't be put to its place is reported, and the rest is done. The
+// page is replaced as a whole or not at all.
+void Publish(const CPublishOptions& options, CReport& report);

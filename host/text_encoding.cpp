@@ -1,0 +1,215 @@
+#include "host/text_encoding.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <iconv.h>
+#include <iterator>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+// A conversion in progress, which remembers the state of encodings that have one.
+class CConverter {
+public:
+    CConverter(const std::string& from, const std::string& to)
+        : m_Converter(iconv_open(to.c_str(), from.c_str())) {}
+    ~CConverter() {
+        if (IsOpen())
+            iconv_close(m_Converter);
+    }
+    CConverter(const CConverter&) = delete;
+    CConverter& operator=(const CConverter&) = delete;
+
+    bool IsOpen() const { return m_Converter != reinterpret_cast<iconv_t>(-1); }
+
+    // Appends what can be converted and takes it off the input. 0, or why it stopped: EILSEQ before what
+    // can't be converted, EINVAL before what is cut off.
+    int Convert(std::string_view& input, std::string& output) {
+        char* pInput = const_cast<char*>(input.data());
+        size_t nInput = input.size();
+        const int nError = Run(&pInput, &nInput, output);
+        input.remove_prefix(input.size() - nInput);
+        return nError;
+    }
+
+    // Appends what brings the output back to its first state.
+    void Finish(std::string& output) { Run(nullptr, nullptr, output); }
+
+private:
+    int Run(char** ppInput, size_t* pnInput, std::string& output) {
+        char block[16 * 1024];
+        for (;;) {
+            char* pBlock = block;
+            size_t nFree = sizeof block;
+            const size_t nResult = iconv(m_Converter, ppInput, pnInput, &pBlock, &nFree);
+            const int nError = nResult == static_cast<size_t>(-1) ? errno : 0;
+            output.append(block, sizeof block - nFree);
+            if (nError != E2BIG)
+                return nError;
+        }
+    }
+
+    iconv_t m_Converter;
+};
+
+std::string_view BytesOf(const char32_t& character) {
+    return {reinterpret_cast<const char*>(&character), sizeof character};
+}
+
+constexpr const char* kCharacters = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__ ? "UTF-32LE" : "UTF-32BE";
+
+// Encodes characters, those that don't fit as references.
+void Encode(CConverter& encoder, std::string_view characters, CConvertedText& result) {
+    while (encoder.Convert(characters, result.m_Text) != 0) {
+        char32_t character = 0;
+        std::copy_n(characters.data(), sizeof character, reinterpret_cast<char*>(&character));
+        characters.remove_prefix(sizeof character);
+        ++result.m_nUnfit;
+        for (char digit : "&#" + std::to_string(static_cast<std::uint32_t>(character)) + ";") {
+            const char32_t wide = static_cast<unsigned char>(digit);
+            std::string_view bytes = BytesOf(wide);
+            encoder.Convert(bytes, result.m_Text);
+        }
+    }
+}
+
+// "*" in a name stands for the code page's number, or for the part's in the parts of ISO 8859.
+struct CCodePage {
+    int m_nFirst;
+    int m_nLast;
+    const char* m_pEncoding;
+    const char* m_pLabel;
+};
+
+constexpr CCodePage kCodePages[] = {
+    {65001, 65001, "UTF-8", "utf-8"},   {932, 932, "CP932", "shift_jis"},
+    {936, 936, "CP936", "gbk"},         {949, 949, "CP949", "euc-kr"},
+    {950, 950, "CP950", "big5"},        {874, 874, "CP874", "windows-874"},
+    {1250, 1258, "CP*", "windows-*"},   {20866, 20866, "KOI8-R", "koi8-r"},
+    {21866, 21866, "KOI8-U", "koi8-u"}, {28591, 28605, "ISO-8859-*", "iso-8859-*"},
+    {866, 866, "CP866", "ibm866"},      {437, 869, "CP*", ""},
+};
+
+const CCodePage* FindCodePage(int nCodePage) {
+    const auto* pFound =
+        std::find_if(std::begin(kCodePages), std::end(kCodePages), [&](const CCodePage& row) {
+            return nCodePage >= row.m_nFirst && nCodePage <= row.m_nLast;
+        });
+    return pFound != std::end(kCodePages) ? pFound : nullptr;
+}
+
+std::string NameOf(int nCodePage, std::string pattern) {
+    const size_t nStar = pattern.find('*');
+    if (nStar != std::string::npos)
+        pattern.replace(nStar, 1, std::to_string(nCodePage > 28590 ? nCodePage - 28590 : nCodePage));
+    return pattern;
+}
+
+bool IsConvertible(const std::string& encoding) {
+    return CConverter(encoding, kCharacters).IsOpen() && CConverter(kCharacters, encoding).IsOpen();
+}
+
+// The labels for which browsers use another encoding than the one of that name, or whose name iconv hasn't.
+constexpr struct {
+    const char* m_pLabels; // each between blanks
+    const char* m_pEncoding;
+} kLabels[] = {
+    {" utf-8 utf8 unicode-1-1-utf-8 utf-16 utf-16le utf-16be ", "UTF-8"},
+    {" ascii us-ascii ansi_x3.4-1968 iso-8859-1 iso8859-1 iso_8859-1 latin1 l1 cp1252 x-cp1252 windows-1252 ",
+     "CP1252"},
+    {" iso-8859-9 iso8859-9 latin5 windows-1254 cp1254 ", "CP1254"},
+    {" iso-8859-11 tis-620 dos-874 windows-874 ", "CP874"},
+    {" gb2312 gbk x-gbk gb_2312-80 csgb2312 chinese cp936 ", "CP936"},
+    {" shift_jis shift-jis sjis x-sjis ms_kanji ms932 windows-31j csshiftjis cp932 ", "CP932"},
+    {" euc-kr ks_c_5601-1987 ks_c_5601-1989 ksc5601 ksc_5601 korean windows-949 cseuckr cp949 ", "CP949"},
+    {" big5 big5-hkscs cn-big5 csbig5 x-x-big5 cp950 ", "CP950"},
+    {" ibm866 cp866 866 csibm866 ", "CP866"},
+    {" koi8-r koi koi8 koi8_r cskoi8r ", "KOI8-R"},
+    {" macintosh mac x-mac-roman csmacintosh ", "MACINTOSH"},
+    {" x-mac-cyrillic x-mac-ukrainian ", "MAC-CYRILLIC"},
+};
+
+// Whether ASCII text is the same bytes in the encoding.
+bool HoldsAscii(const std::string& encoding) {
+    std::string ascii;
+    for (char character = ' '; character < 0x7F; ++character)
+        ascii += character;
+    return ConvertText(ascii, "UTF-8", encoding).m_Text == ascii;
+}
+
+} // namespace
+
+std::string EncodingOfCodePage(int nCodePage) {
+    const CCodePage* pPage = FindCodePage(nCodePage);
+    const std::string name = pPage ? NameOf(nCodePage, pPage->m_pEncoding) : "";
+    return pPage && IsConvertible(name) ? name : "";
+}
+
+std::string LabelOfCodePage(int nCodePage) {
+    const CCodePage* pPage = FindCodePage(nCodePage);
+    return pPage ? NameOf(nCodePage, pPage->m_pLabel) : "";
+}
+
+std::string EncodingOfLabel(std::string_view label) {
+    std::string name;
+    for (char byte : label) {
+        const bool bUpper = byte >= 'A' && byte <= 'Z';
+        const bool bPlain = (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') || byte == '-' ||
+                            byte == '_' || byte == '.' || byte == ':';
+        if (!bUpper && !bPlain)
+            return {};
+        name += bUpper ? static_cast<char>(byte - 'A' + 'a') : byte;
+    }
+    for (const auto& row : kLabels) {
+        if (std::string_view(row.m_pLabels).find(" " + name + " ") != std::string_view::npos)
+            return row.m_pEncoding;
+    }
+    for (std::string_view prefix : {"windows-", "x-cp"}) {
+        if (name.starts_with(prefix))
+            name.replace(0, prefix.size(), "cp");
+    }
+    // In upper case, like the encodings of code pages.
+    std::transform(name.begin(), name.end(), name.begin(), [](char byte) {
+        return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+    });
+    return !name.empty() && IsConvertible(name) && HoldsAscii(name) ? name : "";
+}
+
+CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to) {
+    CConverter decoder(from, kCharacters);
+    CConverter encoder(kCharacters, to);
+    if (!decoder.IsOpen() || !encoder.IsOpen())
+        throw std::runtime_error("text can't be converted from " + from + " to " + to);
+    constexpr size_t kPortion = 64 * 1024;
+    CConvertedText result;
+    result.m_Text.reserve(text.size());
+    std::string characters;
+    for (;;) {
+        // In portions, so that the characters, four bytes each, never stand in memory all at once. What a
+        // portion's end cuts off is the next one's beginning.
+        std::string_view portion = text.substr(0, kPortion);
+        const size_t nPortion = portion.size();
+        const int nError = decoder.Convert(portion, characters);
+        text.remove_prefix(nPortion - portion.size());
+        const bool bCutOff = nError == EINVAL && text.size() > portion.size();
+        if (nError != 0 && !bCutOff) {
+            characters += BytesOf(kReplacement);
+            ++result.m_nInvalid;
+            text.remove_prefix(1);
+        }
+        // Some decoders hold a letter back until they know that no accent follows.
+        if (text.empty())
+            decoder.Finish(characters);
+        Encode(encoder, characters, result);
+        characters.clear();
+        if (text.empty())
+            break;
+    }
+    encoder.Finish(result.m_Text);
+    return result;
+}

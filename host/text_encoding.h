@@ -1,0 +1,25 @@
+// Text from one encoding to another, by iconv. Encodings go by the names that iconv has for them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+inline constexpr int kUtf8CodePage = 65001;
+
+// The encoding of a code page, such as "CP936" of 936; empty when this system can't convert it.
+std::string EncodingOfCodePage(int nCodePage);
+
+// The encoding that browsers take for a page's charset label, such as "CP936" for "gb2312". Empty for a label
+// that isn't known, or whose ASCII characters are other bytes than ASCII's.
+std::string EncodingOfLabel(std::string_view label);
+
+// The charset label for pages in a code page; empty when browsers have none.
+std::string LabelOfCodePage(int nCodePage);
+
+struct CConvertedText {
+    std::string m_Text;
+    size_t m_nInvalid = 0; // bytes that are no text in the first encoding; each became U+FFFD
+    size_t m_nUnfit = 0;   // characters that the second encoding hasn't; each became "&#N;"
+};
+
+CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to);
