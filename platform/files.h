@@ -59,6 +59,10 @@ bool ReadWholeFile(const CString& path, std::string& content);
 // was. What exists but is no plain file (a device, a pipe) is written directly.
 class COutputFile {
 public:
+    // Deletes the temporary files that writers left in the directory when they were killed. Only for a
+    // directory where nobody writes at the moment.
+    static void RemoveLeftovers(const CString& directory);
+
     COutputFile() = default;
     ~COutputFile();
     COutputFile(const COutputFile&) = delete;

@@ -11,10 +11,12 @@
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
 constexpr size_t kBlock = 256 * 1024;
+constexpr std::string_view kTemporaryPrefix = ".orrelix-";
 
 std::string SystemPath(const CString& path) {
     CString result = path;
@@ -116,7 +118,8 @@ int CreateBeside(const std::string& target, mode_t nMode, std::string& temporary
     static unsigned s_nCounter = 0;
     const std::string directory = target.substr(0, target.rfind('/') + 1);
     for (int nTry = 0; nTry < 100; ++nTry) {
-        temporary = directory + ".orrelix-" + std::to_string(getpid()) + "-" + std::to_string(++s_nCounter);
+        temporary = directory;
+        temporary.append(kTemporaryPrefix) += std::to_string(getpid()) + "-" + std::to_string(++s_nCounter);
         const int nFile = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, nMode);
         if (nFile >= 0 || errno != EEXIST)
             return nFile;
@@ -239,6 +242,19 @@ bool ReadWholeFile(const CString& path, std::string& content) {
     while (const size_t nRead = file.Read(block.data(), block.size()))
         content.append(block, 0, nRead);
     return true;
+}
+
+void COutputFile::RemoveLeftovers(const CString& directory) {
+    const auto found = FindOnDisk(SystemPath(directory));
+    if (!found)
+        return;
+    std::vector<std::string> leftovers;
+    ForEachName(*found, [&](const char* pName) {
+        if (std::string_view(pName).starts_with(kTemporaryPrefix))
+            leftovers.push_back(*found + "/" + pName);
+    });
+    for (const std::string& path : leftovers)
+        unlink(path.c_str());
 }
 
 COutputFile::~COutputFile() {

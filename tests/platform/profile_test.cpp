@@ -1,0 +1,251 @@
+#include "platform/file_lock.h"
+#include "platform/profile.h"
+#include "tests/support/user_settings.h"
+
+#include <csignal>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Profile : public testing::Test {
+protected:
+    void WriteFile(const std::string& content) {
+        fs::create_directories(m_User.Folder());
+        std::ofstream(m_User.File(), std::ios::binary) << content;
+    }
+
+    CUserSettings m_User;
+};
+
+// Runs the function in a process of its own, which ends with what the function returns.
+pid_t Start(const std::function<int()>& run) {
+    const pid_t nProcess = fork();
+    if (nProcess == 0)
+        _exit(run());
+    return nProcess;
+}
+
+int WaitFor(pid_t nProcess) {
+    int nStatus = 0;
+    EXPECT_EQ(waitpid(nProcess, &nStatus, 0), nProcess);
+    return nStatus;
+}
+
+CString Key(int nIndex) {
+    return "Value" + ToText(nIndex);
+}
+
+} // namespace
+
+TEST_F(Profile, EveryTextComesBackAsItWasStored) {
+    const CString texts[] = {"plain",
+                             "  blanks outside ",
+                             " ",
+                             "two\r\nlines\n",
+                             "\ttab\x7f",
+                             "a=b=c",
+                             "[section]",
+                             "]",
+                             "; no comment",
+                             "#no comment",
+                             "\\x3d",
+                             "a\\",
+                             "Gr\xc3\xbc\xc3\x9f \xe9\xa2\x9c\xe8\x89\xb2",
+                             "\x83\x5c\x81\x3d\xff",
+                             std::string("zero\0byte", 9)};
+    for (const CString& text : texts) {
+        EXPECT_TRUE(WriteProfileString("fixed", "key", text));
+        EXPECT_EQ(GetProfileString("fixed", "key"), text) << "as a value";
+        EXPECT_TRUE(WriteProfileString(text, text, "found"));
+        EXPECT_EQ(GetProfileString(text, text), "found") << "as section and key: " << text;
+    }
+    EXPECT_TRUE(WriteProfileString("fixed", "key", ""));
+    EXPECT_EQ(GetProfileString("fixed", "key", "default"), "");
+    EXPECT_EQ(GetProfileString("fixed", "other key", "default"), "default");
+    EXPECT_EQ(GetProfileString("other section", "key", "default"), "default");
+}
+
+TEST_F(Profile, OnlyTheKeysThatAreWrittenChange) {
+    WriteFile("; by hand\n[A]\n One = 1 \r\nTwo=2\n\n[B]\nOne=b\nno entry\n[A]\nOne=late\n");
+    EXPECT_EQ(GetProfileString("A", "One"), "1");
+    EXPECT_TRUE(ChangeProfileSection("A", [](CProfileSection& section) {
+        section.WriteString("Two", section.GetString("One") + "+1");
+        section.WriteString("Three", "3");
+        section.WriteString("Four", "4");
+        section.WriteString("Three", "three");
+    }));
+    EXPECT_TRUE(WriteProfileString("C", "One", "c"));
+    EXPECT_EQ(FileContent(m_User.File()),
+              "; by hand\n[A]\n One = 1 \r\nTwo=1+1\n\n[B]\nOne=b\nno entry\n[A]\n"
+              "One=late\nThree=three\nFour=4\n[C]\nOne=c\n");
+}
+
+TEST_F(Profile, ADamagedFileCostsNoMoreThanWhatIsDamaged) {
+    struct CCase {
+        const char* m_pName;
+        std::string m_Content;
+        const char* m_pValue; // of the key "k" in the section "s"
+    };
+    const CCase cases[] = {{"empty", "", "default"},
+                           {"cut off in the section", "[s", "default"},
+                           {"cut off in the key", "[s]\nk", "default"},
+                           {"cut off in an escape", "[s]\nk=a\\x4", "a\\x4"},
+                           {"no escape", "[s]\nk=\\xzz\\", "\\xzz\\"},
+                           {"no section", "k=v\n", "default"},
+                           {"zeros", std::string(5000, '\0'), "default"},
+                           {"zeros before", std::string(50, '\0') + "\n[s]\nk=v\n", "v"},
+                           {"a key twice", "[s]\nk=first\nk=second\n", "first"},
+                           {"no keys", "=\n[]\n==\n[s]\n=\n", "default"},
+                           {"every byte", "\xff\xfe\x80[s]\n\x01\x02=\x03\n[s]\nk=\xff", "\xff"},
+                           {"too large to be ours", "[s]\nk=v\n" + std::string(5000000, 'x'), "default"}};
+    for (const CCase& damage : cases) {
+        WriteFile(damage.m_Content);
+        EXPECT_EQ(GetProfileString("s", "k", "default"), damage.m_pValue) << damage.m_pName;
+        EXPECT_TRUE(WriteProfileString("s", "k", "new")) << damage.m_pName;
+        EXPECT_EQ(GetProfileString("s", "k", "default"), "new") << damage.m_pName;
+    }
+}
+
+TEST_F(Profile, WhatCantBeReadIsAbsentAndWhatCantBeWrittenIsFalse) {
+    const fs::path root = m_User.Root();
+    struct CCase {
+        const char* m_pName;
+        std::function<void()> m_Spoil;
+    };
+    const CCase cases[] = {
+        {"a folder in place of the file", [&] { fs::create_directories(m_User.File()); }},
+        {"a folder in place of the lock", [&] { fs::create_directories(m_User.Folder() / "settings.lock"); }},
+        {"a file in place of the folder", [&] { std::ofstream(root / kCompanyWord) << "x"; }},
+        {"a configuration folder below a file", [&] { setenv("XDG_CONFIG_HOME", "/dev/null/settings", 1); }},
+        {"a home that isn't there", [&] {
+             unsetenv("XDG_CONFIG_HOME");
+             setenv("HOME", "/dev/null", 1);
+         }}};
+    for (const CCase& spoilt : cases) {
+        const pid_t nProcess = Start([&] {
+            spoilt.m_Spoil();
+            const bool bWritten = WriteProfileString("s", "k", "v");
+            return (bWritten ? 1 : 0) + (GetProfileString("s", "k", "default") == "default" ? 0 : 2);
+        });
+        EXPECT_EQ(WaitFor(nProcess), 0) << spoilt.m_pName;
+        fs::remove_all(root / kCompanyWord);
+    }
+}
+
+TEST_F(Profile, ReadOnlySettingsAreReadAndStayAsTheyAre) {
+    const std::string content = "[s]\nk=v\n";
+    WriteFile(content);
+    fs::permissions(m_User.File(), fs::perms(0444));
+    for (const fs::path& folder : {m_User.Folder(), m_User.Root() / kCompanyWord, m_User.Root()})
+        fs::permissions(folder, fs::perms(0555));
+    const pid_t nProcess = Start([] {
+        if (geteuid() == 0 && setuid(65534) != 0) // who may do everything would write
+            return 4;
+        const bool bWritten = WriteProfileString("s", "k", "new");
+        return (bWritten ? 1 : 0) + (GetProfileString("s", "k") == "v" ? 0 : 2);
+    });
+    EXPECT_EQ(WaitFor(nProcess), 0);
+    EXPECT_EQ(FileContent(m_User.File()), content);
+    for (const fs::path& folder : {m_User.Root(), m_User.Root() / kCompanyWord, m_User.Folder()})
+        fs::permissions(folder, fs::perms::owner_all);
+}
+
+TEST_F(Profile, TheFolderIsFoundAsTheConventionSays) {
+    struct CCase {
+        const char* m_pConfiguration;
+        const char* m_pHome;
+        const char* m_pFolder;
+    };
+    for (const CCase& place :
+         {CCase{"/c", "/h", "/c/Brindlefen/Vellumark Orrelix"},
+          CCase{"", "/h", "/h/.config/Brindlefen/Vellumark Orrelix"},
+          CCase{"relative", "/h", "/h/.config/Brindlefen/Vellumark Orrelix"}, CCase{"", "relative", ""}}) {
+        const pid_t nProcess = Start([&] {
+            setenv("XDG_CONFIG_HOME", place.m_pConfiguration, 1);
+            setenv("HOME", place.m_pHome, 1);
+            return GetUserFolder(false) == place.m_pFolder ? 0 : 1;
+        });
+        EXPECT_EQ(WaitFor(nProcess), 0) << place.m_pConfiguration << ", " << place.m_pHome;
+    }
+}
+
+TEST_F(Profile, ProcessesThatWriteAtOnceLoseNothing) {
+    constexpr int kProcesses = 4, kRounds = 25;
+    std::vector<pid_t> processes;
+    for (int nProcess = 0; nProcess < kProcesses; ++nProcess) {
+        processes.push_back(Start([nProcess] {
+            int nFailed = 0;
+            for (int nRound = 1; nRound <= kRounds; ++nRound) {
+                nFailed += !WriteProfileString("own", Key(nProcess), ToText(nRound));
+                nFailed += !ChangeProfileSection("shared", [](CProfileSection& section) {
+                    section.WriteString("Count", ToText(ToInteger(section.GetString("Count")) + 1));
+                });
+            }
+            return nFailed;
+        }));
+    }
+    for (pid_t nProcess : processes)
+        EXPECT_EQ(WaitFor(nProcess), 0);
+    EXPECT_EQ(GetProfileString("shared", "Count"), ToText(kProcesses * kRounds));
+    for (int nProcess = 0; nProcess < kProcesses; ++nProcess)
+        EXPECT_EQ(GetProfileString("own", Key(nProcess)), ToText(kRounds));
+}
+
+TEST_F(Profile, AProcessThatIsKilledLeavesTheOldSettingsOrTheNew) {
+    constexpr int kKeys = 40;
+    ASSERT_TRUE(WriteProfileString("other", "key", "stays"));
+    int nLast = 0, nKilledAmid = 0, writing[2];
+    ASSERT_EQ(pipe(writing), 0);
+    for (int nRound = 0; nRound < 40; ++nRound) {
+        const pid_t nProcess = Start([&]() -> int {
+            for (int nGeneration = nLast + 1;; ++nGeneration) {
+                ChangeProfileSection("s", [&](CProfileSection& section) {
+                    for (int nKey = 0; nKey < kKeys; ++nKey)
+                        section.WriteString(Key(nKey), ToText(nGeneration));
+                });
+                if (nGeneration == nLast + 1 && write(writing[1], "!", 1) != 1)
+                    return 1;
+            }
+        });
+        char begun;
+        ASSERT_EQ(read(writing[0], &begun, 1), 1);
+        usleep(static_cast<useconds_t>(nRound * 331));
+        kill(nProcess, SIGKILL);
+        const int nStatus = WaitFor(nProcess);
+        EXPECT_TRUE(WIFSIGNALED(nStatus)) << "ended by itself: " << nStatus;
+        for (const auto& entry : fs::directory_iterator(m_User.Folder()))
+            nKilledAmid += entry.path().filename().string().starts_with(".orrelix-");
+
+        const CProfileSection section = GetProfileSection("s");
+        const CString generation = section.GetString(Key(0));
+        EXPECT_GT(ToInteger(generation), nLast) << "fell behind";
+        for (int nKey = 1; nKey < kKeys; ++nKey)
+            EXPECT_EQ(section.GetString(Key(nKey)), generation) << "half written";
+        EXPECT_EQ(GetProfileString("other", "key"), "stays");
+        nLast = ToInteger(generation);
+    }
+    close(writing[0]);
+    close(writing[1]);
+    EXPECT_GT(nKilledAmid, 0) << "no process was killed amid writing";
+
+    EXPECT_TRUE(WriteProfileString("s", "k", "v"));
+    for (const auto& entry : fs::directory_iterator(m_User.Folder()))
+        EXPECT_EQ(entry.path().stem(), "settings") << "left behind by a process that was killed";
+}
+
+TEST_F(Profile, ALockThatSomebodyKeepsIsNotWaitedForForEver) {
+    const CString path = (m_User.Root() / "lock").c_str();
+    CFileLock second;
+    {
+        CFileLock first;
+        EXPECT_TRUE(first.Acquire(path, 0));
+        EXPECT_FALSE(second.Acquire(path, 20));
+    }
+    EXPECT_TRUE(second.Acquire(path, 0));
+}
