@@ -22,6 +22,11 @@ foreach(folder platform core gadgets toolkit controls dialogs)
     orrelix_test_program(${folder})
 endforeach()
 
+find_program(NODE_PROGRAM node)
+if(NODE_PROGRAM)
+    add_test(NAME includes COMMAND ${NODE_PROGRAM} --test ${PROJECT_SOURCE_DIR}/tests/includes.test.mjs)
+endif()
+
 if(ORRELIX_HOST)
     orrelix_test_program(host)
     if(TARGET host_test)
@@ -29,7 +34,6 @@ if(ORRELIX_HOST)
         target_compile_definitions(host_test PRIVATE ORRELIX_PROGRAM="$<TARGET_FILE:orrelix_program>")
     endif()
 
-    find_program(NODE_PROGRAM node)
     find_program(CHROMIUM_PROGRAM NAMES chromium chromium-browser)
     if(NODE_PROGRAM AND CHROMIUM_PROGRAM AND EXISTS ${PROJECT_SOURCE_DIR}/tests/browser/node_modules)
         set(browser_pages ${PROJECT_BINARY_DIR}/browser_pages)
@@ -41,7 +45,7 @@ if(ORRELIX_HOST)
             cmake_path(GET test STEM name)
             add_test(NAME browser.${name} COMMAND ${NODE_PROGRAM} --test ${test}
                 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/tests/browser)
-            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages TIMEOUT 300
+            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages RUN_SERIAL ON TIMEOUT 300
                 ENVIRONMENT "ORRELIX_PAGES=${browser_pages};CHROMIUM=${CHROMIUM_PROGRAM}")
         endforeach()
     else()
