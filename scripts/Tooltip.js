@@ -1,11 +1,11 @@
 // ToolTip: an element's own box of HTML, shown at the pointer when the mouse rests on the element.
 //
 // The page's text gives, for an element whose id is TITLE:
-//     tooltip="…"         the HTML of the tip: text and image, in a <marquee> if they are to move, or in a <span>
+//     tooltip="…"         the HTML of the tip: text and image, in a <marquee> if they are to move or in a <span>
 //     tooltipstyle="…"    CSS of the box, with bare widths and colours without "#"
 //     TITLEdelayTime      variable: milliseconds from the pointer's coming until the tip shows
 //     TITLEshowTime       variable: milliseconds until it goes again, 0 for no limit
-// and calls nothing: this file finds the elements, those that come later too. A tip shows on keyboard focus as well,
+// and calls nothing: this file finds the elements, those that come later too. A tip shows on keyboard focus too,
 // stays while the pointer is on it, and goes when pointer or focus leave and on Escape.
 (() => {
     "use strict";
