@@ -1,0 +1,9 @@
+// The dialog that edits a border.
+#pragma once
+
+#include "toolkit/dialog_description.h"
+
+struct BorderId {
+    enum : int { Style = 100, Color, Width };
+};
+const CDialogDescription& BorderDescription();
