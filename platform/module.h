@@ -10,5 +10,10 @@ CString GetModuleDirectory();
 // Names another directory, for a host that keeps the script files elsewhere.
 void SetModuleDirectory(const CString& directory);
 
+// A function of another library beside the one that holds this code, wherever SetModuleDirectory points. The
+// library is loaded if it isn't yet, and stays to the end of the process. The library's name goes without
+// what the system puts around it ("lib", ".so"). Null when there is no such library or function.
+void* LoadNeighbour(const char* pLibrary, const char* pFunction);
+
 // A number that stands for the loaded library within this process: the address at which it begins.
 long GetModuleInstance();

@@ -12,14 +12,19 @@ Dl_info ThisModule() {
     return module;
 }
 
-CString FindModuleDirectory() {
+// With slashes; empty when the system can't tell.
+std::string FindDirectory() {
     const char* pFile = ThisModule().dli_fname;
     char* pResolved = pFile ? realpath(pFile, nullptr) : nullptr;
     if (!pResolved)
         return {};
     std::string path(pResolved);
     free(pResolved);
-    path.erase(path.rfind('/'));
+    return path.erase(path.rfind('/'));
+}
+
+CString FindModuleDirectory() {
+    std::string path = FindDirectory();
     std::replace(path.begin(), path.end(), '/', '\\');
     return CString(std::move(path));
 }
@@ -37,6 +42,15 @@ CString GetModuleDirectory() {
 
 void SetModuleDirectory(const CString& directory) {
     ModuleDirectory() = directory;
+}
+
+void* LoadNeighbour(const char* pLibrary, const char* pFunction) {
+    const std::string directory = FindDirectory();
+    if (directory.empty())
+        return nullptr;
+    const std::string file = directory + "/lib" + pLibrary + ".so";
+    void* pLoaded = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    return pLoaded ? dlsym(pLoaded, pFunction) : nullptr;
 }
 
 long GetModuleInstance() {

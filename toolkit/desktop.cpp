@@ -1,5 +1,6 @@
 #include "toolkit/desktop.h"
 
+#include "toolkit/desktop_loader.h"
 #include "toolkit/dialog.h"
 #include "toolkit/popup_window.h"
 
@@ -23,17 +24,18 @@ public:
     CStringArray GetFontFamilies() const override { return {}; }
 };
 
-CDesktop* g_pDesktop = nullptr;
+CNobody g_nobody;
+CDesktop* g_pDesktop = nullptr; // null until one is set
 
 } // namespace
 
 CDesktop& GetDesktop() {
-    static CNobody nobody;
-    return g_pDesktop ? *g_pDesktop : nobody;
+    CDesktop* pDesktop = g_pDesktop ? g_pDesktop : FindWindows();
+    return pDesktop ? *pDesktop : g_nobody;
 }
 
 void SetDesktop(CDesktop* pDesktop) {
-    g_pDesktop = pDesktop;
+    g_pDesktop = pDesktop ? pDesktop : &g_nobody;
 }
 
 int AfxMessageBox(const CString& text, MessageBoxKind kind) {

@@ -1,8 +1,9 @@
 // CDesktop: the screen and the person before it. Everything that a dialog asks of a window system goes
 // through here; everything that the person does comes back through the Person operations of the controls.
 //
-// There is one desktop in force. Real windows are one, the tests' scripted person another; at start, and
-// after SetDesktop(nullptr), nobody is there: each dialog ends in Cancel.
+// There is one desktop in force. Real windows are one, and in force from the start where there is a screen
+// (toolkit/desktop_loader.h); the tests' scripted person is another. Without a screen, and after
+// SetDesktop(nullptr), nobody is there: each dialog ends in Cancel.
 //
 // Who writes a desktop: show what the controls hold when RunDialog is called and follow their observers from
 // then on, never the other way round; play every act of the person through the Person operations; take all

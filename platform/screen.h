@@ -1,0 +1,6 @@
+// Whether there is a screen to show windows on.
+#pragma once
+
+// True when the process was given a screen and, as far as can be told without showing anything, somebody
+// serves it. A window system that finds nobody there may end the process, so the settings alone don't count.
+bool HasScreen();

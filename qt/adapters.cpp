@@ -1,0 +1,62 @@
+#include "qt/adapters.h"
+
+#include "qt/text.h"
+#include "toolkit/dialog.h"
+
+namespace {
+
+CSpinButtonCtrl* SpinOfBuddy(const CDialog& dialog, int nEdit) {
+    CSpinButtonCtrl* pFound = nullptr;
+    ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
+        if (control.m_Kind == ControlKind::Spin && control.m_nBuddy == nEdit)
+            pFound = &dialog.Item<CSpinButtonCtrl>(control.m_nId);
+    });
+    return pFound;
+}
+
+CAdapterPtr MakeEditOrNumber(const CControlDescription& description, CDialog& dialog, CStage& stage,
+                             QWidget& parent) {
+    CEdit& edit = dialog.Item<CEdit>(description.m_nId);
+    CSpinButtonCtrl* pSpin = SpinOfBuddy(dialog, description.m_nId);
+    return pSpin ? MakeNumberAdapter(edit, *pSpin, stage, parent)
+                 : MakeEditAdapter(edit, description, stage, parent);
+}
+
+CAdapterPtr MakeByKind(const CControlDescription& description, CDialog& dialog, CStage& stage,
+                       QWidget& parent) {
+    const int nId = description.m_nId;
+    switch (description.m_Kind) {
+    case ControlKind::Static:
+        return MakeStaticAdapter(dialog.Item<CStatic>(nId), description, stage, parent);
+    case ControlKind::Edit:
+        return MakeEditOrNumber(description, dialog, stage, parent);
+    case ControlKind::Button:
+        return MakeButtonAdapter(dialog.Item<CButton>(nId), description, stage, parent);
+    case ControlKind::OwnerDrawnButton:
+        return MakeOwnerDrawnButtonAdapter(dialog.Item<COwnerDrawnButton>(nId), stage, parent);
+    case ControlKind::ListBox:
+        return MakeListBoxAdapter(dialog.Item<CListBox>(nId), stage, parent);
+    case ControlKind::ListCtrl:
+        return MakeListViewAdapter(dialog.Item<CListCtrl>(nId), stage, parent);
+    case ControlKind::ComboBox:
+        return MakeComboBoxAdapter(dialog.Item<CComboBox>(nId), stage, parent);
+    case ControlKind::Slider:
+        return MakeSliderAdapter(dialog.Item<CSliderCtrl>(nId), description, stage, parent);
+    case ControlKind::Spin:
+        break; // shown with its edit box
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CAdapterPtr MakeAdapter(const CControlDescription& description, CDialog& dialog, CStage& stage,
+                        QWidget& parent) {
+    CAdapterPtr pAdapter = MakeByKind(description, dialog, stage, parent);
+    if (!pAdapter)
+        return nullptr;
+    // A form's label lends its name to some kinds of widgets only.
+    pAdapter->Widget()->setAccessibleName(ToQt(AccessibleNameOf(description)));
+    pAdapter->ShowControl();
+    return pAdapter;
+}

@@ -1,0 +1,87 @@
+// CControlAdapter: ties a control of the toolkit to the widget that shows it. There is one kind of adapter
+// per kind of control, and none knows a dialog.
+//
+// What the program changes in the control comes in through OnControlChanged and is shown; what the person
+// does to the widget goes out through CStage::Play to the control's Person operations. Widgets are listened
+// to by the signals that only a person causes; where a kind has none such, an adapter shows within a CShowing
+// and takes no signal as the person's while IsShowing.
+#pragma once
+
+#include "toolkit/control.h"
+#include "toolkit/dialog_description.h"
+
+#include <QLineEdit>
+#include <QObject>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+class CDialog;
+
+// The window, as its adapters see it.
+class CStage {
+public:
+    // Calls act(key), unless the dialog takes nothing at the time. Throws nothing.
+    virtual void Play(const std::function<void(CPersonKey)>& act) = 0;
+    // Ends the editing of a label, where one is under way, as leaving it would.
+    virtual void FinishEditing() = 0;
+
+protected:
+    ~CStage() = default;
+};
+
+class CControlAdapter : public QObject, private CControlObserver {
+public:
+    // Both must outlive the adapter.
+    CControlAdapter(CControl& control, CStage& stage);
+    ~CControlAdapter() override;
+
+    // The widget that has the focus. It belongs to the widget around it and outlives the adapter.
+    virtual QWidget* Widget() const = 0;
+    // What stands in the layout: the widget, or a box around it.
+    virtual QWidget* Placed() const { return Widget(); }
+
+    // Shows the control as it stands. Once, when the adapter is made; from then on changes are followed.
+    void ShowControl() {
+        ShowEnabled();
+        ShowAll();
+    }
+    virtual void FinishEditing() {}
+
+    const CControl& Control() const { return m_Control; }
+
+protected:
+    virtual void ShowAll() = 0;
+    // A change other than Enabled and Focus.
+    virtual void Show(ControlChange, int /*nFirst*/, int /*nCount*/) { ShowAll(); }
+    virtual void ShowEnabled();
+
+    void Play(const std::function<void(CPersonKey)>& act) { m_Stage.Play(act); }
+    CStage& Stage() { return m_Stage; }
+
+    class CShowing {
+    public:
+        explicit CShowing(CControlAdapter& adapter) : m_Adapter(adapter) { ++m_Adapter.m_nShowing; }
+        ~CShowing() { --m_Adapter.m_nShowing; }
+        CShowing(const CShowing&) = delete;
+
+    private:
+        CControlAdapter& m_Adapter;
+    };
+    bool IsShowing() const { return m_nShowing > 0; }
+
+private:
+    void OnControlChanged(ControlChange change, int nFirst, int nCount) override;
+
+    CControl& m_Control;
+    CStage& m_Stage;
+    int m_nShowing = 0;
+};
+
+// Puts the text into the box, where it differs, and keeps the cursor before the text that it stands before.
+void ShowText(QLineEdit& box, const QString& text);
+
+// The adapter for the described control of the running dialog, with its widget made in `parent`; null for a
+// control that another one's widget shows too, as a spin control is shown by its edit box.
+std::unique_ptr<CControlAdapter> MakeAdapter(const CControlDescription& description, CDialog& dialog,
+                                             CStage& stage, QWidget& parent);

@@ -1,0 +1,41 @@
+// CDialogWindow: the window of a running dialog.
+#pragma once
+
+#include "qt/control_adapter.h"
+#include "toolkit/dialog.h"
+
+#include <QDialog>
+#include <exception>
+#include <vector>
+
+class CDialogWindow : public QDialog, private CDialogObserver, private CStage {
+public:
+    // The dialog must outlive the window.
+    CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent);
+    ~CDialogWindow() override;
+
+    // The widget that shows the control, null when it is none of this dialog.
+    QWidget* WidgetOf(const CControl& control) const;
+
+    // Keeps the exception that is being handled, thrown by the dialog or what belongs to it, and closes the
+    // window: Qt's event loop is no place to throw through.
+    void Fail();
+    std::exception_ptr GetFailure() const { return m_pFailure; }
+
+    void reject() override;
+
+private:
+    void OnDialogEnded() override { done(Accepted); }
+    // Nothing to show: whoever disables the dialog has put a window of its own before it.
+    void OnDialogEnabled() override {}
+    void Play(const std::function<void(CPersonKey)>& act) override;
+    void FinishEditing() override;
+
+    void showEvent(QShowEvent* pEvent) override;
+
+    CDialog& m_Dialog;
+    CPersonKey m_Key;
+    QWidget* m_pContent;
+    std::vector<std::unique_ptr<CControlAdapter>> m_Adapters;
+    std::exception_ptr m_pFailure;
+};

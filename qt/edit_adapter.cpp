@@ -1,0 +1,75 @@
+#include "qt/adapters.h"
+#include "qt/text.h"
+
+#include <QPlainTextEdit>
+
+namespace {
+
+class CLineAdapter : public CControlAdapter {
+public:
+    CLineAdapter(CEdit& edit, const CControlDescription& description, CStage& stage, QWidget& parent)
+        : CControlAdapter(edit, stage), m_pBox(new QLineEdit(&parent)) {
+        if (description.Has(STYLE_DIGITS))
+            m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
+        connect(m_pBox, &QLineEdit::textEdited, this, [this, &edit](const QString& text) {
+            Play([&](CPersonKey key) { edit.PersonTypes(key, FromQt(text)); });
+            ShowAll(); // the control may have taken only a part of it
+        });
+    }
+
+    QWidget* Widget() const override { return m_pBox; }
+    void ShowAll() override { ShowText(*m_pBox, ToQt(Control().GetWindowText())); }
+
+private:
+    QLineEdit* m_pBox;
+};
+
+class CTextArea : public QPlainTextEdit {
+public:
+    explicit CTextArea(QWidget* pParent) : QPlainTextEdit(pParent) { setTabChangesFocus(true); }
+
+    QSize sizeHint() const override { return OfLines(40, 5); }
+    QSize minimumSizeHint() const override { return OfLines(16, 3); }
+
+private:
+    QSize OfLines(int nCharacters, int nLines) const {
+        const int nBorder = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+        return {fontMetrics().averageCharWidth() * nCharacters + nBorder,
+                fontMetrics().lineSpacing() * nLines + nBorder};
+    }
+};
+
+class CTextAreaAdapter : public CControlAdapter {
+public:
+    CTextAreaAdapter(CEdit& edit, CStage& stage, QWidget& parent)
+        : CControlAdapter(edit, stage), m_pArea(new CTextArea(&parent)) {
+        connect(m_pArea, &QPlainTextEdit::textChanged, this, [this, &edit] {
+            if (IsShowing())
+                return;
+            Play([&](CPersonKey key) { edit.PersonTypes(key, LinesFromQt(m_pArea->toPlainText())); });
+            ShowAll();
+        });
+    }
+
+    QWidget* Widget() const override { return m_pArea; }
+
+    void ShowAll() override {
+        const QString text = LinesToQt(Control().GetWindowText());
+        if (m_pArea->toPlainText() == text)
+            return;
+        CShowing showing(*this);
+        m_pArea->setPlainText(text);
+    }
+
+private:
+    CTextArea* m_pArea;
+};
+
+} // namespace
+
+CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, CStage& stage,
+                            QWidget& parent) {
+    if (edit.IsMultiLine())
+        return std::make_unique<CTextAreaAdapter>(edit, stage, parent);
+    return std::make_unique<CLineAdapter>(edit, description, stage, parent);
+}

@@ -1,0 +1,17 @@
+#include "qt/modal.h"
+
+#include <QApplication>
+#include <QThread>
+
+int RunModal(QDialog& window) {
+    if (QThread::currentThread() != qApp->thread() || window.isVisible())
+        return QDialog::Rejected;
+    // A host that quits with its last window means one of its own.
+    window.setAttribute(Qt::WA_QuitOnClose, false);
+    return window.exec();
+}
+
+QWidget* WindowInUse() {
+    QWidget* pModal = QApplication::activeModalWidget();
+    return pModal ? pModal : QApplication::activeWindow();
+}

@@ -1,0 +1,92 @@
+#include "qt/adapters.h"
+#include "qt/text.h"
+
+#include <QAbstractSpinBox>
+#include <QStyleOptionSpinBox>
+#include <QWheelEvent>
+
+namespace {
+
+// A box with arrows for any text: what a number is and where it ends is the controls' matter.
+class CNumberBox : public QAbstractSpinBox {
+public:
+    CNumberBox(CSpinButtonCtrl& spin, QWidget* pParent) : QAbstractSpinBox(pParent), m_Spin(spin) {
+        setFocusPolicy(Qt::StrongFocus); // the wheel over a box that isn't being edited changes nothing
+    }
+
+    std::function<void(int)> m_OnSteps;
+    QLineEdit& Line() const { return *lineEdit(); }
+
+    void stepBy(int nSteps) override { m_OnSteps(nSteps); }
+
+    QSize sizeHint() const override {
+        QStyleOptionSpinBox option;
+        initStyleOption(&option);
+        const QString widest = QString(qMax<qsizetype>(6, QString::number(m_Spin.GetUpper()).size()), '0');
+        const QSize contents(fontMetrics().horizontalAdvance(widest), Line().sizeHint().height());
+        return style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, this);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    StepEnabled stepEnabled() const override {
+        if (!m_Spin.IsWindowEnabled())
+            return StepNone;
+        bool bNumber = false;
+        const int nNumber = Line().text().toInt(&bNumber);
+        StepEnabled steps = StepUpEnabled | StepDownEnabled;
+        steps.setFlag(StepUpEnabled, !bNumber || nNumber != m_Spin.GetUpper());
+        steps.setFlag(StepDownEnabled, !bNumber || nNumber != m_Spin.GetLower());
+        return steps;
+    }
+    void wheelEvent(QWheelEvent* pEvent) override {
+        if (hasFocus())
+            QAbstractSpinBox::wheelEvent(pEvent);
+        else
+            pEvent->ignore();
+    }
+
+private:
+    CSpinButtonCtrl& m_Spin;
+};
+
+class CNumberAdapter : public CControlAdapter {
+public:
+    CNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent)
+        : CControlAdapter(edit, stage), m_Spin(spin), m_pBox(new CNumberBox(spin, &parent)),
+          m_SpinEar(*m_pBox) {
+        m_Spin.SetObserver(&m_SpinEar);
+        m_pBox->m_OnSteps = [this](int nSteps) {
+            Play([&](CPersonKey key) { m_Spin.PersonTurns(key, nSteps); });
+        };
+        connect(&m_pBox->Line(), &QLineEdit::textEdited, this, [this, &edit](const QString& text) {
+            Play([&](CPersonKey key) { edit.PersonTypes(key, FromQt(text)); });
+            ShowAll();
+        });
+    }
+    ~CNumberAdapter() override { m_Spin.SetObserver(nullptr); }
+
+    QWidget* Widget() const override { return m_pBox; }
+    void ShowAll() override { ShowText(m_pBox->Line(), ToQt(Control().GetWindowText())); }
+
+private:
+    // The position shows as the edit box's text; what is left to show is which arrows work.
+    class CSpinEar : public ::CControlObserver {
+    public:
+        explicit CSpinEar(QWidget& box) : m_Box(box) {}
+        void OnControlChanged(ControlChange, int, int) override { m_Box.update(); }
+
+    private:
+        QWidget& m_Box;
+    };
+
+    CSpinButtonCtrl& m_Spin;
+    CNumberBox* m_pBox;
+    CSpinEar m_SpinEar;
+};
+
+} // namespace
+
+CAdapterPtr MakeNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent) {
+    return std::make_unique<CNumberAdapter>(edit, spin, stage, parent);
+}

@@ -1,0 +1,52 @@
+#include "qt/adapters.h"
+#include "qt/text.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSlider>
+
+namespace {
+
+class CSliderAdapter : public CControlAdapter {
+public:
+    CSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
+                   QWidget& parent)
+        : CControlAdapter(slider, stage), m_Slider(slider), m_pBox(new QWidget(&parent)),
+          m_pSlider(new QSlider(Qt::Horizontal, m_pBox)) {
+        m_pSlider->setTickPosition(QSlider::TicksBelow);
+        auto* pLine = new QHBoxLayout(m_pBox);
+        pLine->setContentsMargins(0, 0, 0, 0);
+        pLine->addWidget(new QLabel(ToQt(description.m_pFrom), m_pBox));
+        pLine->addWidget(m_pSlider, 1);
+        pLine->addWidget(new QLabel(ToQt(description.m_pTo), m_pBox));
+        connect(m_pSlider, &QSlider::actionTriggered, this, [this] {
+            // The slider has its new place, but not yet taken it for its value.
+            Play([&](CPersonKey key) { m_Slider.PersonMoves(key, m_pSlider->sliderPosition()); });
+        });
+    }
+
+    QWidget* Widget() const override { return m_pSlider; }
+    QWidget* Placed() const override { return m_pBox; }
+
+    void ShowAll() override {
+        m_pSlider->setRange(m_Slider.GetLower(), m_Slider.GetUpper());
+        m_pSlider->setTickInterval(m_Slider.GetTicFreq());
+        m_pSlider->setPageStep(qMax(1, m_Slider.GetTicFreq()));
+        m_pSlider->setSingleStep(qMax(1, m_Slider.GetTicFreq() / 10));
+        m_pSlider->setValue(m_Slider.GetPos());
+    }
+
+private:
+    void ShowEnabled() override { m_pBox->setEnabled(m_Slider.IsWindowEnabled()); }
+
+    CSliderCtrl& m_Slider;
+    QWidget* m_pBox;
+    QSlider* m_pSlider;
+};
+
+} // namespace
+
+CAdapterPtr MakeSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
+                              QWidget& parent) {
+    return std::make_unique<CSliderAdapter>(slider, description, stage, parent);
+}

@@ -1,0 +1,102 @@
+#include "qt/text.h"
+
+#include "platform/code_page.h"
+#include "toolkit/dialog_description.h"
+
+#include <QStringDecoder>
+#include <QStringEncoder>
+
+namespace {
+
+constexpr int UTF_8 = 65001;
+constexpr char16_t FIRST_ESCAPE = 0xDC00; // and the byte
+
+QByteArray NameOfCodePage(int nCodePage) {
+    if (nCodePage == 20866)
+        return "KOI8-R";
+    if (nCodePage == 21866)
+        return "KOI8-U";
+    if (nCodePage > 28590 && nCodePage < 28610)
+        return "ISO-8859-" + QByteArray::number(nCodePage - 28590);
+    return "cp" + QByteArray::number(nCodePage);
+}
+
+// The length of the UTF-8 character at the start of the bytes, 0 when there is none.
+qsizetype CharacterLength(QByteArrayView bytes) {
+    const unsigned char nLead = static_cast<unsigned char>(bytes[0]);
+    const qsizetype nLength = nLead < 0x80 ? 1 : nLead < 0xC2 ? 0 : nLead < 0xE0 ? 2 : nLead < 0xF0 ? 3 : 4;
+    return nLength > 0 && nLength <= bytes.size() && bytes.first(nLength).isValidUtf8() ? nLength : 0;
+}
+
+QString WithEscapes(QByteArrayView bytes) {
+    QString text;
+    while (!bytes.isEmpty()) {
+        const qsizetype nLength = CharacterLength(bytes);
+        if (nLength > 0)
+            text += QString::fromUtf8(bytes.first(nLength));
+        else
+            text += QChar(static_cast<char16_t>(FIRST_ESCAPE + static_cast<unsigned char>(bytes[0])));
+        bytes = bytes.sliced(nLength > 0 ? nLength : 1);
+    }
+    return text;
+}
+
+bool IsEscape(const QString& text, qsizetype nAt) {
+    const char16_t character = text[nAt].unicode();
+    const bool bByte = character >= FIRST_ESCAPE + 0x80 && character <= FIRST_ESCAPE + 0xFF;
+    return bByte && (nAt == 0 || !text[nAt - 1].isHighSurrogate());
+}
+
+QByteArray WithoutEscapes(const QString& text) {
+    QByteArray bytes;
+    qsizetype nPlain = 0; // where the characters begin that aren't in `bytes` yet
+    for (qsizetype nAt = 0; nAt < text.size(); ++nAt) {
+        if (!IsEscape(text, nAt))
+            continue;
+        bytes += QStringView(text).sliced(nPlain, nAt - nPlain).toUtf8();
+        bytes += static_cast<char>(text[nAt].unicode() - FIRST_ESCAPE);
+        nPlain = nAt + 1;
+    }
+    return bytes + QStringView(text).sliced(nPlain).toUtf8();
+}
+
+} // namespace
+
+QString ToQt(const CString& text) {
+    const QByteArrayView bytes(text.View().data(), text.GetLength());
+    if (GetCodePage() == UTF_8)
+        return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : WithEscapes(bytes);
+    QStringDecoder decode(NameOfCodePage(GetCodePage()).constData());
+    return decode.isValid() ? QString(decode(bytes)) : QString::fromLatin1(bytes);
+}
+
+CString FromQt(const QString& text) {
+    QByteArray bytes;
+    if (GetCodePage() == UTF_8) {
+        bytes = WithoutEscapes(text);
+    } else {
+        QStringEncoder encode(NameOfCodePage(GetCodePage()).constData());
+        bytes = encode.isValid() ? QByteArray(encode(text)) : text.toLatin1();
+    }
+    return CString(bytes.toStdString());
+}
+
+QString LinesToQt(const CString& text) {
+    return ToQt(text).replace("\r\n", "\n");
+}
+
+CString LinesFromQt(QString text) {
+    return FromQt(text.replace("\n", "\r\n"));
+}
+
+QString PathToQt(const CString& path) {
+    return ToQt(path).replace('\\', '/');
+}
+
+CString PathFromQt(QString path) {
+    return FromQt(path.replace('/', '\\'));
+}
+
+QString CaptionToQt(const char* pDescribed, const CString& shown) {
+    return WithoutMnemonic(pDescribed) == shown ? ToQt(pDescribed) : ToQt(shown).replace('&', "&&");
+}

@@ -1,0 +1,18 @@
+// The library's one entry.
+#include "qt/application.h"
+#include "qt/qt_desktop.h"
+#include "toolkit/desktop_loader.h"
+
+extern "C" CFindWindowsFunction OrrelixWindows;
+
+CDesktop* OrrelixWindows() {
+    try {
+        if (!EnsureApplication())
+            return nullptr;
+        static CQtDesktop* const pDesktop =
+            new CQtDesktop; // outlives the host's last dialog, whenever that is
+        return pDesktop;
+    } catch (...) {
+        return nullptr;
+    }
+}
