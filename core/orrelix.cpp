@@ -6,8 +6,8 @@ constexpr char kProgID[] = "VignelServer.Orrelix";
 
 } // namespace
 
-// A type that is none of ours leaves the gadget as it was.
-void COrrelix::SelectGadget() {
+void COrrelix::SelectType(const CString& type) {
+    m_Type = type;
     const struct {
         const char* m_pType;
         CDhtmlGadget& m_Gadget;
@@ -34,8 +34,7 @@ bool COrrelix::ReadConfigFile(const CString& path) {
         return false;
     if (m_Config.GetProgID() != kProgID)
         return true;
-    m_Type = GetListItem(m_Config.GetParameter("DhtmlType", ""), 0);
-    SelectGadget();
+    SelectType(GetListItem(m_Config.GetParameter("DhtmlType", ""), 0));
     m_pGadget->ReadParameters(m_Config, DirectoryOfPath(path) + "\\");
     return true;
 }

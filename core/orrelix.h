@@ -98,6 +98,10 @@ public:
     // made by then.
     bool WriteConfigFileEx(const CString& path, short force);
 
+    // Selects an effect by its type, "1" to "9", as the first dialog of Config does: for hosts without a
+    // screen. Another type is kept, and the gadget stays.
+    void SelectType(const CString& type);
+
     CVignelConfig m_Config;
     CDhtmlGadget* m_pGadget = &m_NoSelect; // the current one
     CString m_Type = "0";                  // its type, "0" to "9", or what a file said
@@ -114,6 +118,5 @@ public:
     CDanceText m_DanceText;
 
 private:
-    void SelectGadget();
     CVignelConfig& Registered();
 };

@@ -1,5 +1,6 @@
 // The program orrelix: what a page editor does with the component, as commands.
 #include "host/component_path.h"
+#include "host/edit.h"
 #include "host/preview.h"
 #include "host/publish.h"
 #include "host/report.h"
@@ -61,6 +62,36 @@ CCommand AddPublish(CLI::App& program) {
             }};
 }
 
+void AddEditOptions(CLI::App& command, CEditOptions& options) {
+    command
+        .add_option("--set", options.m_Sets, "Set a field, without dialogs; a list's name once for each item")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
+    command.add_flag("--list-fields", options.m_bListFields,
+                     "Print the fields and what they hold, and write nothing");
+    command.add_flag("--overwrite", options.m_bOverwrite, "Copy images over files of the same name");
+}
+
+CCommand AddNew(CLI::App& program) {
+    auto pOptions = std::make_shared<CEditOptions>();
+    CLI::App* pNew = program.add_subcommand("new", "Make an effect, in dialogs or by options");
+    pNew->add_option("FILE", pOptions->m_File, "The configuration file to make")->required();
+    pNew->add_option("--title", pOptions->m_Title,
+                     "Its title, by which a page marks its place; else the file's name");
+    pNew->add_option("--effect", pOptions->m_Effect, "The effect's name, to make it without dialogs")
+        ->type_name("NAME");
+    AddEditOptions(*pNew, *pOptions);
+    return {pNew, [pOptions](int, CReport& report) { NewEffect(*pOptions, report); }};
+}
+
+CCommand AddEdit(CLI::App& program) {
+    auto pOptions = std::make_shared<CEditOptions>();
+    CLI::App* pEdit = program.add_subcommand("edit", "Change an effect, in its dialogs or by options");
+    pEdit->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    AddEditOptions(*pEdit, *pOptions);
+    return {pEdit, [pOptions](int, CReport& report) { EditEffect(*pOptions, report); }};
+}
+
 // Whatever a command throws makes the program fail and nothing else.
 int RunCommand(const CCommand& command, int nCodePage) {
     CReport report;
@@ -83,8 +114,9 @@ int WrongUsage(const std::string& text) {
 }
 
 int RunProgram(int nArguments, char** ppArguments) {
-    CLI::App program("Shows, previews and publishes effects for web pages, from their configuration files.",
-                     "orrelix");
+    CLI::App program(
+        "Makes, shows, previews and publishes effects for web pages, kept in configuration files.",
+        "orrelix");
     program.set_version_flag("--version", "orrelix " ORRELIX_VERSION);
     program.require_subcommand(1);
     program.fallthrough();
@@ -92,7 +124,8 @@ int RunProgram(int nArguments, char** ppArguments) {
     int nCodePage = kUtf8CodePage;
     program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
         ->type_name("N");
-    const CCommand commands[] = {AddShow(program), AddPreview(program), AddPublish(program)};
+    const CCommand commands[] = {AddNew(program), AddEdit(program), AddShow(program), AddPreview(program),
+                                 AddPublish(program)};
     try {
         program.parse(nArguments, ppArguments);
     } catch (const CLI::Success& success) { // --help, --version

@@ -1,0 +1,93 @@
+#include "host/named_fields.h"
+
+#include <algorithm>
+
+namespace {
+
+class CFieldLister : public CParameterExchange {
+public:
+    void Fields(const char*, std::initializer_list<CParameterField> fields) override {
+        for (const CParameterField& field : fields) {
+            if (field.m_pText)
+                Text("", field);
+        }
+    }
+    void Text(const char*, CParameterField field) override {
+        m_Fields.push_back({field.m_pName, false, {*field.m_pText}});
+    }
+    void Unstored(CParameterField field) override { Text("", field); }
+
+    std::vector<CNamedField> m_Fields;
+
+protected:
+    void DoItems(const char*, const CParameterColumn& column) override {
+        CNamedField list{column.m_pName, true, {}};
+        for (const CString* pItem : column.m_Items)
+            list.m_Values.push_back(*pItem);
+        m_Fields.push_back(std::move(list));
+    }
+};
+
+class CFieldSetter : public CParameterExchange {
+public:
+    // nItems is the length of the lists, or below 0 for the one that they have.
+    CFieldSetter(const CFieldValues& values, CStringArray::Index nItems)
+        : m_Values(values), m_nItems(nItems) {}
+
+    void Fields(const char*, std::initializer_list<CParameterField> fields) override {
+        for (const CParameterField& field : fields) {
+            if (field.m_pText)
+                Text("", field);
+        }
+    }
+    void Text(const char*, CParameterField field) override {
+        const auto found = m_Values.find(field.m_pName);
+        if (found != m_Values.end())
+            *field.m_pText = found->second.front();
+    }
+    void Unstored(CParameterField field) override { Text("", field); }
+
+protected:
+    CStringArray::Index CountFor(CStringArray::Index nSize) const override {
+        return m_nItems < 0 ? nSize : m_nItems;
+    }
+    void DoItems(const char*, const CParameterColumn& column) override {
+        const auto found = m_Values.find(column.m_pName);
+        if (found == m_Values.end())
+            return;
+        const size_t nGiven = std::min(column.m_Items.size(), found->second.size());
+        for (size_t nItem = 0; nItem < nGiven; ++nItem)
+            *column.m_Items[nItem] = found->second[nItem];
+    }
+
+private:
+    const CFieldValues& m_Values;
+    CStringArray::Index m_nItems;
+};
+
+} // namespace
+
+std::vector<CNamedField> ListFields(CDhtmlGadget& gadget) {
+    CFieldLister lister;
+    gadget.ExchangeParameters(lister);
+    return std::move(lister.m_Fields);
+}
+
+std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
+    const std::vector<CNamedField> fields = ListFields(gadget);
+    CStringArray::Index nItems = -1;
+    for (const auto& [name, given] : values) {
+        const auto field = std::find_if(fields.begin(), fields.end(), [&name](const CNamedField& candidate) {
+            return candidate.m_Name == name;
+        });
+        if (field == fields.end())
+            return "the effect has no field " + name + "; --list-fields shows those that it has";
+        if (!field->m_bList && given.size() > 1)
+            return name + " is one text and no list; set it once";
+        if (field->m_bList)
+            nItems = std::max(nItems, static_cast<CStringArray::Index>(given.size()));
+    }
+    CFieldSetter setter(values, nItems);
+    gadget.ExchangeParameters(setter);
+    return {};
+}

@@ -1,0 +1,25 @@
+// The fields of an effect by their names, for who works without a screen.
+#pragma once
+
+#include "core/dhtml_gadget.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+struct CNamedField {
+    std::string m_Name;
+    bool m_bList;
+    std::vector<CString> m_Values; // one, or the list's items
+};
+
+// Every field of the gadget with what it holds, in the order of its parameters.
+std::vector<CNamedField> ListFields(CDhtmlGadget& gadget);
+
+// Values by name: one for a field, as many as it is to have items for a list.
+using CFieldValues = std::map<std::string, std::vector<CString>>;
+
+// Sets fields. All lists of an effect are columns of the same items, so all get as many as the longest list
+// given here; an item that isn't given stays as it was. Nothing is set, and the result says why, when a name
+// is none of the gadget's or a field that is no list is given several values; else the result is empty.
+std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values);
