@@ -1,5 +1,6 @@
 // What holds for every dialog's description.
 #include "resources/animate_text_description.h"
+#include "resources/border_description.h"
 #include "resources/copy_resources_description.h"
 #include "resources/font_description.h"
 #include "resources/padding_description.h"
@@ -63,4 +64,4 @@ INSTANTIATE_TEST_SUITE_P(All, Descriptions,
                          testing::Values(SelectScriptDescription, CopyResourcesDescription,
                                          BrowseFilesDescription, AnimateTextDescription, TextShowDescription,
                                          FontPropertiesDescription, CalanderFontDescription, UrlDescription,
-                                         PaddingDescription));
+                                         BorderDescription, PaddingDescription));
