@@ -4,11 +4,8 @@
 
 using Id = BorderId;
 
-CBorderPropertiesDlg::CBorderPropertiesDlg() : CDialog(BorderDescription()) {
-    Attach(PickerOf(Id::Color), m_ColorPicker);
-    SetHandlers<CBorderPropertiesDlg>(
-        {{Id::Color, Notification::Changed, &CBorderPropertiesDlg::OnColorChanged}});
-    SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColorPicked(); });
+CBorderPropertiesDlg::CBorderPropertiesDlg() : CColourDialog(BorderDescription()) {
+    AddColour(Id::Color, m_BorderColor, "CALANDER");
 }
 
 void CBorderPropertiesDlg::DoDataExchange(CDataExchange& exchange) {
@@ -21,19 +18,5 @@ void CBorderPropertiesDlg::DoDataExchange(CDataExchange& exchange) {
 void CBorderPropertiesDlg::OnInitDialog() {
     UpdateData(false);
     SetSpin(Id::Width, m_BorderWidth);
-    m_ColorPicker.SetUp("CALANDER");
-    if (m_BorderColor.IsEmpty())
-        m_BorderColor = "c0c0c0";
-    m_ColorPicker.SetHexColour(m_BorderColor);
-}
-
-void CBorderPropertiesDlg::OnColorChanged() {
-    UpdateData(true);
-    m_ColorPicker.SetHexColour(m_BorderColor);
-}
-
-void CBorderPropertiesDlg::OnColorPicked() {
-    UpdateData(true);
-    m_BorderColor = m_ColorPicker.GetHexColour();
-    UpdateData(false);
+    SetUpPickers();
 }

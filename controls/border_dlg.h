@@ -2,10 +2,9 @@
 // reads them back if it ended in IDOK.
 #pragma once
 
-#include "controls/colour_picker.h"
-#include "toolkit/dialog.h"
+#include "controls/colour_dialog.h"
 
-class CBorderPropertiesDlg : public CDialog {
+class CBorderPropertiesDlg : public CColourDialog {
 public:
     CBorderPropertiesDlg();
 
@@ -16,10 +15,4 @@ public:
 protected:
     void OnInitDialog() override;
     void DoDataExchange(CDataExchange& exchange) override;
-
-private:
-    void OnColorChanged();
-    void OnColorPicked();
-
-    CColourPicker m_ColorPicker{*this};
 };

@@ -36,6 +36,20 @@ void CFontDlg::OnFamilyDoubleClicked() {
 
 CFontPropertiesDlg::CFontPropertiesDlg() : CFontDlg(FontPropertiesDescription()) {}
 
+void EditFont(const CFontFields& font) {
+    CFontPropertiesDlg dialog;
+    dialog.m_FontFace = font.m_Face;
+    dialog.m_FontSize = font.m_Size;
+    dialog.m_FontWeight = font.m_Weight;
+    dialog.m_FontStyle = font.m_Style;
+    if (dialog.DoModal() != IDOK)
+        return;
+    font.m_Face = dialog.m_FontFace;
+    font.m_Size = dialog.m_FontSize;
+    font.m_Weight = dialog.m_FontWeight;
+    font.m_Style = dialog.m_FontStyle;
+}
+
 CCalanderFontDlg::CCalanderFontDlg() : CFontDlg(CalanderFontDescription()) {}
 
 void CCalanderFontDlg::DoDataExchange(CDataExchange& exchange) {

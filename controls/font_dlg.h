@@ -28,6 +28,17 @@ public:
     CFontPropertiesDlg();
 };
 
+// The four texts of a font, which lie in an effect or in a dialog's copy of it.
+struct CFontFields {
+    CString& m_Face;
+    CString& m_Size;
+    CString& m_Weight;
+    CString& m_Style;
+};
+
+// Runs CFontPropertiesDlg on these texts, which change only if it ends in IDOK.
+void EditFont(const CFontFields& font);
+
 // With an alignment of the text.
 class CCalanderFontDlg : public CFontDlg {
 public:

@@ -1,5 +1,11 @@
 #include "core/orrelix.h"
 
+#include "dialogs/animate_text_dlg.h"
+#include "dialogs/text_show_dlg.h"
+
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr char kProgID[] = "VignelServer.Orrelix";
@@ -39,9 +45,39 @@ bool COrrelix::ReadConfigFile(const CString& path) {
     return true;
 }
 
-// Until there are dialogs, every one of them ends as if the user had cancelled it.
+// The type that is picked stays, also when the gadget's own dialog is cancelled then.
 bool COrrelix::Config() {
-    return false;
+    if (m_Type == "0") {
+        m_pGadget = &m_NoSelect;
+        if (m_SelectDlg.DoModal() == IDCANCEL)
+            return false;
+        m_Type = ToText(m_SelectDlg.m_nSelected + 1);
+    }
+    if (!RunGadgetDialog())
+        return false;
+    m_bResourcesRegistered = false;
+    return true;
+}
+
+// False when the person cancelled; an effect that has no dialog yet behaves as if it had been. A type that is
+// none of ours has nothing to ask.
+bool COrrelix::RunGadgetDialog() {
+    if (m_Type == "1")
+        return Run<CAnimateTextDlg>(m_AnimateText);
+    if (m_Type == "2")
+        return Run<CTextShowDlg>(m_TextShow);
+    const char* const withoutDialog[] = {"3", "4", "5", "6", "7", "8", "9"};
+    SelectGadget();
+    return std::find(std::begin(withoutDialog), std::end(withoutDialog), m_Type.View()) ==
+           std::end(withoutDialog);
+}
+
+template <class TDialog, class TGadget>
+bool COrrelix::Run(TGadget& gadget) {
+    TDialog dialog;
+    m_pGadget = &gadget;
+    dialog.m_pGadget = &gadget;
+    return dialog.DoModal() != IDCANCEL;
 }
 
 bool COrrelix::WriteConfigFileEx(const CString& path, short force) {

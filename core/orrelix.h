@@ -15,6 +15,7 @@
 
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
+#include "dialogs/select_script.h"
 #include "gadgets/animate_text.h"
 #include "gadgets/calander.h"
 #include "gadgets/cool_link.h"
@@ -105,6 +106,7 @@ public:
     CVignelConfig m_Config;
     CDhtmlGadget* m_pGadget = &m_NoSelect; // the current one
     CString m_Type = "0";                  // its type, "0" to "9", or what a file said
+    CSelectScriptDlg m_SelectDlg;
     bool m_bResourcesRegistered = false;
     CNoSelect m_NoSelect;
     CAnimateText m_AnimateText;
@@ -118,5 +120,8 @@ public:
     CDanceText m_DanceText;
 
 private:
+    bool RunGadgetDialog();
+    template <class TDialog, class TGadget>
+    bool Run(TGadget& gadget);
     CVignelConfig& Registered();
 };

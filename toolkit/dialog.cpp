@@ -101,6 +101,10 @@ void CDialog::Attach(int nId, COwnerDrawnButton& button) {
     m_Attached[nId] = &button;
 }
 
+void CDialog::SetHandler(int nId, Notification notification, std::function<void()> handler) {
+    m_Handlers[{nId, notification}] = std::move(handler);
+}
+
 void CDialog::SetMessageHandler(int nMessage, std::function<void(unsigned long, long)> handler) {
     m_MessageHandlers[nMessage] = std::move(handler);
 }

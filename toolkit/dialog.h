@@ -118,11 +118,11 @@ protected:
     template <class TDialog>
     void SetHandlers(std::initializer_list<CNotificationHandler<TDialog>> handlers) {
         for (const CNotificationHandler<TDialog>& row : handlers) {
-            m_Handlers[{row.m_nId, row.m_Notification}] = [this, pHandler = row.m_pHandler] {
-                (static_cast<TDialog*>(this)->*pHandler)();
-            };
+            SetHandler(row.m_nId, row.m_Notification,
+                       [this, pHandler = row.m_pHandler] { (static_cast<TDialog*>(this)->*pHandler)(); });
         }
     }
+    void SetHandler(int nId, Notification notification, std::function<void()> handler);
     void SetMessageHandler(int nMessage, std::function<void(unsigned long, long)> handler);
 
     // Puts an owner-drawn button, a member of the dialog, in its place. In the constructor.

@@ -1,0 +1,31 @@
+#include "controls/colour_dialog.h"
+
+void CColourDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
+    CColourBox& box = m_Boxes.emplace_back(*this, colour, pSection);
+    Attach(PickerOf(nEdit), box.m_Picker);
+    SetHandler(nEdit, Notification::Changed, [this, &box] { OnColourTyped(box); });
+    SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColourPicked(); });
+}
+
+void CColourDialog::SetUpPickers() {
+    for (CColourBox& box : m_Boxes) {
+        box.m_Picker.SetUp(box.m_pSection);
+        if (box.m_Colour.IsEmpty())
+            box.m_Colour = "c0c0c0";
+        box.m_Picker.SetHexColour(box.m_Colour);
+    }
+}
+
+void CColourDialog::OnColourTyped(CColourBox& box) {
+    UpdateData(true);
+    box.m_Picker.SetHexColour(box.m_Colour);
+}
+
+// Every box takes its picker's colour, not only the one that was used: a box with a half-typed colour falls
+// back to its last whole one.
+void CColourDialog::OnColourPicked() {
+    UpdateData(true);
+    for (CColourBox& box : m_Boxes)
+        box.m_Colour = box.m_Picker.GetHexColour();
+    UpdateData(false);
+}

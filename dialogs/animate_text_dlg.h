@@ -1,0 +1,35 @@
+// The dialog of Animate Text.
+#pragma once
+
+#include "controls/colour_dialog.h"
+#include "gadgets/animate_text.h"
+
+class CListBox;
+
+class CAnimateTextDlg : public CColourDialog {
+public:
+    CAnimateTextDlg();
+
+    CAnimateText* m_pGadget = nullptr; // set before the run; written on OK only
+
+protected:
+    void OnInitDialog() override;
+    void DoDataExchange(CDataExchange& exchange) override;
+    void OnOK() override;
+
+private:
+    void OnAdd();
+    void OnDelete();
+    void OnModify();
+    void OnMoveUp();
+    void OnMoveDown();
+    void OnSelectionChanged();
+    void OnFont();
+
+    CListBox& Messages() const;
+    void EnableMoves(bool bUp, bool bDown) const;
+
+    CAnimateText m_Copy; // what the dialog edits, but for the messages, which are the list's rows
+    CString m_EditText;
+    int m_nEditIndex = -1; // the row that "Modify" replaces; only a selection by the person sets it
+};
