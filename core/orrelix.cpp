@@ -3,9 +3,6 @@
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
 constexpr char kProgID[] = "VignelServer.Orrelix";
@@ -66,10 +63,8 @@ bool COrrelix::RunGadgetDialog() {
         return Run<CAnimateTextDlg>(m_AnimateText);
     if (m_Type == "2")
         return Run<CTextShowDlg>(m_TextShow);
-    const char* const withoutDialog[] = {"3", "4", "5", "6", "7", "8", "9"};
-    SelectGadget();
-    return std::find(std::begin(withoutDialog), std::end(withoutDialog), m_Type.View()) ==
-           std::end(withoutDialog);
+    SelectType(CString(m_Type));
+    return m_Type.GetLength() != 1 || m_Type[0] < '3' || m_Type[0] > '9';
 }
 
 template <class TDialog, class TGadget>
