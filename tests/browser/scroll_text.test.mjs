@@ -4,7 +4,7 @@ import { readFileSync } from "node:fs";
 import path from "node:path";
 import { givePage, testBothModes, watch } from "./harness.mjs";
 
-const PLAIN = readFileSync(path.join(process.env.ORRELIX_PAGES ?? ".", "scroll_text_plain.html"), "latin1");
+const PLAIN = readFileSync(path.join(process.env.ORRELIX_PAGES ?? ".", "scroll_text_plain.html"), "utf8");
 const TEXTS = [...PLAIN.matchAll(/className ='brnclick'\\">(.*)<\/a>/g)].map((match) => match[1]);
 
 // The plain page with other texts and in a hurry: a second for the height of the box.

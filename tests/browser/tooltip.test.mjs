@@ -4,7 +4,7 @@ import { readFileSync } from "node:fs";
 import path from "node:path";
 import { givePage, testBothModes, watch } from "./harness.mjs";
 
-const PLAIN = readFileSync(path.join(process.env.ORRELIX_PAGES ?? ".", "tool_tip_plain.html"), "latin1");
+const PLAIN = readFileSync(path.join(process.env.ORRELIX_PAGES ?? ".", "tool_tip_plain.html"), "utf8");
 const TITLE = /id="([^"]*)" tooltip=/.exec(PLAIN)[1];
 const TEXT = "visit our homepage";
 
@@ -12,7 +12,7 @@ const TEXT = "visit our homepage";
 function quick({ delay = 300, show = 60_000, titles = [TITLE], change = (effect) => effect } = {}) {
     const timed = PLAIN.replace(/delayTime = \d+/, `delayTime = ${delay}`)
         .replace(/showTime = \d+/, `showTime = ${show}`);
-    return timed.replace(/<SCRIPT LANGUAGE[^]*(?=<\/body>)/, (effect) =>
+    return timed.replace(/<SCRIPT LANGUAGE[^]*?<a .*<\/a>/, (effect) =>
         titles.map((title) => `<p>${change(effect).replaceAll(TITLE, title)}</p>`).join("\r\n"));
 }
 
@@ -101,7 +101,7 @@ testBothModes(givePage(quick({ change: (effect) => effect.replace(/(<a [^]*?)( i
     });
 
 // An element of a tag that takes no focus by itself.
-const inSpan = (effect) => effect.replace(/<a href="[^"]*" /, "<span").replace(/<\/a>\s*$/, "</span>");
+const inSpan = (effect) => effect.replace(/<a href="[^"]*" /, "<span").replace(/<\/a>$/, "</span>");
 testBothModes(givePage(quick({ titles: ["one", "Two"], change: inSpan })),
     "two tips: each shows beside its element on keyboard focus and is told with it", async ({ page }) => {
         for (const title of ["one", "Two"]) {
