@@ -48,7 +48,7 @@ std::optional<CVignelComment> ParseComment(std::string_view comment) {
     const CString lower = CString(word).MakeLower();
     if (lower != "vignel" && !lower.View().starts_with("vignel "))
         return std::nullopt;
-    const size_t nTitle = static_cast<size_t>(title.data() - comment.data());
+    const size_t nTitle = title.empty() ? comment.size() : static_cast<size_t>(title.data() - comment.data());
     return CVignelComment{
         lower, static_cast<size_t>(word.data() - comment.data()), {nTitle, nTitle + title.size()}};
 }

@@ -81,7 +81,7 @@ constexpr char kEffectStyle[] = R"(
 }
 )";
 
-// A picture is a page of twice the card's size, at half its scale.
+// A picture is a page larger than its card, made smaller.
 constexpr char kIndexStyle[] = R"(
 body {
     margin: 0 auto;
@@ -113,10 +113,10 @@ article {
     background: #fff;
 }
 iframe {
-    width: 200%;
-    height: 200%;
+    width: 160%;
+    height: 160%;
     border: 0;
-    transform: scale(.5);
+    transform: scale(.625);
     transform-origin: 0 0;
 }
 .about {
