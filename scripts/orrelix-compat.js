@@ -12,8 +12,6 @@
 
     const motion = window.matchMedia("(prefers-reduced-motion: reduce)");
 
-    // ---- Styles ----
-
     // Splits text at a separator that stands outside of quotes, brackets and comments.
     function splitOutside(text, separator) {
         const pieces = [];
@@ -126,8 +124,6 @@
             repairSheet(element);
     }
 
-    // ---- Time ----
-
     function ready(fn) {
         if (document.readyState === "loading")
             document.addEventListener("DOMContentLoaded", () => fn(), { once: true });
@@ -221,8 +217,6 @@
         element.addEventListener("focusout", () => handle.resume(byFocus), { signal });
     }
 
-    // ---- Collections that are called like functions ----
-
     // The live collection as a function: truthy, and callable as call(native, …) says.
     function callable(native, call, own = {}) {
         const forwarded = {
@@ -254,8 +248,6 @@
             adoptColorLink(link);
         return link;
     });
-
-    // ---- Load handlers ----
 
     // All handlers that were assigned, in order: the page's own, from <body onload> too, and those of effects.
     // Page scripts that save the old handler and call it from theirs get runAll; none runs twice in one load.
@@ -309,8 +301,6 @@
         runAll(event);
         bLoading = false;
     });
-
-    // ---- Slide Text and Color Link ----
 
     // The steps of these two effects are timers with a text, such as "typeit()". From the first such effect on, these
     // texts, and only these, go to whoever steps the effect: steppers maps the text to schedule(milliseconds).
