@@ -7,9 +7,16 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <stdlib.h>
 
 class ProgramTest : public testing::Test {
 protected:
+    // Nobody is there to answer a dialog of the program.
+    ProgramTest() {
+        for (const char* pScreen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            unsetenv(pScreen);
+    }
+
     // Runs `orrelix` with these arguments in the folder.
     CProgramRun Run(std::vector<std::string> arguments, CProgramLimits limits = {}) const {
         arguments.insert(arguments.begin(), ORRELIX_PROGRAM);
