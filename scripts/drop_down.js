@@ -80,7 +80,9 @@
             const { box, field, text, list, rows, options, label } = this;
             const id = `brndfn-list-${++nLists}`;
             box.classList.add("brndfn-box");
-            box.closest("table")?.classList.add("brndfn-frame");
+            const frame = box.closest("table");
+            frame.classList.add("brndfn-frame");
+            frame.setAttribute("role", "presentation");
             text.classList.add("brndfn-text");
             field.classList.add("brndfn-field");
             setAttributes(field, {
@@ -217,7 +219,8 @@
                 row.style.minHeight = "";
             const heights = rows.map((row) => row.offsetHeight);
             const width = list.offsetWidth;
-            const styles = rows.map((row) => this.dress(row));
+            const families = rows.map(familyOf);
+            const styles = rows.map((row, index) => this.dress(row, families[index]));
             const markedHeights = rows.map((row) => row.offsetHeight);
             this.width = Math.max(width, list.offsetWidth);
             rows.forEach((row, index) => {
@@ -228,9 +231,8 @@
 
         // Gives the row the look of the mark; the result is for undress. An item's own font and colour stand on a
         // span inside it, so the mark's go there too. A font that the visitor doesn't have falls back to the item's.
-        dress(row) {
-            const span = row.querySelector(":scope > nobr > span") ?? row;
-            const family = getComputedStyle(span).fontFamily;
+        dress(row, family = familyOf(row)) {
+            const span = textOf(row);
             const styles = [row, span].map((element) => [element, element.style.cssText]);
             row.style.cssText += `; ${this.overCss}`;
             if (row.style.fontFamily)
@@ -342,15 +344,24 @@
             const sought = bSameLetter ? letter : text;
             const at = this.marked.index + (bSameLetter ? 1 : 0);
             const order = [...this.rows.keys()].map((step) => (at + step) % this.rows.length);
-            const found = order.find((index) => this.textOf(index).startsWith(sought));
+            const found = order.find((index) => this.wordsOf(index).startsWith(sought));
             if (found !== undefined)
                 this.moveTo(found);
             return true;
         }
 
-        textOf(index) {
+        wordsOf(index) {
             return this.rows[index].textContent.trim().toLocaleLowerCase();
         }
+    }
+
+    // What bears an item's own font and colour.
+    function textOf(row) {
+        return row.querySelector(":scope > nobr > span") ?? row;
+    }
+
+    function familyOf(row) {
+        return getComputedStyle(textOf(row)).fontFamily;
     }
 
     function undress(styles) {

@@ -69,7 +69,7 @@
         box.size = size;
         box.setAttribute("onchange", onChange);
         document.currentScript.after(box);
-        brndfn.repair(box.closest("table") ?? box.parentElement);
+        brndfn.repair(box.closest("table"));
 
         const dropDown = brndfn.dropDown({
             box, field, text, list, rows, options,

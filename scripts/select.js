@@ -26,6 +26,7 @@
         brndfn.repair(frame);
         if (frame.previousElementSibling?.localName === "style")
             brndfn.repair(frame.previousElementSibling);
+        box.size = Number(box.getAttribute("size")) || rows.length;
         button.innerHTML = brndfn.dropDownArrow;
         field.classList.add("brndfn-link-field");
         list.style.cssText = brndfn.css(`border: ${sizedBorderCss}`);
@@ -38,7 +39,7 @@
             options: rows.map((row) => ({ value: row.getAttribute("value") ?? "", text: row.textContent })),
             label: box.id || "Links",
             overCss: brndfn.css(overCss),
-            nShown: Number(box.getAttribute("size")) || rows.length,
+            nShown: box.size,
         });
     }
 

@@ -1,7 +1,9 @@
 // Link Select Table in the browser.
 import assert from "node:assert/strict";
+import { readFile } from "node:fs/promises";
+import path from "node:path";
 import { field, look, noteOpened, opened, rows, testDropDown, together } from "./drop_down.mjs";
-import { testBothModes } from "./harness.mjs";
+import { givePage, testBothModes } from "./harness.mjs";
 
 await testDropDown({
     effect: "cool_link",
@@ -62,3 +64,12 @@ testBothModes(await together("fade_select_rich", "cool_link_rich"),
         const address = "http://www.vellumark.example/books?kind=old&page=1";
         assert.deepEqual(await opened(page), [[address, "_blank"], [address, "_blank"]]);
     }, { before: noteOpened });
+
+const titleless = (await readFile(path.join(process.env.ORRELIX_PAGES, "cool_link_rich.html"), "latin1"))
+    .replaceAll("museum", "");
+testBothModes(givePage(titleless), "a box without a title works too", async ({ page }) => {
+    await field(page).click();
+    await rows(page).nth(1).click();
+    assert.equal((await opened(page)).length, 1);
+    assert.equal((await field(page).innerText()).trim(), "Library");
+}, { before: noteOpened });
