@@ -72,10 +72,7 @@ CPersonScript& CPersonScript::Add(CStep step) {
 }
 
 CPersonScript& CPersonScript::AddAct(const CString& words, std::function<void(CDialog&, CPersonHands&)> act) {
-    CStep step;
-    step.m_Words = words;
-    step.m_Act = std::move(act);
-    return Add(std::move(step));
+    return Add({.m_Words = words, .m_Act = std::move(act)});
 }
 
 CPersonScript& CPersonScript::AddLook(const CString& verb, const CString& name,
@@ -209,42 +206,28 @@ CPersonScript& CPersonScript::PressesInPopup(std::initializer_list<PopupKey> key
 }
 
 CPersonScript& CPersonScript::Answers(const CString& message, int nAnswer) {
-    CStep step;
-    step.m_Kind = Kind::Message;
-    step.m_Words = CString("answers the message \"") + message + "\"";
-    step.m_Message = message;
-    step.m_nAnswer = nAnswer;
-    return Add(std::move(step));
+    return Add({.m_Kind = Kind::Message,
+                .m_Words = "answers the message \"" + message + "\"",
+                .m_Message = message,
+                .m_nAnswer = nAnswer});
 }
 
 CPersonScript& CPersonScript::ChoosesFile(const CString& path, const CString& addedText) {
-    CStep step;
-    step.m_Kind = Kind::File;
-    step.m_Words = CString("chooses the file ") + path;
-    step.m_File = {path, addedText};
-    return Add(std::move(step));
+    return Add({.m_Kind = Kind::File,
+                .m_Words = "chooses the file " + path,
+                .m_File = CFileAnswer{path, addedText}});
 }
 
 CPersonScript& CPersonScript::CancelsFile() {
-    CStep step;
-    step.m_Kind = Kind::File;
-    step.m_Words = "cancels the file dialog";
-    return Add(std::move(step));
+    return Add({.m_Kind = Kind::File, .m_Words = "cancels the file dialog"});
 }
 
 CPersonScript& CPersonScript::MixesColour(CColour colour) {
-    CStep step;
-    step.m_Kind = Kind::Colour;
-    step.m_Words = "mixes a colour";
-    step.m_Colour = colour;
-    return Add(std::move(step));
+    return Add({.m_Kind = Kind::Colour, .m_Words = "mixes a colour", .m_Colour = colour});
 }
 
 CPersonScript& CPersonScript::CancelsColour() {
-    CStep step;
-    step.m_Kind = Kind::Colour;
-    step.m_Words = "cancels the colour dialog";
-    return Add(std::move(step));
+    return Add({.m_Kind = Kind::Colour, .m_Words = "cancels the colour dialog"});
 }
 
 CPersonScript& CPersonScript::Shows(const CString& name, const CString& text) {

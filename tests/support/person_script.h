@@ -130,8 +130,8 @@ private:
 
     struct CStep {
         Kind m_Kind = Kind::Act;
-        CString m_Dialog;
-        CString m_Words; // how the step reads, for failures
+        CString m_Dialog = {};
+        CString m_Words = {}; // how the step reads, for failures
         std::function<void(CDialog&, CPersonHands&)> m_Act = {};
         CString m_Message = {};
         int m_nAnswer = IDOK;
