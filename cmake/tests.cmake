@@ -22,6 +22,12 @@ foreach(folder platform core gadgets toolkit controls dialogs)
     orrelix_test_program(${folder})
 endforeach()
 
+if(TARGET orrelix_windows)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+    orrelix_test_program(qt orrelix_windows Qt6::Widgets Qt6::Test)
+    target_sources(qt_test PRIVATE tests/qt/windows_person.cpp)
+endif()
+
 find_program(NODE_PROGRAM node)
 if(NODE_PROGRAM)
     add_test(NAME includes COMMAND ${NODE_PROGRAM} --test ${PROJECT_SOURCE_DIR}/tests/includes.test.mjs)

@@ -1,0 +1,287 @@
+#include "tests/qt/windows_person.h"
+
+#include "qt/application.h"
+#include "qt/text.h"
+#include "toolkit/file_dialog.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The window that came up last, if it is of this kind.
+template <class TWindow>
+TWindow* FrontWindow() {
+    return dynamic_cast<TWindow*>(QApplication::activeModalWidget());
+}
+
+// Does something in the window that is about to come up.
+template <class TWindow, class TAct>
+void WhenItIsUp(TAct act) {
+    QTimer::singleShot(0, [act] {
+        TWindow* pWindow = FrontWindow<TWindow>();
+        ASSERT_TRUE(pWindow) << "the expected window did not come up";
+        act(*pWindow);
+    });
+}
+
+// The mouse's own events: what QTest sends on top of them differs from platform to platform.
+void SendMouse(QWidget& widget, QEvent::Type type, QPoint point, Qt::MouseButton button) {
+    const Qt::MouseButton down = type == QEvent::MouseButtonPress ? button : Qt::NoButton;
+    QMouseEvent event(type, QPointF(point), QPointF(widget.mapToGlobal(point)), button, down, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+std::vector<int> RowNumbers(const QModelIndexList& indices) {
+    std::vector<int> rows;
+    for (const QModelIndex& index : indices)
+        rows.push_back(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+} // namespace
+
+void StartQt() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    ASSERT_TRUE(EnsureApplication());
+}
+
+void ReplaceText(QWidget& box, const QString& text) {
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        return QTest::keyClick(&box, Qt::Key_Delete);
+    QInputMethodEvent typed;
+    typed.setCommitString(text);
+    QApplication::sendEvent(&box, &typed);
+}
+
+void ClickRow(QAbstractItemView& view, int nRow, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex index = view.model()->index(nRow, 0);
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
+}
+
+CWindowsPerson::CWindowsPerson() {
+    StartQt();
+    SetDesktop(this);
+}
+
+CDialogWindow& CWindowsPerson::Window() {
+    return dynamic_cast<CDialogWindow&>(*QApplication::activeModalWidget());
+}
+
+QWidget& CWindowsPerson::WidgetOf(const CTarget& target) {
+    const CControlDescription& control = target.m_Description;
+    const CControl* pShown =
+        control.m_Kind == ControlKind::Spin ? target.m_Dialog.FindItem(control.m_nBuddy) : &target.m_Control;
+    return *Window().WidgetOf(*pShown);
+}
+
+void CWindowsPerson::RunDialog(CDialog& dialog) {
+    m_Running.push_back(&dialog);
+    QTimer next;
+    QObject::connect(&next, &QTimer::timeout, [this, &dialog] { PlayNext(dialog); });
+    next.start(0);
+    CQtDesktop::RunDialog(dialog);
+    m_Running.pop_back();
+}
+
+void CWindowsPerson::PlayNext(CDialog& dialog) {
+    if (m_Running.back() != &dialog || dialog.HasEnded() || !FrontWindow<CDialogWindow>())
+        return;
+    if (PlayStep(dialog, *this))
+        return;
+    if (m_pOpenPopup)
+        m_pOpenPopup->OnDeactivate(Person());
+    dialog.PersonCloses(Person());
+}
+
+int CWindowsPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
+    WhenItIsUp<QMessageBox>([this](QMessageBox& box) {
+        const int nAnswer = AnswerMessageBox(LinesFromQt(box.text()));
+        QTest::mouseClick(box.button(nAnswer == IDOK ? QMessageBox::Ok : QMessageBox::Cancel),
+                          Qt::LeftButton);
+    });
+    return CQtDesktop::ShowMessageBox(text, kind);
+}
+
+bool CWindowsPerson::RunFileDialog(CFileDialog& dialog) {
+    WhenItIsUp<QFileDialog>([this, &dialog](QFileDialog& window) {
+        const auto answer = AnswerFileDialog();
+        if (!answer)
+            return QTest::keyClick(&window, Qt::Key_Escape);
+        for (QLineEdit* pBox : window.findChildren<QLineEdit*>()) {
+            if (pBox->accessibleName() == "Web Path")
+                ReplaceText(*pBox, ToQt(answer->m_AddedText));
+        }
+        QLineEdit& name = *window.findChild<QLineEdit*>("fileNameEdit");
+        ReplaceText(name, PathToQt(answer->m_Path));
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+    return CQtDesktop::RunFileDialog(dialog);
+}
+
+bool CWindowsPerson::RunColourDialog(CColour& colour) {
+    WhenItIsUp<QColorDialog>([this](QColorDialog& window) {
+        const auto answer = AnswerColourDialog();
+        if (!answer)
+            return QTest::keyClick(&window, Qt::Key_Escape);
+        for (QLineEdit* pBox : window.findChildren<QLineEdit*>()) {
+            if (pBox->text().startsWith('#'))
+                ReplaceText(*pBox,
+                            QColor(int(RedOf(*answer)), int(GreenOf(*answer)), int(BlueOf(*answer))).name());
+        }
+        auto* pButtons = window.findChild<QDialogButtonBox*>();
+        QTest::mouseClick(pButtons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    });
+    return CQtDesktop::RunColourDialog(colour);
+}
+
+void CWindowsPerson::OpenPopup(CPopupWindow& popup) {
+    m_pOpenPopup = &popup;
+    CQtDesktop::OpenPopup(popup);
+}
+
+void CWindowsPerson::ClosePopup(CPopupWindow& popup) {
+    m_pOpenPopup = nullptr;
+    CQtDesktop::ClosePopup(popup);
+}
+
+void CWindowsPerson::Type(const CTarget& target, const CString& text) {
+    ReplaceText(WidgetOf(target), LinesToQt(text));
+}
+
+void CWindowsPerson::Turn(const CTarget& target, int nSteps) {
+    for (int nStep = 0; nStep < qAbs(nSteps); ++nStep)
+        QTest::keyClick(&WidgetOf(target), nSteps > 0 ? Qt::Key_Up : Qt::Key_Down);
+}
+
+void CWindowsPerson::Click(const CTarget& target) {
+    QTest::mouseClick(&WidgetOf(target), Qt::LeftButton);
+}
+
+void CWindowsPerson::SelectRows(const CTarget& target, const std::vector<int>& rows) {
+    for (size_t nRow = 0; nRow < rows.size(); ++nRow)
+        ClickRow(As<QAbstractItemView>(target), rows[nRow], nRow == 0 ? Qt::NoModifier : Qt::ControlModifier);
+}
+
+void CWindowsPerson::DoubleClick(const CTarget& target, int nRow) {
+    auto& view = As<QAbstractItemView>(target);
+    const QPoint place = view.visualRect(view.model()->index(nRow, 0)).center();
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void CWindowsPerson::Pick(const CTarget& target, int nRow) {
+    auto& box = As<QComboBox>(target);
+    QTest::keyClick(&box, Qt::Key_F4);
+    ClickRow(*box.view(), nRow);
+}
+
+void CWindowsPerson::CloseList(const CTarget& target) {
+    auto& box = As<QComboBox>(target);
+    QTest::keyClick(&box, Qt::Key_F4);
+    QTest::keyClick(box.view(), Qt::Key_Escape);
+}
+
+void CWindowsPerson::Move(const CTarget& target, int nPos) {
+    auto& slider = As<QSlider>(target);
+    while (slider.value() != nPos) {
+        const int nBefore = slider.value(), nWay = nPos - nBefore;
+        const bool bPage = qAbs(nWay) >= slider.pageStep();
+        QTest::keyClick(&slider, nWay > 0 ? (bPage ? Qt::Key_PageUp : Qt::Key_Right)
+                                          : (bPage ? Qt::Key_PageDown : Qt::Key_Left));
+        ASSERT_NE(slider.value(), nBefore) << "the slider does not move to " << nPos;
+    }
+}
+
+void CWindowsPerson::Rename(const CTarget& target, const std::optional<CString>& text) {
+    auto* pEditor = As<QAbstractItemView>(target).viewport()->findChild<QLineEdit*>();
+    ASSERT_TRUE(pEditor) << "no label is being edited";
+    if (!text)
+        return QTest::keyClick(pEditor, Qt::Key_Escape);
+    ReplaceText(*pEditor, ToQt(*text));
+    QTest::keyClick(pEditor, Qt::Key_Return);
+}
+
+void CWindowsPerson::PressEscape(CDialog&) {
+    QTest::keyClick(Window().focusWidget(), Qt::Key_Escape);
+}
+
+void CWindowsPerson::PressEnter(CDialog&) {
+    QTest::keyClick(Window().focusWidget(), Qt::Key_Return);
+}
+
+void CWindowsPerson::MoveInPopup(CPoint point) {
+    SendMouse(*QApplication::activePopupWidget(), QEvent::MouseMove, {point.x, point.y}, Qt::NoButton);
+}
+
+void CWindowsPerson::ReleaseInPopup(CPoint point) {
+    QWidget& popup = *QApplication::activePopupWidget();
+    SendMouse(popup, QEvent::MouseButtonPress, {point.x, point.y}, Qt::LeftButton);
+    SendMouse(popup, QEvent::MouseButtonRelease, {point.x, point.y}, Qt::LeftButton);
+}
+
+void CWindowsPerson::PressInPopup(PopupKey key) {
+    static constexpr Qt::Key keys[] = {Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,
+                                       Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space};
+    QTest::keyClick(QApplication::activePopupWidget(), keys[static_cast<size_t>(key)]);
+}
+
+CString CWindowsPerson::TextOf(const CTarget& target) {
+    QWidget& widget = WidgetOf(target);
+    if (const auto* pLine = dynamic_cast<QLineEdit*>(&widget))
+        return FromQt(pLine->text());
+    if (const auto* pArea = dynamic_cast<QPlainTextEdit*>(&widget))
+        return LinesFromQt(pArea->toPlainText());
+    if (const auto* pNumber = dynamic_cast<QAbstractSpinBox*>(&widget))
+        return FromQt(pNumber->text());
+    if (const auto* pCombo = dynamic_cast<QComboBox*>(&widget))
+        return FromQt(pCombo->currentText());
+    if (const auto* pLabel = dynamic_cast<QLabel*>(&widget))
+        return LinesFromQt(pLabel->text());
+    return WithoutMnemonic(FromQt(dynamic_cast<QAbstractButton&>(widget).text()));
+}
+
+bool CWindowsPerson::IsEnabled(const CTarget& target) {
+    return WidgetOf(target).isEnabled();
+}
+
+int CWindowsPerson::PositionOf(const CTarget& target) {
+    if (target.m_Description.m_Kind == ControlKind::Slider)
+        return As<QSlider>(target).value();
+    return As<QAbstractSpinBox>(target).text().toInt();
+}
+
+std::vector<CString> CWindowsPerson::RowsOf(const CTarget& target) {
+    std::vector<CString> rows;
+    const auto* pCombo = dynamic_cast<QComboBox*>(&WidgetOf(target));
+    const QAbstractItemModel& model = pCombo ? *pCombo->model() : *As<QAbstractItemView>(target).model();
+    for (int nRow = 0; nRow < model.rowCount(); ++nRow) {
+        CString cells = LinesFromQt(model.index(nRow, 0).data(Qt::EditRole).toString());
+        for (int nColumn = 1; nColumn < model.columnCount(); ++nColumn)
+            cells += CString(" | ") + FromQt(model.index(nRow, nColumn).data().toString());
+        rows.push_back(cells);
+    }
+    return rows;
+}
+
+std::vector<int> CWindowsPerson::SelectedRowsOf(const CTarget& target) {
+    if (const auto* pCombo = dynamic_cast<QComboBox*>(&WidgetOf(target)))
+        return pCombo->currentIndex() < 0 ? std::vector<int>() : std::vector<int>{pCombo->currentIndex()};
+    return RowNumbers(As<QAbstractItemView>(target).selectionModel()->selectedRows());
+}
