@@ -19,21 +19,15 @@ struct CFields {
     CStringArray m_Texts = {"one", "two"};
     CArray<CRecord> m_Sizes = {{"1", "2"}, {"3", "4"}};
 
-    void Exchange(CParameterExchange& exchange) {
+    void Exchange(CParameterExchange&& exchange) {
         exchange.Fields("Para", {FIELD(m_Speed), Masked(FIELD(m_Font)), FIELD(m_Texts)});
         exchange.Text("Title", FIELD(m_Title));
         exchange.MaskedItems("Texts", FIELD(m_Texts));
         exchange.Column("Widths", "m_Width", m_Sizes, &CRecord::m_Width);
         exchange.Column("Heights", "m_Height", m_Sizes, &CRecord::m_Height);
     }
-    void Read(CVignelConfig& config) {
-        CParameterReader reader(config);
-        Exchange(reader);
-    }
-    void Write(CVignelConfig& config) {
-        CParameterWriter writer(config);
-        Exchange(writer);
-    }
+    void Read(CVignelConfig& config) { Exchange(CParameterReader(config)); }
+    void Write(CVignelConfig& config) { Exchange(CParameterWriter(config)); }
 };
 
 } // namespace
