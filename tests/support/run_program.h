@@ -15,8 +15,9 @@ struct CProgramRun {
 
 struct CProgramLimits {
     std::optional<std::chrono::microseconds> m_KillAfter; // by SIGKILL, if it still runs then
-    std::optional<size_t> m_nFileSize;                    // the longest file it can write; more fails
-    std::string m_Directory;                              // where it runs, if not here
+    std::string m_TouchedFolder;       // the time to the kill counts from the first change in this folder
+    std::optional<size_t> m_nFileSize; // the longest file it can write; more fails
+    std::string m_Directory;           // where it runs, if not here
 };
 
 // Runs a program to its end. The first of the arguments is the program's path.
