@@ -1,5 +1,6 @@
 #include "host/component_path.h"
 
+#include "host/report.h"
 #include "platform/files.h"
 
 #include <cerrno>
@@ -12,7 +13,8 @@ CString ComponentPath(const fs::path& path) {
     std::string result;
     for (char byte : full) {
         if (byte == '\\')
-            return {};
+            throw CFileError(path,
+                             "has a backslash in its path, where the component can't find it; rename it");
         // Behind a byte that may be the first half of a character a backslash could be its second half, so
         // that separator gets a step of its own: "/." in front, which changes no path.
         const bool bMayBeSwallowed = !result.empty() && static_cast<unsigned char>(result.back()) >= 0x80;

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-// The path for the component; empty when one of its names holds a backslash, for which the component has no
-// spelling.
+// The path for the component. Throws CFileError when one of its names holds a backslash, for which the
+// component has no spelling.
 CString ComponentPath(const std::filesystem::path& path);
 
 // The other way round, for messages and for the system's own operations.

@@ -26,8 +26,8 @@ public:
         for (const fs::path& file : m_Options.m_Files) {
             try {
                 AddPage(file);
-            } catch (const CFileError& error) {
-                m_Report.Error(error.m_File, error.what());
+            } catch (const std::exception& error) {
+                m_Report.Error(file.string(), error.what());
             }
         }
         m_Copies.Run();
@@ -39,7 +39,8 @@ private:
     void AddPage(const fs::path& file) {
         const std::string name = file.stem().string() + ".html";
         const fs::path page = m_Out / name;
-        if (fs::equivalent(fs::absolute(file).parent_path(), m_Out))
+        std::error_code noSuchFolder; // is told when the file is read
+        if (fs::equivalent(fs::absolute(file).parent_path(), m_Out, noSuchFolder))
             throw CFileError(file, "lies in the folder for the pages; name another one with --out");
         if (m_Options.m_bIndex && name == kIndexName)
             throw CFileError(file, "would have its page where the index belongs; rename the file");

@@ -44,8 +44,10 @@ void Publish(const CPublishOptions& options, CReport& report) {
     if (!fs::is_directory(options.m_Site))
         return report.Error(options.m_Site.string(), "is no folder; name the folder of the site with --site");
     std::string before;
-    if (!fs::is_regular_file(options.m_Page) || !ReadFileContent(options.m_Page, before))
-        return report.Error(pageName, "can't be read as a page: " + SystemReason());
+    if (fs::exists(options.m_Page) && !fs::is_regular_file(options.m_Page))
+        return report.Error(pageName, "is no file, so it can't be a page");
+    if (!ReadFileContent(options.m_Page, before))
+        return report.Error(pageName, "can't be read: " + SystemReason());
     const CSite site(options.m_Site);
     if (!site.Holds(options.m_Page))
         return report.Error(pageName, "doesn't lie in the site's folder " + options.m_Site.string());

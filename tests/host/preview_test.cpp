@@ -103,12 +103,13 @@ TEST_F(Preview, ClashesAndFilesWithoutAPageAreReportedAndTheRestIsDone) {
     CProgramRun run = Run({"preview", "a/a.cfg", "c/c.cfg", "--out", "out"});
     EXPECT_EQ(run.m_nExitCode, 0) << "the same image twice is no clash: " << run.m_Errors;
 
-    run = Run({"preview", "a/a.cfg", "b/b.cfg", "c/a.cfg", "c/index.cfg", "c/bad.cfg", "c/c.cfg", "--out",
-               "all", "--index"});
+    run = Run({"preview", "a/a.cfg", "b/b.cfg", "c/a.cfg", "c/index.cfg", "c/bad.cfg", "none/x.cfg",
+               "c/c.cfg", "--out", "all", "--index"});
     EXPECT_EQ(run.m_nExitCode, 1);
     for (const char* pMessage :
          {"b/photo.gif", "c/a.cfg: would have its page where that of a/a.cfg is",
-          "c/index.cfg: would have its page where the index belongs", "c/bad.cfg: is no configuration file"})
+          "c/index.cfg: would have its page where the index belongs", "c/bad.cfg: is no configuration file",
+          "none/x.cfg: can't be read: No such file"})
         EXPECT_NE(run.m_Errors.find(pMessage), std::string::npos) << pMessage << "\n" << run.m_Errors;
     EXPECT_EQ(Content("all/photo.gif"), "one");
     EXPECT_TRUE(Exists("all/c.html"));

@@ -279,6 +279,8 @@ TEST_F(Publish, WhatCantBeDoneIsSaid) {
         const char* m_pMessage;
     } cases[] = {
         {{"bad.cfg", "--page", "site/p.html", "--site", "site"}, "bad.cfg: is no configuration file"},
+        {{"x.cfg", "--page", "site/sub", "--site", "site"}, "site/sub: is no file"},
+        {{"a\\b.cfg", "--page", "site/p.html", "--site", "site"}, "a\\b.cfg: has a backslash"},
         {{"x.cfg", "--page", "site/absent.html", "--site", "site"}, "site/absent.html: can't be read"},
         {{"x.cfg", "--page", "site/p.html", "--site", "absent"}, "absent: is no folder"},
         {{"x.cfg", "--page", "elsewhere.html", "--site", "site"}, "elsewhere.html: doesn't lie in the site"},
@@ -292,6 +294,15 @@ TEST_F(Publish, WhatCantBeDoneIsSaid) {
     }
     EXPECT_EQ(Content("site/p.html"), Page("t"));
     EXPECT_EQ(Content("elsewhere.html"), Page("t"));
+
+    // Images that got lost are named, and the rest is done.
+    fs::copy_file(Example("cool_link_rich.cfg"), m_Folder.File("lonely.cfg"));
+    m_Folder.Write("site/p.html", Page("Museum"));
+    const CProgramRun run = PublishTo("site/p.html", "lonely.cfg");
+    EXPECT_EQ(run.m_nExitCode, 1);
+    EXPECT_NE(run.m_Errors.find("\"house.gif\", which is missing"), std::string::npos) << run.m_Errors;
+    EXPECT_NE(Content("site/p.html").find("Home, sweet home"), std::string::npos);
+    EXPECT_TRUE(Exists("site/scripts/select.js"));
 }
 
 // A site on a disk of 256 KiB where the machine lets us make one; elsewhere files can't grow beyond that.
