@@ -68,7 +68,7 @@
             this.chosen = 0;
             this.marked = undefined; // {index, styles}: the row that wears overCss, and what it wore before
             this.typed = { text: "", at: 0 };
-            this.pointer = { x: NaN, y: NaN, bLeftBehind: false };
+            this.bByKeys = false; // a key came last: rows that pass under a resting pointer tell nothing
             this.place = this.place.bind(this);
             this.pressed = this.pressed.bind(this);
             this.prepare();
@@ -115,7 +115,10 @@
                 if (event.target !== list)
                     event.preventDefault();
             });
-            list.addEventListener("mousemove", (event) => this.isLeftBehind(event));
+            list.addEventListener("mousemove", (event) => {
+                this.bByKeys = false;
+                this.over(event);
+            });
         }
 
         setChosen(index) {
@@ -254,14 +257,6 @@
 
         // ---- The pointer ----
 
-        // True while the pointer rests where keys have moved the list away from under it: what the browser then
-        // tells of rows coming and going is none of the visitor's doing.
-        isLeftBehind({ screenX, screenY }) {
-            const bMoved = screenX !== this.pointer.x || screenY !== this.pointer.y;
-            this.pointer = { x: screenX, y: screenY, bLeftBehind: this.pointer.bLeftBehind && !bMoved };
-            return this.pointer.bLeftBehind;
-        }
-
         // The number of the row that an event of the list is about; -1 for none.
         rowOf(event) {
             return this.rows.indexOf(event.target.closest(".brndfn-row"));
@@ -269,12 +264,12 @@
 
         over(event) {
             const index = this.rowOf(event);
-            if (!this.isLeftBehind(event) && this.bOpen && index >= 0)
+            if (!this.bByKeys && this.bOpen && index >= 0)
                 this.mark(index);
         }
 
-        out(event) {
-            if (!this.isLeftBehind(event) && this.bOpen)
+        out() {
+            if (!this.bByKeys && this.bOpen)
                 this.mark(this.chosen);
         }
 
@@ -289,6 +284,7 @@
         key(event) {
             if (event.ctrlKey || event.metaKey)
                 return;
+            this.bByKeys = true;
             const bTyped = event.key.length === 1 && (event.key !== " " || this.isTyping(event));
             if (bTyped ? !this.type(event) : !this.command(event))
                 return;
@@ -325,7 +321,6 @@
         }
 
         moveTo(index) {
-            this.pointer.bLeftBehind = true;
             this.mark(index);
             this.rows[index].scrollIntoView({ block: "nearest" });
         }

@@ -85,7 +85,7 @@
         pressButton(field, button, downBorder, upBorder);
         field.addEventListener("click", () => dropDown.toggle());
         list.addEventListener("mouseover", (event) => dropDown.over(event));
-        list.addEventListener("mouseout", (event) => dropDown.out(event));
+        list.addEventListener("mouseout", () => dropDown.out());
         list.addEventListener("click", (event) => dropDown.click(event));
     };
 })();

@@ -60,7 +60,7 @@
     const ofEvent = () => dropDowns.get(event.currentTarget.parentElement);
     window.LinkoptionClick = () => ofEvent()?.click(event);
     window.LinkoptionOver = () => ofEvent()?.over(event);
-    window.LinkoptionOut = () => ofEvent()?.out(event);
+    window.LinkoptionOut = () => ofEvent()?.out();
 
     // The page's own call comes with the load event, after the last image, and passes over a box without a title.
     brndfn.ready(() => {

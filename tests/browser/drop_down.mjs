@@ -71,15 +71,21 @@ export async function testDropDown({ effect, links, marked }) {
             return id && document.getElementById(id).innerText.trim();
         });
         const at = (index) => links.at(index).text;
+        // Where the list will open, so that it comes up under the resting pointer.
+        const box = await field(page).boundingBox();
+        await page.mouse.move(box.x + 30, box.y + box.height + 80);
         const steps = [
             ["Enter", at(0)], ["ArrowDown", at(1)], ["ArrowUp", at(0)], ["ArrowUp", at(0)], ["End", at(-1)],
-            ["ArrowDown", at(-1)], ["Home", at(0)], ["w", links.find(({ text }) => text.startsWith("W")).text],
+            ["ArrowDown", at(-1)], ["Home", at(0)], ["w", links.find(({ text }) => text.startsWith("W")).text], ["Home", at(0)],
         ];
         await page.keyboard.press("Tab");
         for (const [key, expected] of steps) {
             await page.keyboard.press(key);
+            await page.waitForTimeout(50);
             assert.equal(await active(), expected, `after ${key}`);
         }
+        await page.mouse.move(box.x + 31, box.y + box.height + 80);
+        assert.equal(await active(), at(2), "the pointer counts again when it moves");
         await page.keyboard.press("Escape");
         await closed(page);
         assert.deepEqual(await opened(page), []);
