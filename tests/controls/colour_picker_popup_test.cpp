@@ -21,10 +21,8 @@ public:
         OpenPopup(*m_pPopup);
     }
     ~CPersonAtPopup() override {
-        if (m_bClosed)
-            m_pPopup->OnClosed();
-        else
-            m_pPopup->OnDeactivate(Person());
+        m_pPopup->OnDeactivate(Person());
+        m_pPopup->OnClosed();
     }
 
     CPoint MiddleOf(int nSelection) const {
