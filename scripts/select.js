@@ -50,7 +50,8 @@
         if (!list || dropDowns.has(box) || list.children.length === 0)
             return;
         const own = (name, given) => window[box.className.replace(/select$/, "") + name] ?? given;
-        dropDowns.set(box, makeDropDown(box, list, own("overOptionCss", overCss), own("sizedBorderCss", sizedBorderCss)));
+        const styles = [own("overOptionCss", overCss), own("sizedBorderCss", sizedBorderCss)];
+        dropDowns.set(box, makeDropDown(box, list, ...styles));
     };
 
     window.toggleDropDown = (box) => dropDowns.get(box)?.toggle();

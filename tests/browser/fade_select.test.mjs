@@ -3,22 +3,13 @@ import assert from "node:assert/strict";
 import { field, look, rows, testDropDown } from "./drop_down.mjs";
 import { testBothModes } from "./harness.mjs";
 
-await testDropDown({
-    effect: "fade_select",
-    links: [
-        { text: "Home, sweet home", address: "http://www.vellumark.example/home?from=1,2" },
-        { text: "Library", address: "http://www.vellumark.example/books?kind=old&page=1" },
-        { text: "Write to us", address: "http://www.brindlefen.example/letter" },
-        { text: "No address", address: "" },
-    ],
-    marked: {
-        backgroundColor: "rgb(31, 58, 95)",
-        color: "rgb(255, 255, 255)",
-        borderTopColor: "rgb(255, 215, 0)",
-        borderTopStyle: "dotted",
-        borderTopWidth: "1px",
-        fontSize: "18px",
-    },
+await testDropDown("fade_select", {
+    backgroundColor: "rgb(31, 58, 95)",
+    color: "rgb(255, 255, 255)",
+    borderTopColor: "rgb(255, 215, 0)",
+    borderTopStyle: "dotted",
+    borderTopWidth: "1px",
+    fontSize: "18px",
 });
 
 // The opacities that the list has, starting now, with 25 milliseconds, the time of a step, from one to the next.

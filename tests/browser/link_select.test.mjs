@@ -5,23 +5,14 @@ import path from "node:path";
 import { field, look, noteOpened, opened, rows, testDropDown, together } from "./drop_down.mjs";
 import { givePage, testBothModes } from "./harness.mjs";
 
-await testDropDown({
-    effect: "cool_link",
-    links: [
-        { text: "Home, sweet home", address: "http://www.vellumark.example/home?from=1,2" },
-        { text: "Library", address: "http://www.vellumark.example/books?kind=old&page=1" },
-        { text: "Write to us", address: "http://www.brindlefen.example/letter" },
-        { text: "No address", address: "" },
-    ],
-    marked: {
-        backgroundColor: "rgb(31, 58, 95)",
-        color: "rgb(255, 255, 255)",
-        borderTopColor: "rgb(255, 215, 0)",
-        borderTopStyle: "dotted",
-        borderTopWidth: "1px",
-        paddingLeft: "12px",
-        fontSize: "18px",
-    },
+await testDropDown("cool_link", {
+    backgroundColor: "rgb(31, 58, 95)",
+    color: "rgb(255, 255, 255)",
+    borderTopColor: "rgb(255, 215, 0)",
+    borderTopStyle: "dotted",
+    borderTopWidth: "1px",
+    paddingLeft: "12px",
+    fontSize: "18px",
 });
 
 testBothModes("cool_link_rich", "the items show their images, in their sizes", async ({ page }) => {
