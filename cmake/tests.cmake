@@ -23,9 +23,7 @@ foreach(folder platform core gadgets toolkit controls dialogs)
 endforeach()
 
 if(TARGET orrelix_windows)
-    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
-    orrelix_test_program(qt orrelix_windows Qt6::Widgets Qt6::Test)
-    target_sources(qt_test PRIVATE tests/qt/windows_person.cpp)
+    include(cmake/windows_tests.cmake)
 endif()
 
 find_program(NODE_PROGRAM node)

@@ -5,21 +5,25 @@
 
 namespace {
 
-CSpinButtonCtrl* SpinOfBuddy(const CDialog& dialog, int nEdit) {
-    CSpinButtonCtrl* pFound = nullptr;
+// The control of this kind that goes with the edit box, or null.
+CControl* FindCompanion(const CDialog& dialog, int nEdit, ControlKind kind) {
+    CControl* pFound = nullptr;
     ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
-        if (control.m_Kind == ControlKind::Spin && control.m_nBuddy == nEdit)
-            pFound = &dialog.Item<CSpinButtonCtrl>(control.m_nId);
+        if (control.m_Kind == kind && control.m_nBuddy == nEdit)
+            pFound = dialog.FindItem(control.m_nId);
     });
     return pFound;
 }
 
 CAdapterPtr MakeEditOrNumber(const CControlDescription& description, CDialog& dialog, CStage& stage,
                              QWidget& parent) {
-    CEdit& edit = dialog.Item<CEdit>(description.m_nId);
-    CSpinButtonCtrl* pSpin = SpinOfBuddy(dialog, description.m_nId);
-    return pSpin ? MakeNumberAdapter(edit, *pSpin, stage, parent)
-                 : MakeEditAdapter(edit, description, stage, parent);
+    const int nId = description.m_nId;
+    CEdit& edit = dialog.Item<CEdit>(nId);
+    if (CControl* pSpin = FindCompanion(dialog, nId, ControlKind::Spin))
+        return MakeNumberAdapter(edit, static_cast<CSpinButtonCtrl&>(*pSpin), stage, parent);
+    const bool bShort =
+        description.Has(STYLE_DIGITS) || FindCompanion(dialog, nId, ControlKind::OwnerDrawnButton);
+    return MakeEditAdapter(edit, description, bShort, stage, parent);
 }
 
 CAdapterPtr MakeByKind(const CControlDescription& description, CDialog& dialog, CStage& stage,

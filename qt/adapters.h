@@ -16,7 +16,8 @@ using CAdapterPtr = std::unique_ptr<CControlAdapter>;
 
 CAdapterPtr MakeStaticAdapter(CStatic& text, const CControlDescription& description, CStage& stage,
                               QWidget& parent);
-CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, CStage& stage,
+// bShort: what the box is meant for is a number or a colour.
+CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
                             QWidget& parent);
 // One box with arrows for the two controls.
 CAdapterPtr MakeNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent);

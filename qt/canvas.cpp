@@ -68,7 +68,7 @@ void CQtCanvas::DrawLine(CPoint from, CPoint to, CColour colour) {
 void CQtCanvas::DrawEdge(const CRect& rect, unsigned nStyle, unsigned nFlags) {
     const QPalette& palette = m_Widget.palette();
     const QColor light = palette.color(QPalette::Light), midlight = palette.color(QPalette::Midlight),
-                 mid = palette.color(QPalette::Mid), dark = palette.color(QPalette::Dark);
+                 dark = palette.color(QPalette::Dark);
     QRect inside = ToQt(rect);
     if (nStyle & (EDGE_RAISED_OUTER | EDGE_SUNKEN_OUTER)) {
         const bool bRaised = (nStyle & EDGE_RAISED_OUTER) != 0;
@@ -77,7 +77,7 @@ void CQtCanvas::DrawEdge(const CRect& rect, unsigned nStyle, unsigned nFlags) {
     }
     if (nStyle & (EDGE_RAISED_INNER | EDGE_SUNKEN_INNER)) {
         const bool bRaised = (nStyle & EDGE_RAISED_INNER) != 0;
-        DrawSides(inside, bRaised ? light : dark, bRaised ? mid : midlight, nFlags);
+        DrawSides(inside, bRaised ? light : dark, bRaised ? dark : midlight, nFlags);
     }
 }
 

@@ -85,34 +85,41 @@ public:
     CDialogLayout(QWidget& window, const CPlaceControl& place) : m_Window(window), m_Place(place) {}
 
     void Fill(const CDialogItem& content) {
-        LayOutColumn(content, m_Window);
-        QWidget* pBefore = nullptr;
-        for (QWidget* pStop : m_TabStops) {
-            if (pBefore)
-                QWidget::setTabOrder(pBefore, pStop);
-            pBefore = pStop;
-        }
+        if (content.m_Kind == Kind::Column)
+            LayOutColumn(content, m_Window);
+        else
+            LayOutColumn({Kind::Column, "", {}, {content}}, m_Window);
+        for (size_t nStop = 1; nStop < m_TabStops.size(); ++nStop)
+            QWidget::setTabOrder(m_TabStops[nStop - 1], m_TabStops[nStop]);
     }
 
 private:
+    // A grid with a label and a box in turn, as many pairs as the longest row has.
+    struct CGrid {
+        QGridLayout& m_Layout;
+        QWidget& m_Parent;
+        int m_nColumns;
+        bool m_bButtons; // nothing but buttons in it, which are all as wide as the widest
+    };
+
     void LayOutColumn(const CDialogItem& column, QWidget& parent) {
-        auto* pGrid = new QGridLayout(&parent);
-        if (&parent != &m_Window && column.m_Kind != Kind::Group)
-            pGrid->setContentsMargins(0, 0, 0, 0);
         std::vector<std::vector<CField>> rows;
-        size_t nWidest = 1;
+        size_t nPairs = 1;
         for (const CDialogItem& item : column.m_Items) {
             CollectFields(item, rows.emplace_back());
             if (IsFormRow(rows.back()))
-                nWidest = std::max(nWidest, rows.back().size());
+                nPairs = std::max(nPairs, rows.back().size());
         }
-        const int nColumns = static_cast<int>(nWidest) * 2; // a label and a box each
-        for (int nColumn = 1; nColumn < nColumns; nColumn += 2)
-            pGrid->setColumnStretch(nColumn, 1);
+        auto* pLayout = new QGridLayout(&parent);
+        if (&parent != &m_Window && column.m_Kind != Kind::Group)
+            pLayout->setContentsMargins(0, 0, 0, 0);
+        const CGrid grid{*pLayout, parent, static_cast<int>(nPairs) * 2, HasOnlyButtons(column)};
+        for (int nBoxes = 1; nBoxes < grid.m_nColumns; nBoxes += 2)
+            pLayout->setColumnStretch(nBoxes, 1);
         for (size_t nRow = 0; nRow < rows.size(); ++nRow)
-            AddRow(*pGrid, column.m_Items[nRow], rows[nRow], nColumns, parent, HasOnlyButtons(column));
-        if (!GrowsDown(column))
-            SpreadBelow(*pGrid, IsClosingRow(column.m_Items.back()));
+            AddRow(grid, column.m_Items[nRow], rows[nRow]);
+        if (!GrowsDown(column) && &parent != &m_Window)
+            pLayout->setRowStretch(pLayout->rowCount(), 1);
     }
 
     static bool IsFormRow(const std::vector<CField>& fields) {
@@ -120,83 +127,70 @@ private:
                            [](const CField& field) { return field.HasLabel() && !IsList(field.First()); });
     }
 
-    // Where nothing grows, height that is left over goes below, or above the closing buttons.
-    static void SpreadBelow(QGridLayout& grid, bool bAboveLast) {
-        const int nRow = grid.rowCount();
-        if (!bAboveLast)
-            grid.setRowStretch(nRow, 1);
-    }
-
-    void AddRow(QGridLayout& grid, const CDialogItem& item, const std::vector<CField>& fields, int nColumns,
-                QWidget& parent, bool bAmongButtons) {
-        const int nRow = grid.rowCount();
-        if (IsClosingRow(item)) {
-            grid.setRowMinimumHeight(nRow, grid.verticalSpacing());
-            grid.setRowStretch(nRow, GrowsDownBefore(grid) ? 0 : 1);
-            grid.addWidget(ClosingButtons(item, parent), nRow + 1, 0, 1, nColumns);
-        } else if (IsFormRow(fields)) {
-            AddFormRow(grid, nRow, fields, nColumns, parent);
-        } else if (fields.size() == 1) {
-            AddSingle(grid, nRow, fields.front(), nColumns, parent, bAmongButtons);
-        } else {
-            grid.addLayout(Line(item.m_Items, parent), nRow, 0, 1, nColumns);
-        }
+    void AddRow(const CGrid& grid, const CDialogItem& item, const std::vector<CField>& fields) {
+        const int nRow = grid.m_Layout.rowCount();
+        if (IsClosingRow(item))
+            AddClosingButtons(grid, item);
+        else if (IsFormRow(fields))
+            AddFormRow(grid, nRow, fields);
+        else if (fields.size() == 1)
+            AddSingle(grid, nRow, fields.front());
+        else
+            grid.m_Layout.addLayout(Line(item.m_Items, grid.m_Parent), nRow, 0, 1, grid.m_nColumns);
         if (GrowsDown(item))
-            grid.setRowStretch(grid.rowCount() - 1, 1);
+            grid.m_Layout.setRowStretch(grid.m_Layout.rowCount() - 1, 1);
     }
 
-    static bool GrowsDownBefore(const QGridLayout& grid) {
-        for (int nRow = 0; nRow < grid.rowCount(); ++nRow) {
-            if (grid.rowStretch(nRow) > 0)
-                return true;
-        }
-        return false;
+    // Height that no list takes goes between the rest and the closing buttons.
+    void AddClosingButtons(const CGrid& grid, const CDialogItem& row) {
+        const int nGap = grid.m_Layout.rowCount();
+        bool bGrows = false;
+        for (int nRow = 0; nRow < nGap; ++nRow)
+            bGrows |= grid.m_Layout.rowStretch(nRow) > 0;
+        grid.m_Layout.setRowMinimumHeight(nGap, grid.m_Layout.verticalSpacing());
+        grid.m_Layout.setRowStretch(nGap, bGrows ? 0 : 1);
+        grid.m_Layout.addWidget(ClosingButtons(row, grid.m_Parent), nGap + 1, 0, 1, grid.m_nColumns);
     }
 
-    void AddFormRow(QGridLayout& grid, int nRow, const std::vector<CField>& fields, int nColumns,
-                    QWidget& parent) {
+    void AddFormRow(const CGrid& grid, int nRow, const std::vector<CField>& fields) {
         for (size_t nField = 0; nField < fields.size(); ++nField) {
             const CField& field = fields[nField];
             const int nColumn = static_cast<int>(nField) * 2;
-            const bool bLast = nField + 1 == fields.size();
-            const int nEnd = bLast ? nColumns : nColumn + 2;
-            const int nBox = field.HasLabel() ? nColumn + 1 : nColumn;
-            QLabel* pLabel = field.HasLabel() ? MakeLabel(field.First().m_Control, parent) : nullptr;
-            const bool bDown = GrowsDown(field.First());
+            const int nEnd = nField + 1 == fields.size() ? grid.m_nColumns : nColumn + 2;
+            QLabel* pLabel = MakeLabel(field, grid.m_Parent);
             if (pLabel)
-                grid.addWidget(pLabel, nRow, nColumn, bDown ? Qt::AlignTop : LabelAlignment(parent));
-            AddBox(grid, field, nRow, nBox, nEnd - nBox, parent, pLabel);
+                grid.m_Layout.addWidget(pLabel, nRow, nColumn, LabelAlignment(field, grid.m_Parent));
+            AddField(grid, field, nRow, pLabel ? nColumn + 1 : nColumn, nEnd, pLabel);
         }
-    }
-
-    void AddBox(QGridLayout& grid, const CField& field, int nRow, int nColumn, int nSpan, QWidget& parent,
-                QLabel* pLabel) {
-        if (field.m_Items.size() == 1) {
-            QWidget* pPlaced = Place(field.First(), parent, pLabel);
-            const bool bButton = IsControl(field.First(), ControlKind::Button);
-            grid.addWidget(pPlaced, nRow, nColumn, 1, nSpan, bButton ? Qt::AlignLeft : Qt::Alignment());
-            return;
-        }
-        auto* pLine = new QHBoxLayout;
-        for (const CDialogItem* pItem : field.m_Items) {
-            QWidget* pPlaced = Place(*pItem, parent, pItem == field.m_Items.front() ? pLabel : nullptr);
-            if (pPlaced)
-                pLine->addWidget(pPlaced, pLine->isEmpty() ? 1 : 0);
-        }
-        grid.addLayout(pLine, nRow, nColumn, 1, nSpan);
     }
 
     // A row of one item without a label at its side: a group, a list below its label, a button, a text.
-    void AddSingle(QGridLayout& grid, int nRow, const CField& field, int nColumns, QWidget& parent,
-                   bool bAmongButtons) {
-        if (field.m_Items.size() > 1)
-            return AddBox(grid, field, nRow, 0, nColumns, parent, nullptr);
-        QLabel* pLabel = field.HasLabel() ? MakeLabel(field.First().m_Control, parent) : nullptr;
+    void AddSingle(const CGrid& grid, int nRow, const CField& field) {
+        QLabel* pLabel = MakeLabel(field, grid.m_Parent);
         if (pLabel)
-            grid.addWidget(pLabel, nRow++, 0, 1, nColumns);
-        QWidget* pPlaced = Place(field.First(), parent, pLabel);
-        const bool bLeft = IsButton(field.First()) && !bAmongButtons;
-        grid.addWidget(pPlaced, nRow, 0, 1, nColumns, bLeft ? Qt::AlignLeft : Qt::Alignment());
+            grid.m_Layout.addWidget(pLabel, nRow++, 0, 1, grid.m_nColumns);
+        AddField(grid, field, nRow, 0, grid.m_nColumns, pLabel);
+    }
+
+    void AddField(const CGrid& grid, const CField& field, int nRow, int nColumn, int nEnd, QLabel* pLabel) {
+        if (field.m_Items.size() > 1) {
+            grid.m_Layout.addLayout(BoxAndMore(field, grid.m_Parent, pLabel), nRow, nColumn, 1,
+                                    nEnd - nColumn);
+            return;
+        }
+        const bool bLeft = IsControl(field.First(), ControlKind::Button) && !grid.m_bButtons;
+        grid.m_Layout.addWidget(Place(field.First(), grid.m_Parent, pLabel), nRow, nColumn, 1, nEnd - nColumn,
+                                bLeft ? Qt::AlignLeft : Qt::Alignment());
+    }
+
+    QHBoxLayout* BoxAndMore(const CField& field, QWidget& parent, QLabel* pLabel) {
+        auto* pLine = new QHBoxLayout;
+        pLine->addWidget(Place(field.First(), parent, pLabel), 1);
+        for (size_t nItem = 1; nItem < field.m_Items.size(); ++nItem) {
+            if (QWidget* pPlaced = Place(*field.m_Items[nItem], parent, nullptr))
+                pLine->addWidget(pPlaced);
+        }
+        return pLine;
     }
 
     // Boxes and controls side by side.
@@ -205,7 +199,11 @@ private:
         bool bGrows = false;
         for (const CDialogItem& item : items) {
             bGrows |= GrowsAcross(item);
-            if (QWidget* pPlaced = Place(item, parent, nullptr))
+            // A list brings the label above it along.
+            const bool bLabel = IsList(item) && *item.m_Control.m_pLabel;
+            QWidget* pPlaced =
+                Place(bLabel ? CDialogItem{Kind::Column, "", {}, {item}} : item, parent, nullptr);
+            if (pPlaced)
                 pLine->addWidget(pPlaced, GrowsAcross(item) ? 1 : 0);
         }
         if (!bGrows)
@@ -239,13 +237,18 @@ private:
         return placed.m_pPlaced;
     }
 
-    static QLabel* MakeLabel(const CControlDescription& control, QWidget& parent) {
-        auto* pLabel = new QLabel(ToQt(control.m_pLabel), &parent);
+    // Null where the field has none.
+    static QLabel* MakeLabel(const CField& field, QWidget& parent) {
+        if (!field.HasLabel())
+            return nullptr;
+        auto* pLabel = new QLabel(ToQt(field.First().m_Control.m_pLabel), &parent);
         pLabel->setTextFormat(Qt::PlainText);
         return pLabel;
     }
 
-    static Qt::Alignment LabelAlignment(const QWidget& parent) {
+    static Qt::Alignment LabelAlignment(const CField& field, const QWidget& parent) {
+        if (GrowsDown(field.First()))
+            return Qt::AlignTop;
         const int nStyle = parent.style()->styleHint(QStyle::SH_FormLayoutLabelAlignment, nullptr, &parent);
         return Qt::Alignment(nStyle) | Qt::AlignVCenter;
     }

@@ -24,6 +24,8 @@ CDialogWindow::CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent)
 
 CDialogWindow::~CDialogWindow() {
     m_Dialog.SetObserver(nullptr);
+    if (QWidget* pFocus = focusWidget()) // a button that loses it on its way looks at others that may be gone
+        pFocus->clearFocus();
     delete m_pContent; // while the adapters are there to listen
 }
 

@@ -5,10 +5,33 @@
 
 namespace {
 
+// What a box has room for, in characters: a colour or a number; an address.
+constexpr int kShortText = 7;
+constexpr int kUsualText = 32;
+
+class CLineBox : public QLineEdit {
+public:
+    CLineBox(QWidget* pParent, int nCharacters) : QLineEdit(pParent), m_nCharacters(nCharacters) {}
+
+    QSize sizeHint() const override { return {WidthOf(m_nCharacters), QLineEdit::sizeHint().height()}; }
+    QSize minimumSizeHint() const override {
+        return {WidthOf(qMin(m_nCharacters, kShortText)), QLineEdit::minimumSizeHint().height()};
+    }
+
+private:
+    int WidthOf(int nCharacters) const {
+        return fontMetrics().horizontalAdvance(QString(nCharacters, '0')) +
+               fontMetrics().averageCharWidth() * 2;
+    }
+
+    int m_nCharacters;
+};
+
 class CLineAdapter : public CControlAdapter {
 public:
-    CLineAdapter(CEdit& edit, const CControlDescription& description, CStage& stage, QWidget& parent)
-        : CControlAdapter(edit, stage), m_pBox(new QLineEdit(&parent)) {
+    CLineAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
+                 QWidget& parent)
+        : CControlAdapter(edit, stage), m_pBox(new CLineBox(&parent, bShort ? kShortText : kUsualText)) {
         if (description.Has(STYLE_DIGITS))
             m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
         connect(m_pBox, &QLineEdit::textEdited, this, [this, &edit](const QString& text) {
@@ -21,7 +44,7 @@ public:
     void ShowAll() override { ShowText(*m_pBox, ToQt(Control().GetWindowText())); }
 
 private:
-    QLineEdit* m_pBox;
+    CLineBox* m_pBox;
 };
 
 class CTextArea : public QPlainTextEdit {
@@ -67,9 +90,9 @@ private:
 
 } // namespace
 
-CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, CStage& stage,
+CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
                             QWidget& parent) {
     if (edit.IsMultiLine())
         return std::make_unique<CTextAreaAdapter>(edit, stage, parent);
-    return std::make_unique<CLineAdapter>(edit, description, stage, parent);
+    return std::make_unique<CLineAdapter>(edit, description, bShort, stage, parent);
 }

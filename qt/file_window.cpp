@@ -41,7 +41,7 @@ void CFileWindow::AddEdit(CEdit& edit) {
     auto* pLabel = new QLabel(ToQt(m_Dialog.GetAddedLabel()), this);
     auto* pBox = new QLineEdit(ToQt(edit.GetWindowText()), this);
     pLabel->setBuddy(pBox);
-    pBox->setAccessibleName(ToQt(WithoutMnemonic(m_Dialog.GetAddedLabel())));
+    pBox->setAccessibleName(ToQt(AccessibleNameOf({.m_pLabel = m_Dialog.GetAddedLabel()})));
     connect(pBox, &QLineEdit::textEdited, this,
             [this, &edit](const QString& text) { edit.PersonTypes(m_Key, FromQt(text)); });
     if (auto* pGrid = qobject_cast<QGridLayout*>(layout())) {

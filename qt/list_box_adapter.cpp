@@ -26,7 +26,7 @@ public:
         setEditTriggers(NoEditTriggers);
     }
 
-    QSize sizeHint() const override { return OfRows(32, 8); }
+    QSize sizeHint() const override { return OfRows(32, 10); }
     QSize minimumSizeHint() const override { return OfRows(16, 4); }
 
 private:

@@ -3,8 +3,12 @@
 #include <QApplication>
 #include <QThread>
 
+bool IsWindowThread() {
+    return QThread::currentThread() == qApp->thread();
+}
+
 int RunModal(QDialog& window) {
-    if (QThread::currentThread() != qApp->thread() || window.isVisible())
+    if (window.isVisible())
         return QDialog::Rejected;
     // A host that quits with its last window means one of its own.
     window.setAttribute(Qt::WA_QuitOnClose, false);

@@ -35,7 +35,7 @@ CPopupFrame::CPopupFrame(CPopupWindow& popup, CPersonKey key, QWidget* pParent, 
         setAccessibleName(pButton->accessibleName());
     const QRect rect = ToQt(popup.GetWindowRect());
     setFixedSize(rect.size());
-    move(PlaceOnScreen(rect));
+    setGeometry(QRect(PlaceOnScreen(rect), rect.size()));
     popup.SetObserver(this);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive)

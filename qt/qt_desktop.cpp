@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int EDGE = 2; // the two lines of CQtCanvas::DrawEdge
+constexpr int kEdge = 2; // the two lines of CQtCanvas::DrawEdge
 
 // A window that goes with the scope, unless its parent has taken it along before.
 template <class TWindow>
@@ -54,6 +54,13 @@ CQtDesktop::CQtDesktop() = default;
 CQtDesktop::~CQtDesktop() = default;
 
 void CQtDesktop::RunDialog(CDialog& dialog) {
+    if (IsWindowThread())
+        ShowDialog(dialog);
+    if (!dialog.HasEnded()) // the host quits, or took away the window that this one belonged to
+        dialog.PersonCloses(Person());
+}
+
+void CQtDesktop::ShowDialog(CDialog& dialog) {
     std::exception_ptr pFailure;
     {
         CScopedWindow window(new CDialogWindow(dialog, Person(), WindowInUse()));
@@ -67,12 +74,12 @@ void CQtDesktop::RunDialog(CDialog& dialog) {
     }
     if (pFailure)
         std::rethrow_exception(pFailure);
-    if (!dialog.HasEnded()) // the host quits, or took away the window that this one belonged to
-        dialog.PersonCloses(Person());
 }
 
 int CQtDesktop::ShowMessageBox(const CString& text, MessageBoxKind kind) {
     const bool bCancel = kind == MessageBoxKind::OkCancel;
+    if (!IsWindowThread())
+        return bCancel ? IDCANCEL : IDOK;
     QWidget* pParent = WindowInUse();
     CScopedWindow box(new QMessageBox(IconOf(kind), pParent ? pParent->windowTitle() : QString(),
                                       LinesToQt(text), QMessageBox::Ok, pParent));
@@ -84,11 +91,15 @@ int CQtDesktop::ShowMessageBox(const CString& text, MessageBoxKind kind) {
 }
 
 bool CQtDesktop::RunFileDialog(CFileDialog& dialog) {
+    if (!IsWindowThread())
+        return false;
     CScopedWindow window(new CFileWindow(dialog, Person(), WindowInUse()));
     return RunModal(*window) == QDialog::Accepted && window && window->TakeOver();
 }
 
 bool CQtDesktop::RunColourDialog(CColour& colour) {
+    if (!IsWindowThread())
+        return false;
     if (m_pPopup)
         m_pPopup->hide(); // it holds the mouse
     CScopedWindow window(new QColorDialog(ToQt(colour), WindowInUse()));
@@ -126,7 +137,7 @@ CScreenMetrics CQtDesktop::GetMetrics() const {
     const int nThumb = QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     // A button that measures itself by the thumb comes out as high as the edit box beside it.
     const int nBox = QLineEdit().sizeHint().height();
-    return {{screens.right() + 1, screens.bottom() + 1}, {EDGE, EDGE}, {nThumb, nBox - 2 * EDGE}};
+    return {{screens.right() + 1, screens.bottom() + 1}, {kEdge, kEdge}, {nThumb, nBox - 2 * kEdge}};
 }
 
 CSize CQtDesktop::MeasureText(const CString& text) const {

@@ -10,7 +10,6 @@
 
 class CDialogWindow;
 class CPopupFrame;
-class QDialog;
 
 class CQtDesktop : public CDesktop {
 public:
@@ -30,6 +29,8 @@ public:
     CStringArray GetFontFamilies() const override;
 
 private:
+    void ShowDialog(CDialog& dialog);
+
     std::vector<QPointer<CDialogWindow>> m_Windows; // the running ones, the innermost last
     QPointer<CPopupFrame> m_pPopup;
 };

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int UTF_8 = 65001;
-constexpr char16_t FIRST_ESCAPE = 0xDC00; // and the byte
+constexpr int kUtf8 = 65001;
+constexpr char16_t kFirstEscape = 0xDC00; // and the byte
 
 QByteArray NameOfCodePage(int nCodePage) {
     if (nCodePage == 20866)
@@ -35,7 +35,7 @@ QString WithEscapes(QByteArrayView bytes) {
         if (nLength > 0)
             text += QString::fromUtf8(bytes.first(nLength));
         else
-            text += QChar(static_cast<char16_t>(FIRST_ESCAPE + static_cast<unsigned char>(bytes[0])));
+            text += QChar(static_cast<char16_t>(kFirstEscape + static_cast<unsigned char>(bytes[0])));
         bytes = bytes.sliced(nLength > 0 ? nLength : 1);
     }
     return text;
@@ -43,7 +43,7 @@ QString WithEscapes(QByteArrayView bytes) {
 
 bool IsEscape(const QString& text, qsizetype nAt) {
     const char16_t character = text[nAt].unicode();
-    const bool bByte = character >= FIRST_ESCAPE + 0x80 && character <= FIRST_ESCAPE + 0xFF;
+    const bool bByte = character >= kFirstEscape + 0x80 && character <= kFirstEscape + 0xFF;
     return bByte && (nAt == 0 || !text[nAt - 1].isHighSurrogate());
 }
 
@@ -54,7 +54,7 @@ QByteArray WithoutEscapes(const QString& text) {
         if (!IsEscape(text, nAt))
             continue;
         bytes += QStringView(text).sliced(nPlain, nAt - nPlain).toUtf8();
-        bytes += static_cast<char>(text[nAt].unicode() - FIRST_ESCAPE);
+        bytes += static_cast<char>(text[nAt].unicode() - kFirstEscape);
         nPlain = nAt + 1;
     }
     return bytes + QStringView(text).sliced(nPlain).toUtf8();
@@ -64,7 +64,7 @@ QByteArray WithoutEscapes(const QString& text) {
 
 QString ToQt(const CString& text) {
     const QByteArrayView bytes(text.View().data(), text.GetLength());
-    if (GetCodePage() == UTF_8)
+    if (GetCodePage() == kUtf8)
         return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : WithEscapes(bytes);
     QStringDecoder decode(NameOfCodePage(GetCodePage()).constData());
     return decode.isValid() ? QString(decode(bytes)) : QString::fromLatin1(bytes);
@@ -72,7 +72,7 @@ QString ToQt(const CString& text) {
 
 CString FromQt(const QString& text) {
     QByteArray bytes;
-    if (GetCodePage() == UTF_8) {
+    if (GetCodePage() == kUtf8) {
         bytes = WithoutEscapes(text);
     } else {
         QStringEncoder encode(NameOfCodePage(GetCodePage()).constData());

@@ -5,12 +5,13 @@ const CDialogDescription& CopyResourcesDescription() {
     using Id = CopyResourcesId;
     static const CDialogDescription description{
         "Copy Resources",
-        Column({Text(Id::Destination, "", STYLE_SUNKEN, "Destination"),
-                ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS, "Files with clashing names"),
-                Row({Button(IDOK, "OK"), Button(Id::Browse, "&Browse ..."), Button(Id::Rename, "&Rename")}),
-                Text(Id::Explanation,
-                     "These files' names have already been used in the destination directory. If you don't "
-                     "rename the destination file's name, the files with same name will be overwritten.")})};
+        Column(
+            {Text(Id::Destination, "", STYLE_SUNKEN, "Destination"),
+             ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS, "Files with clashing names"),
+             Text(Id::Explanation,
+                  "These files' names have already been used in the destination directory. If you don't "
+                  "rename the destination file's name, the files with same name will be overwritten."),
+             Row({Button(IDOK, "OK"), Button(Id::Browse, "&Browse ..."), Button(Id::Rename, "&Rename")})})};
     return description;
 }
 

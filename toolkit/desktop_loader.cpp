@@ -7,6 +7,6 @@ CDesktop* FindWindows() {
     static CFindWindowsFunction* pFindWindows = nullptr;
     if (!pFindWindows && HasScreen())
         pFindWindows =
-            reinterpret_cast<CFindWindowsFunction*>(LoadNeighbour(WINDOWS_LIBRARY, WINDOWS_FUNCTION));
+            reinterpret_cast<CFindWindowsFunction*>(LoadNeighbour(kWindowsLibrary, kWindowsFunction));
     return pFindWindows ? pFindWindows() : nullptr;
 }

@@ -10,5 +10,5 @@ CDesktop* FindWindows();
 
 // The library's one function, with C linkage. It gives the desktop or null and throws nothing.
 using CFindWindowsFunction = CDesktop*();
-constexpr const char* WINDOWS_LIBRARY = "VignelOrrelixQt";
-constexpr const char* WINDOWS_FUNCTION = "OrrelixWindows";
+constexpr const char* kWindowsLibrary = "VignelOrrelixQt";
+constexpr const char* kWindowsFunction = "OrrelixWindows";

@@ -64,6 +64,7 @@ void CListBox::PersonSelects(CPersonKey, int nRow) {
 void CListBox::PersonDoubleClicks(CPersonKey key, int nRow) {
     if (!IsWindowEnabled() || !HasRow(nRow))
         return;
-    PersonSelects(key, nRow);
+    if (nRow != m_nCurSel)
+        PersonSelects(key, nRow);
     NotifyDialog(Notification::DoubleClicked);
 }

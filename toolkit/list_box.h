@@ -26,7 +26,8 @@ public:
 
     // Notifies SelectionChanged, also when the row was selected already, as a click does.
     void PersonSelects(CPersonKey, int nRow);
-    // Selects the row, with its notification, and notifies DoubleClicked.
+    // Selects the row, with its notification, unless the first of the two clicks has done so, and notifies
+    // DoubleClicked.
     void PersonDoubleClicks(CPersonKey key, int nRow);
 
 protected:

@@ -55,6 +55,12 @@ std::vector<int> RowNumbers(const QModelIndexList& indices) {
 } // namespace
 
 void StartQt() {
+    // The offscreen platform complains of what it lacks at each step.
+    static QtMessageHandler const pUsual =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (!message.startsWith("This plugin does not support"))
+                pUsual(type, context, message);
+        });
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     ASSERT_TRUE(EnsureApplication());
@@ -93,17 +99,22 @@ QWidget& CWindowsPerson::WidgetOf(const CTarget& target) {
 }
 
 void CWindowsPerson::RunDialog(CDialog& dialog) {
+    struct CRunning { // also when a handler throws
+        std::vector<CDialog*>& m_Dialogs;
+        ~CRunning() { m_Dialogs.pop_back(); }
+    } running{m_Running};
     m_Running.push_back(&dialog);
     QTimer next;
     QObject::connect(&next, &QTimer::timeout, [this, &dialog] { PlayNext(dialog); });
     next.start(0);
     CQtDesktop::RunDialog(dialog);
-    m_Running.pop_back();
 }
 
 void CWindowsPerson::PlayNext(CDialog& dialog) {
     if (m_Running.back() != &dialog || dialog.HasEnded() || !FrontWindow<CDialogWindow>())
         return;
+    if (!QApplication::activeWindow())
+        return Window().activateWindow(); // as a window manager does when the one before it closes
     if (PlayStep(dialog, *this))
         return;
     if (m_pOpenPopup)
@@ -182,6 +193,7 @@ void CWindowsPerson::SelectRows(const CTarget& target, const std::vector<int>& r
 
 void CWindowsPerson::DoubleClick(const CTarget& target, int nRow) {
     auto& view = As<QAbstractItemView>(target);
+    ClickRow(view, nRow);
     const QPoint place = view.visualRect(view.model()->index(nRow, 0)).center();
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
 }

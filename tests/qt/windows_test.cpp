@@ -1,0 +1,335 @@
+// How the windows behave beyond what every desktop promises: keys, mouse, focus, what a screen reader hears.
+#include "controls/border_dlg.h"
+#include "resources/border_description.h"
+#include "tests/qt/windows_person.h"
+#include "tests/support/everything_dialog.h"
+#include "tests/support/user_settings.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <QTreeView>
+#include <chrono>
+#include <thread>
+
+using promises::CEverythingDlg;
+using promises::Id;
+
+namespace {
+
+template <class TWidget>
+TWidget& Shown(const CDialog& dialog, int nId) {
+    return dynamic_cast<TWidget&>(*CWindowsPerson::Window().WidgetOf(*dialog.FindItem(nId)));
+}
+
+QWidget& Focused() {
+    return *CWindowsPerson::Window().focusWidget();
+}
+
+class Windows : public testing::Test {
+protected:
+    // Runs the dialog, does this in its window and cancels it.
+    void Work(const std::function<void(CDialog&)>& act) {
+        m_Person.In("Everything").Then(act).Clicks("Cancel");
+        EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
+    }
+
+    CWindowsPerson m_Person;
+    CEverythingDlg m_Dialog;
+};
+
+} // namespace
+
+TEST_F(Windows, TheTabKeyGoesThroughTheControlsInTheOrderOfTheDescription) {
+    Work([](CDialog& dialog) {
+        std::vector<std::string> stops, wanted;
+        ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
+            if (control.m_Kind != ControlKind::Static && control.m_Kind != ControlKind::Spin)
+                wanted.push_back(AccessibleNameOf(control).GetString());
+        });
+        for (size_t nStop = 0; nStop < wanted.size(); ++nStop) {
+            stops.push_back(Focused().accessibleName().toStdString());
+            QTest::keyClick(&Focused(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(stops, wanted);
+    });
+}
+
+TEST_F(Windows, AScreenReaderHearsTheNameOfEachControl) {
+    Work([](CDialog& dialog) {
+        ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
+            QWidget* pWidget = CWindowsPerson::Window().WidgetOf(*dialog.FindItem(control.m_nId));
+            if (!pWidget)
+                return; // a spin control is heard as its box
+            QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(pWidget);
+            if (control.m_Kind == ControlKind::ComboBox) // its name is its text, and the label what it belongs to
+                pHeard = pHeard->relations(QAccessible::Label).value(0).first;
+            ASSERT_TRUE(pHeard) << AccessibleNameOf(control);
+            const QString name = pHeard->text(QAccessible::Name).remove(':');
+            EXPECT_EQ(name.toStdString(), AccessibleNameOf(control).GetString());
+        });
+    });
+}
+
+TEST_F(Windows, AMnemonicLeadsToItsBoxOrPressesItsButton) {
+    Work([this](CDialog& dialog) {
+        QTest::keyClick(&Focused(), Qt::Key_I, Qt::AltModifier);
+        EXPECT_EQ(&Focused(), &Shown<QWidget>(dialog, Id::List));
+        QTest::keyClick(&Focused(), Qt::Key_K, Qt::AltModifier);
+        EXPECT_EQ(&Focused(), &Shown<QWidget>(dialog, Id::Kind));
+        m_Dialog.m_OnMore = [](CEverythingDlg& clicked) { clicked.m_Log += "more "; };
+        QTest::keyClick(&Focused(), Qt::Key_M, Qt::AltModifier);
+        QTest::qWait(200); // the button is seen to be pressed
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "more ");
+}
+
+TEST_F(Windows, TheCursorStaysWhereThePersonTypes) {
+    Work([](CDialog& dialog) {
+        auto& digits = Shown<QLineEdit>(dialog, Id::Digits);
+        digits.setFocus();
+        QTest::keyClicks(&digits, "1x23");
+        QTest::keyClick(&digits, Qt::Key_Left);
+        QTest::keyClicks(&digits, "y4");
+        EXPECT_EQ(digits.text(), "1243");
+        auto& kind = Shown<QComboBox>(dialog, Id::Kind); // becomes a row's text on the way
+        ReplaceText(kind, "ren");
+        QTest::keyClick(&kind, Qt::Key_Left);
+        QTest::keyClicks(&kind, "d");
+        QTest::keyClick(&kind, Qt::Key_Delete);
+        EXPECT_EQ(kind.currentIndex(), 2);
+        QTest::keyClicks(&kind, "dish");
+        EXPECT_EQ(kind.currentText(), "reddish");
+        EXPECT_EQ(kind.currentIndex(), -1);
+    });
+}
+
+TEST_F(Windows, AnEditBoxOfSeveralLinesKeepsTheEnterKeyAndGivesAwayTheTabKey) {
+    m_Person.In("Everything").Types("Lines:", "").Then([](CDialog& dialog) {
+        QTest::keyClicks(&Shown<QWidget>(dialog, Id::Lines), "a");
+        QTest::keyClick(&Focused(), Qt::Key_Return);
+        QTest::keyClicks(&Focused(), "b");
+        QTest::keyClick(&Focused(), Qt::Key_Tab);
+        EXPECT_EQ(&Focused(), &Shown<QWidget>(dialog, Id::Digits));
+        QTest::keyClick(&Focused(), Qt::Key_Return);
+    });
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Lines, "a\r\nb");
+}
+
+TEST_F(Windows, AWheelThatPassesOverABoxChangesNothing) {
+    Work([](CDialog& dialog) {
+        for (int nId : {+Id::Number, +Id::Kind}) {
+            auto& box = Shown<QWidget>(dialog, nId);
+            QWheelEvent turn({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                             Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&box, &turn);
+        }
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "");
+}
+
+TEST_F(Windows, TheArrowsOfANumberAreInItsBox) {
+    Work([](CDialog& dialog) {
+        auto& box = Shown<QAbstractSpinBox>(dialog, Id::Number);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, {box.width() - 6, box.height() / 4});
+        EXPECT_EQ(box.text(), "13");
+        QTest::mouseClick(&box, Qt::LeftButton, {}, {box.width() - 6, box.height() * 3 / 4});
+        EXPECT_EQ(box.text(), "12");
+    });
+}
+
+TEST_F(Windows, AComboBoxIsWorkedByKeysAndEnterInItsEditPartPressesTheDefaultButton) {
+    m_Person.In("Everything").Types("Kind:", "red").Then([this](CDialog& dialog) {
+        auto& kind = Shown<QComboBox>(dialog, Id::Kind);
+        QTest::keyClick(&kind, Qt::Key_Up);
+        EXPECT_EQ(kind.currentText(), "green");
+        EXPECT_EQ(m_Dialog.m_Log, "list closed ");
+        QTest::keyClick(&kind, Qt::Key_Return);
+    });
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Kind, "green");
+    EXPECT_EQ(m_Dialog.m_Log, "list closed ");
+}
+
+TEST_F(Windows, AListTellsOfNothingThatNobodyChose) {
+    Work([this](CDialog& dialog) {
+        Shown<QWidget>(dialog, Id::List).setFocus(Qt::TabFocusReason);
+        Shown<QWidget>(dialog, Id::View).setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(m_Dialog.m_Log, "");
+        auto& list = Shown<QAbstractItemView>(dialog, Id::List);
+        ClickRow(list, 1);
+        ClickRow(list, 1, Qt::ControlModifier); // doesn't take the selection away
+        EXPECT_TRUE(list.selectionModel()->isRowSelected(1));
+        dialog.Item<CListBox>(Id::List).DeleteString(1);
+        EXPECT_FALSE(list.selectionModel()->hasSelection()); // no neighbour comes in for it
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "selected selected ");
+}
+
+TEST_F(Windows, RowsOfAListViewAreSelectedByKeysAndTheOtherMouseButton) {
+    Work([this](CDialog& dialog) {
+        const CListCtrl& rows = dialog.Item<CListCtrl>(Id::View);
+        auto& view = Shown<QTreeView>(dialog, Id::View);
+        view.setFocus();
+        const QPoint place = view.visualRect(view.model()->index(1, 1)).center();
+        QTest::mouseClick(view.viewport(), Qt::RightButton, {}, place);
+        EXPECT_TRUE(rows.IsSelected(1));
+        QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+        EXPECT_EQ(rows.GetSelectedCount(), 2);
+        EXPECT_EQ(rows.GetFocusedItem(), 2);
+        QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(rows.GetSelectedCount(), 3);
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "view view view ");
+}
+
+TEST_F(Windows, ALabelIsEditedByItsKeyAndTakenOverWhenThePersonGoesElsewhere) {
+    m_Person.In("Everything").SelectsRow("View:", 2).Then([](CDialog& dialog) {
+        auto& view = Shown<QTreeView>(dialog, Id::View);
+        view.setFocus();
+        QTest::keyClick(&view, Qt::Key_F2);
+        ReplaceText(Focused(), "third");
+        Shown<QWidget>(dialog, Id::Text).setFocus();
+        EXPECT_EQ(dialog.Item<CListCtrl>(Id::View).GetItemText(2, 0), "third");
+        view.setFocus();
+        QTest::keyClick(&view, Qt::Key_F2);
+        ReplaceText(Focused(), "last");
+        QTest::mouseClick(&Shown<QPushButton>(dialog, IDOK), Qt::LeftButton);
+    });
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Log, "view label edited label edited ");
+}
+
+TEST_F(Windows, EscapeEndsTheInnermostThingFirst) {
+    Work([this](CDialog& dialog) {
+        QTest::keyClick(&Shown<QComboBox>(dialog, Id::Kind), Qt::Key_F4);
+        QTest::keyClick(Shown<QComboBox>(dialog, Id::Kind).view(), Qt::Key_Escape);
+        ClickRow(Shown<QTreeView>(dialog, Id::View), 0);
+        QTest::keyClick(&Shown<QTreeView>(dialog, Id::View), Qt::Key_F2);
+        QTest::keyClick(&Focused(), Qt::Key_Escape);
+        EXPECT_FALSE(dialog.HasEnded());
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "view label kept list closed ");
+}
+
+TEST_F(Windows, APopupThatIsLeftOrThatItsDialogLeavesIsClosed) {
+    m_Person.In("Everything")
+        .OpensColours("Colour:")
+        .Then([](CDialog&) { QApplication::activePopupWidget()->hide(); })
+        .OpensColours("Colour:")
+        .Then([](CDialog&) {
+            QWidget* pPopup = QApplication::activePopupWidget();
+            QTest::mouseClick(pPopup, Qt::RightButton, {}, {200, 5});
+            EXPECT_TRUE(pPopup->isVisible());
+            QTest::mouseClick(pPopup, Qt::LeftButton, {}, {200, 5});
+        })
+        .OpensColours("Colour:")
+        .Then([](CDialog&) { CWindowsPerson::Window().done(0); });
+    EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(m_Dialog.m_Log, "left closed picked closed left closed ");
+}
+
+TEST_F(Windows, TheProgramsRowsComeUpAndGoWithoutAFreshList) {
+    m_Dialog.m_nRows = 5000;
+    Work([](CDialog& dialog) {
+        auto& view = Shown<QAbstractItemView>(dialog, Id::View);
+        QSignalSpy resets(view.model(), &QAbstractItemModel::modelReset);
+        for (int nRow = 0; nRow < 100; ++nRow)
+            dialog.Item<CListCtrl>(Id::View).DeleteItem(4000);
+        dialog.Item<CListCtrl>(Id::View).InsertItem(7, "new");
+        EXPECT_EQ(view.model()->rowCount(), 4901);
+        EXPECT_EQ(view.model()->index(7, 0).data().toString(), "new");
+        EXPECT_EQ(view.model()->index(4100, 0).data().toString(), "item 4199");
+        EXPECT_EQ(resets.count(), 0);
+    });
+}
+
+TEST_F(Windows, WhatAHandlerThrowsComesOutOfDoModal) {
+    m_Dialog.m_OnMore = [](CEverythingDlg&) {
+        CEverythingDlg inner;
+        inner.m_OnMore = [](CEverythingDlg&) { throw std::bad_alloc(); };
+        inner.DoModal();
+        ADD_FAILURE() << "the inner dialog came back";
+    };
+    m_Person.In("Everything").Clicks("More...").Clicks("More...");
+    EXPECT_THROW(m_Dialog.DoModal(), std::bad_alloc);
+}
+
+TEST_F(Windows, ADialogWhoseHostGoesAwayIsCancelled) {
+    auto* pHostWindow = new QWidget;
+    pHostWindow->show();
+    pHostWindow->activateWindow();
+    QApplication::processEvents();
+    m_Person.In("Everything").Then([&](CDialog&) {
+        ASSERT_EQ(CWindowsPerson::Window().parentWidget(), pHostWindow);
+        delete pHostWindow;
+    });
+    EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
+}
+
+TEST_F(Windows, TheHostsOwnWindowsAreKeptFromThePersonMeanwhile) {
+    QPushButton hostButton("host");
+    int nClicks = 0;
+    QObject::connect(&hostButton, &QPushButton::clicked, [&] { ++nClicks; });
+    hostButton.show();
+    QTest::mouseClick(hostButton.windowHandle(), Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(nClicks, 1);
+    Work([&](CDialog&) { QTest::mouseClick(hostButton.windowHandle(), Qt::LeftButton, {}, {5, 5}); });
+    EXPECT_EQ(nClicks, 1);
+}
+
+TEST_F(Windows, OffTheirThreadDialogsAreCancelled) {
+    CQtDesktop windows;
+    SetDesktop(&windows);
+    int nResult = IDOK, nAnswer = IDOK;
+    std::thread([&] {
+        nResult = m_Dialog.DoModal();
+        nAnswer = AfxMessageBox("?", MessageBoxKind::OkCancel);
+    }).join();
+    EXPECT_EQ(nResult, IDCANCEL);
+    EXPECT_EQ(nAnswer, IDCANCEL);
+}
+
+TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
+    CUserSettings settings;
+    CWindowsPerson person;
+    CBorderPropertiesDlg dialog;
+    dialog.m_BorderColor = "ff0000";
+    auto open = [](CDialog& shown, QPoint place) {
+        CWindowsPerson::Window().move(place);
+        QApplication::processEvents();
+        QWidget& button = Shown<QWidget>(shown, PickerOf(BorderId::Color));
+        QTest::mouseClick(&button, Qt::LeftButton);
+        const QRect popup = QApplication::activePopupWidget()->geometry();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        return std::pair(QRect(button.mapToGlobal(QPoint(0, 0)), button.size()), popup);
+    };
+    person.In("Border Properties")
+        .Then([&](CDialog& shown) {
+            QWidget& button = Shown<QWidget>(shown, PickerOf(BorderId::Color));
+            EXPECT_EQ(button.grab().toImage().pixelColor(button.rect().center()), QColor(255, 0, 0));
+            const auto [below, popup] = open(shown, {50, 50});
+            EXPECT_EQ(popup.topLeft(), below.bottomLeft() + QPoint(0, 1));
+            const QRect screen = CWindowsPerson::Window().screen()->geometry();
+            const auto [corner, moved] = open(shown, screen.bottomRight() - QPoint(200, 100));
+            EXPECT_TRUE(screen.contains(moved));
+            EXPECT_FALSE(moved.intersects(corner));
+        })
+        .OpensColours("Border Color")
+        .Then([](CDialog&) {
+            QWidget* pPopup = QApplication::activePopupWidget();
+            QHelpEvent help(QEvent::ToolTip, {25, 10}, pPopup->mapToGlobal(QPoint(25, 10)));
+            QApplication::sendEvent(pPopup, &help);
+            EXPECT_EQ(QToolTip::text(), "White");
+        })
+        .PressesInPopup({PopupKey::Escape})
+        .Clicks("Cancel");
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
