@@ -68,7 +68,8 @@ TEST_F(Windows, AScreenReaderHearsTheNameOfEachControl) {
             if (!pWidget)
                 return; // a spin control is heard as its box
             QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(pWidget);
-            if (control.m_Kind == ControlKind::ComboBox) // its name is its text, and the label what it belongs to
+            if (control.m_Kind ==
+                ControlKind::ComboBox) // its name is its text, and the label what it belongs to
                 pHeard = pHeard->relations(QAccessible::Label).value(0).first;
             ASSERT_TRUE(pHeard) << AccessibleNameOf(control);
             const QString name = pHeard->text(QAccessible::Name).remove(':');

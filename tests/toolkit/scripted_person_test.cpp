@@ -43,6 +43,7 @@ TEST(ScriptedPerson, WhatComesUpUnexpectedlyFailsTheTest) {
 }
 
 TEST(Desktop, WhereNobodyIsEveryDialogEndsInCancel) {
+    SetDesktop(nullptr);
     promises::CEverythingDlg dialog;
     CFileDialog files("a.gif", "");
     CColour colour = 7;
