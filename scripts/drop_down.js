@@ -137,7 +137,6 @@
                 this.box.dispatchEvent(new Event("change", { bubbles: true }));
         }
 
-        // ---- Opening and closing ----
 
         toggle() {
             if (this.bOpen)
@@ -208,7 +207,6 @@
             list.style.top = `${(bUp ? at.top - height : at.bottom) + window.scrollY}px`;
         }
 
-        // ---- The mark ----
 
         // Makes each row as high, and the list as wide, as the larger of its two looks, so that nothing jumps under
         // the pointer when the mark moves.
@@ -252,7 +250,6 @@
                 this.field.setAttribute("aria-activedescendant", this.rows[index].id);
         }
 
-        // ---- The pointer ----
 
         // True while the pointer rests where keys have moved the list away from under it: what the browser then
         // tells of rows coming and going is none of the visitor's doing.
@@ -284,7 +281,6 @@
                 this.choose(index);
         }
 
-        // ---- The keyboard ----
 
         key(event) {
             if (event.ctrlKey || event.metaKey)
