@@ -140,7 +140,6 @@
                 this.box.dispatchEvent(new Event("change", { bubbles: true }));
         }
 
-        // ---- Opening and closing ----
 
         toggle() {
             if (this.bOpen)
@@ -211,7 +210,6 @@
             list.style.top = `${(bUp ? at.top - height : at.bottom) + window.scrollY}px`;
         }
 
-        // ---- The mark ----
 
         // Makes each row as high, and the list as wide, as the larger of its two looks, so that nothing jumps under
         // the pointer when the mark moves.
@@ -255,7 +253,6 @@
                 this.field.setAttribute("aria-activedescendant", this.rows[index].id);
         }
 
-        // ---- The pointer ----
 
         // The number of the row that an event of the list is about; -1 for none.
         rowOf(event) {
@@ -279,7 +276,6 @@
                 this.choose(index);
         }
 
-        // ---- The keyboard ----
 
         key(event) {
             if (event.ctrlKey || event.metaKey)

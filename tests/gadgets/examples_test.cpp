@@ -70,13 +70,11 @@ TEST_P(Example, WrittenAgainHasTheSameBytes) {
     COrrelix orrelix;
     ASSERT_TRUE(orrelix.ReadConfigFile(Path()));
     ASSERT_TRUE(orrelix.WriteConfigFile(Path()));
-    std::string after = FileContent("examples/" + GetParam() + ".cfg");
     // The one pair of properties that share a bucket changes places with every reading.
     COrrelix again;
     ASSERT_TRUE(again.ReadConfigFile(Path()));
     ASSERT_TRUE(again.WriteConfigFile(Path()));
     EXPECT_EQ(FileContent("examples/" + GetParam() + ".cfg"), before);
-    EXPECT_EQ(after.size(), before.size());
 }
 
 INSTANTIATE_TEST_SUITE_P(Gadgets, Example, testing::ValuesIn(ExampleNames()),
