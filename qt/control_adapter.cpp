@@ -26,5 +26,5 @@ void ShowText(QLineEdit& box, const QString& text) {
         return;
     const qsizetype nBehind = box.text().size() - box.cursorPosition();
     box.setText(text);
-    box.setCursorPosition(static_cast<int>(qMax<qsizetype>(0, text.size() - nBehind)));
+    box.setCursorPosition(box.hasFocus() ? static_cast<int>(qMax<qsizetype>(0, text.size() - nBehind)) : 0);
 }

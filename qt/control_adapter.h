@@ -78,7 +78,8 @@ private:
     int m_nShowing = 0;
 };
 
-// Puts the text into the box, where it differs, and keeps the cursor before the text that it stands before.
+// Puts the text into the box, where it differs. The cursor stays before the text that it stands before; in a
+// box that the person isn't in, the start of the text shows.
 void ShowText(QLineEdit& box, const QString& text);
 
 // The adapter for the described control of the running dialog, with its widget made in `parent`; null for a

@@ -3,7 +3,15 @@
 #include "qt/dialog_layout.h"
 #include "qt/text.h"
 
-#include <QLayout>
+#include <QBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+
+namespace {
+
+constexpr int kWindowFrame = 48; // roughly what title bar and edges take
+
+} // namespace
 
 CDialogWindow::CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent)
     : QDialog(pParent), m_Dialog(dialog), m_Key(key), m_pContent(new QWidget(this)) {
@@ -18,7 +26,7 @@ CDialogWindow::CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent)
     });
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(m_pContent);
+    pLayout->addWidget(FittedToScreen());
     m_Dialog.SetObserver(this);
 }
 
@@ -27,6 +35,21 @@ CDialogWindow::~CDialogWindow() {
     if (QWidget* pFocus = focusWidget()) // a button that loses it on its way looks at others that may be gone
         pFocus->clearFocus();
     delete m_pContent; // while the adapters are there to listen
+}
+
+// Where the screen is too small for the content, or the font too large, it scrolls.
+QWidget* CDialogWindow::FittedToScreen() {
+    const QSize least = m_pContent->minimumSizeHint();
+    const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
+    if (least.width() <= room.width() && least.height() <= room.height())
+        return m_pContent;
+    auto* pArea = new QScrollArea(this);
+    pArea->setFrameShape(QFrame::NoFrame);
+    pArea->setFocusPolicy(Qt::NoFocus);
+    pArea->setWidgetResizable(true);
+    pArea->setWidget(m_pContent);
+    resize(m_pContent->sizeHint().boundedTo(room));
+    return pArea;
 }
 
 QWidget* CDialogWindow::WidgetOf(const CControl& control) const {

@@ -31,6 +31,7 @@ private:
     void Play(const std::function<void(CPersonKey)>& act) override;
     void FinishEditing() override;
 
+    QWidget* FittedToScreen();
     void showEvent(QShowEvent* pEvent) override;
 
     CDialog& m_Dialog;

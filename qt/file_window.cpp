@@ -49,7 +49,6 @@ void CFileWindow::AddEdit(CEdit& edit) {
         pGrid->addWidget(pLabel, nRow, 0);
         pGrid->addWidget(pBox, nRow, 1);
     }
-    setTabOrder(focusWidget(), pBox);
 }
 
 bool CFileWindow::TakeOver() {

@@ -14,6 +14,7 @@ public:
         : CControlAdapter(slider, stage), m_Slider(slider), m_pBox(new QWidget(&parent)),
           m_pSlider(new QSlider(Qt::Horizontal, m_pBox)) {
         m_pSlider->setTickPosition(QSlider::TicksBelow);
+        m_pSlider->setAccessibleDescription(ToQt(description.m_pFrom) + " \u2013 " + ToQt(description.m_pTo));
         auto* pLine = new QHBoxLayout(m_pBox);
         pLine->setContentsMargins(0, 0, 0, 0);
         pLine->addWidget(new QLabel(ToQt(description.m_pFrom), m_pBox));

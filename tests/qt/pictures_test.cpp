@@ -39,7 +39,9 @@ QPixmap GrabWindows() {
     std::stable_sort(windows.begin(), windows.end(), [](const QWidget* pLeft, const QWidget* pRight) {
         return Depth(pLeft) < Depth(pRight);
     });
-    QPixmap picture(area.size());
+    const qreal density = qApp->devicePixelRatio();
+    QPixmap picture(area.size() * density);
+    picture.setDevicePixelRatio(density);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     for (QWidget* pWindow : windows)
