@@ -1,80 +1,40 @@
-// What all browser tests share: a web server on loopback that tells case apart, one headless Chromium for each
-// test file, and pages that fail their test when anything is complained about in their console.
+// What all browser tests share: a web server on loopback, one headless Chromium for each test file, and pages that
+// fail their test when anything is complained about in their console.
 //
 //     import { testBothModes } from "./harness.mjs";
 //     testBothModes("cool_link_plain", "the list opens", async ({ page }) => { … });
 //
 // The pages are what the program makes: ORRELIX_PAGES names their folder. "/standards/NAME.html" is the page with
 // "<!DOCTYPE html>" in front, "/quirks/NAME.html" the same page without.
-import { after, test } from "node:test";
+import { after, describe, test } from "node:test";
 import assert from "node:assert/strict";
 import { createServer } from "node:http";
-import { readFile, readdir } from "node:fs/promises";
+import { readFile } from "node:fs/promises";
 import path from "node:path";
 import { chromium } from "playwright-core";
 
-export const MODES = ["standards", "quirks"];
-
-const CHROMIUM_ARGUMENTS = [
-    "--no-sandbox",
-    "--disable-gpu",
-    "--disable-quic",
-    "--no-first-run",
-    "--disable-background-networking",
-    "--disable-component-update",
-    "--disable-sync",
-];
-
-const CONTENT_TYPES = {
-    ".css": "text/css",
-    ".gif": "image/gif",
-    ".htm": "text/html",
-    ".html": "text/html",
-    ".jpg": "image/jpeg",
-    ".js": "text/javascript",
-    ".mjs": "text/javascript",
-    ".png": "image/png",
-    ".svg": "image/svg+xml",
-};
-
-const DOCTYPE = /^\s*<!doctype[^>]*>\s*/i;
+const CONTENT_TYPES = { ".gif": "image/gif", ".html": "text/html", ".js": "text/javascript" };
 
 // Pages given as text by a test, by their path behind the mode; they win over the folder's files.
 const givenPages = new Map();
 let nGivenPages = 0;
 
 function inMode(html, mode) {
-    const bare = html.toString("latin1").replace(DOCTYPE, "");
+    const bare = html.toString("latin1").replace(/^\s*<!doctype[^>]*>\s*/i, "");
     return Buffer.from(mode === "standards" ? `<!DOCTYPE html>\r\n${bare}` : bare, "latin1");
 }
 
-// The bytes of a file below ORRELIX_PAGES, or undefined. Each step of the path is looked up in its folder's
-// listing, so that a name in the wrong case is missing on every file system.
-async function readPage(relative) {
-    let folder = process.env.ORRELIX_PAGES;
-    if (!folder)
-        return undefined;
-    const steps = relative.split("/").filter((step) => step !== "");
-    for (const step of steps) {
-        if (!(await readdir(folder).catch(() => [])).includes(step))
-            return undefined;
-        folder = path.join(folder, step);
-    }
-    return readFile(folder).catch(() => undefined);
+// The bytes of a file below ORRELIX_PAGES, or undefined.
+function readPage(relative) {
+    return readFile(path.join(process.env.ORRELIX_PAGES ?? "", relative)).catch(() => undefined);
 }
 
 async function answer(request, response) {
     const pathname = decodeURIComponent(new URL(request.url, "http://localhost").pathname);
-    if (pathname === "/favicon.ico") {
-        response.writeHead(204).end();
-        return;
-    }
     const [, mode, relative] = /^\/(standards|quirks)\/(.*)$/s.exec(pathname) ?? [];
     const bytes = mode && (givenPages.get(relative) ?? (await readPage(relative)));
-    if (!bytes) {
-        response.writeHead(404).end();
-        return;
-    }
+    if (!bytes)
+        return response.writeHead(pathname === "/favicon.ico" ? 204 : 404).end();
     const type = CONTENT_TYPES[path.extname(relative).toLowerCase()] ?? "application/octet-stream";
     response.writeHead(200, { "Content-Type": type, "Cache-Control": "no-store" });
     response.end(type === "text/html" ? inMode(bytes, mode) : bytes);
@@ -90,7 +50,7 @@ async function start() {
     await new Promise((listening) => server.listen(0, "127.0.0.1", listening));
     const browser = await chromium.launch({
         executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
-        args: CHROMIUM_ARGUMENTS,
+        args: ["--no-sandbox", "--disable-gpu"],
     });
     return { server, browser, origin: `http://127.0.0.1:${server.address().port}` };
 }
@@ -101,20 +61,13 @@ after(async () => {
     const { server, browser } = await started;
     await browser.close();
     server.closeAllConnections();
-    await new Promise((closed) => server.close(closed));
+    server.close();
 });
 
-// The address of a page (or of any file of the pages' folder) in a mode.
-export async function address(relative, mode = "standards") {
-    started ??= start();
-    return `${(await started).origin}/${mode}/${relative}`;
-}
-
-// Serves a text under a name of its own choosing beside the folder's pages; gives the name for openEffect. The
-// text may be a page's HTML or, with another extension, a script or a picture that the page refers to.
-export function givePage(text, name = `given_${++nGivenPages}.html`) {
-    givenPages.set(name, Buffer.isBuffer(text) ? text : Buffer.from(text, "utf8"));
-    return name.replace(/\.html$/, "");
+// Serves the text of a page of a test's own beside the folder's pages; gives its name for openEffect.
+export function givePage(text, name = `given_${++nGivenPages}`) {
+    givenPages.set(`${name}.html`, Buffer.from(text, "utf8"));
+    return name;
 }
 
 // The text of NAME.html, for tests that give a page made from it.
@@ -127,21 +80,20 @@ export async function pageText(name) {
 // Opens NAME.html in a browser context of its own.
 //   mode           "standards" or "quirks"
 //   reducedMotion  the visitor asks for reduced motion
-//   scripts        false: a visitor without scripts
 //   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
 //   clock          true: the page's time stands still until the test moves it with page.clock
 // Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
 // so far, and a test that provokes one on purpose empties it.
-export async function openEffect(
+async function openEffect(
     name,
-    { mode = "standards", reducedMotion = false, scripts = true, before, clock = false, viewport } = {},
+    { mode = "standards", reducedMotion = false, before, clock = false } = {},
 ) {
-    const url = await address(`${name}.html`, mode);
-    const { browser } = await started;
+    started ??= start();
+    const { browser, origin } = await started;
+    const url = `${origin}/${mode}/${name}.html`;
     const context = await browser.newContext({
-        javaScriptEnabled: scripts,
         reducedMotion: reducedMotion ? "reduce" : "no-preference",
-        viewport: viewport ?? { width: 1000, height: 700 },
+        viewport: { width: 1000, height: 700 },
     });
     const page = await context.newPage();
     const errors = [];
@@ -154,9 +106,7 @@ export async function openEffect(
         await page.clock.install();
     if (before)
         await page.addInitScript(before);
-    const response = await page.goto(url);
-    if (!response.ok())
-        errors.push(`${url}: ${response.status()}`);
+    await page.goto(url);
     return {
         page,
         errors,
@@ -167,20 +117,23 @@ export async function openEffect(
     };
 }
 
-// One test for each mode: opens NAME.html, runs body({page, errors, mode}), closes the page. Options as for
-// openEffect, and node:test's own.
+// One test for each mode, both at once: opens NAME.html, runs body({page, errors, mode}), closes the page. Options as
+// for openEffect.
 export function testBothModes(name, title, body, options = {}) {
-    for (const mode of MODES)
-        test(`${name}, ${mode}: ${title}`, { timeout: 60_000, ...options }, async () => {
-            const effect = await openEffect(name, { ...options, mode });
-            try {
-                await body({ ...effect, mode });
-            } catch (failure) {
-                await effect.close().catch((complaint) => { failure.message += `\n${complaint.message}`; });
-                throw failure;
-            }
-            await effect.close();
-        });
+    const run = async (mode) => {
+        const effect = await openEffect(name, { ...options, mode });
+        try {
+            await body({ ...effect, mode });
+        } catch (failure) {
+            await effect.close().catch((complaint) => { failure.message += `\n${complaint.message}`; });
+            throw failure;
+        }
+        await effect.close();
+    };
+    describe(`${name}: ${title}`, { concurrency: true }, () => {
+        for (const mode of ["standards", "quirks"])
+            test(mode, { timeout: 60_000 }, () => run(mode));
+    });
 }
 
 // Makes the page as good as hidden behind another tab (or shown again): what a page can see of it, in one go.
@@ -210,3 +163,23 @@ export async function watch(page, read, done, { milliseconds = 10_000, argument 
     }
     assert.fail(`not seen within ${milliseconds} ms; seen: ${JSON.stringify(values.slice(-20))}`);
 }
+
+// The properties of an element's style, as the browser shows them.
+export function styleOf(locator, ...names) {
+    return locator.evaluate((element, list) => list.map((name) => getComputedStyle(element)[name]), names);
+}
+
+// For the option "before": new Date() and Date.now() give the local time that window.testNow holds, at first the
+// given one. Timers run on.
+export const at = (text) => `{
+    const RealDate = Date;
+    window.testNow = ${JSON.stringify(text)};
+    window.Date = class extends RealDate {
+        constructor(...given) {
+            super(...(given.length > 0 ? given : [window.testNow]));
+        }
+        static now() {
+            return +new RealDate(window.testNow);
+        }
+    };
+}`;

@@ -55,7 +55,7 @@ std::function<void(CDialog&)> Take(const char* pName) {
         QApplication::processEvents(); // let the layout settle
         const QPixmap picture = GrabWindows();
         EXPECT_FALSE(picture.isNull()) << pName;
-        EXPECT_TRUE(folder.isEmpty() || picture.save(folder + '/' + pName + ".png")) << pName;
+        EXPECT_TRUE(folder.isEmpty() || picture.save(folder + "/" + pName + ".png", "PNG", 0)) << pName;
     };
 }
 
