@@ -16,6 +16,7 @@
 #include <QToolTip>
 #include <QTreeView>
 #include <chrono>
+#include <gtest/gtest.h>
 #include <thread>
 
 using promises::CEverythingDlg;
