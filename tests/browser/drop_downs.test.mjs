@@ -70,15 +70,21 @@ for (const effect of ["fade_select", "cool_link"]) {
     testBothModes(`${effect}_rich`, "works by keys, and is told to a screen reader", async ({ page }) => {
         const name = await field(page).getAttribute("aria-label");
         assert.ok(name);
+        // Where the list will open, so that it comes up under the resting pointer.
+        const { x, y, height } = await field(page).boundingBox();
+        await page.mouse.move(x + 30, y + height + 80);
         await page.keyboard.press("Tab");
         assert.equal(await field(page).getAttribute("aria-expanded"), "false");
         const active = () => field(page).evaluate((element) =>
             document.getElementById(element.getAttribute("aria-activedescendant")).innerText.trim());
         for (const [key, nItem] of [["Enter", 0], ["ArrowDown", 1], ["ArrowUp", 0], ["ArrowUp", 0], ["End", 3],
-            ["ArrowDown", 3], ["Home", 0], ["w", 2]]) {
+            ["ArrowDown", 3], ["Home", 0], ["w", 2], ["Home", 0]]) {
             await page.keyboard.press(key);
+            await page.waitForTimeout(50);
             assert.equal(await active(), LINKS[nItem][0], `after ${key}`);
         }
+        await page.mouse.move(x + 31, y + height + 80);
+        assert.equal(await active(), LINKS[2][0], "the pointer counts again when it moves");
         assert.equal(await field(page).getAttribute("aria-expanded"), "true");
         assert.equal(await page.getByRole("listbox", { name, exact: true }).count(), 1);
         assert.equal(await page.getByRole("option", { selected: true }).innerText(), LINKS[0][0]);
