@@ -140,7 +140,6 @@
                 this.box.dispatchEvent(new Event("change", { bubbles: true }));
         }
 
-
         toggle() {
             if (this.bOpen)
                 this.close();
@@ -210,7 +209,6 @@
             list.style.top = `${(bUp ? at.top - height : at.bottom) + window.scrollY}px`;
         }
 
-
         // Makes each row as high, and the list as wide, as the larger of its two looks, so that nothing jumps under
         // the pointer when the mark moves.
         steadyRows() {
@@ -253,7 +251,6 @@
                 this.field.setAttribute("aria-activedescendant", this.rows[index].id);
         }
 
-
         // The number of the row that an event of the list is about; -1 for none.
         rowOf(event) {
             return this.rows.indexOf(event.target.closest(".brndfn-row"));
@@ -275,7 +272,6 @@
             if (this.bOpen && index >= 0)
                 this.choose(index);
         }
-
 
         key(event) {
             if (event.ctrlKey || event.metaKey)
