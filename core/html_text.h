@@ -15,8 +15,11 @@
 
 #include "platform/string.h"
 
+#include <algorithm>
+#include <cassert>
 #include <charconv>
 #include <concepts>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -49,22 +52,25 @@ private:
     friend CString MakeHtml(TWrite write);
 
     void Add(std::string_view text) {
-        if (m_bMeasuring)
-            m_nLength += text.size();
+        if (m_pWrite)
+            m_pWrite = std::copy(text.begin(), text.end(), m_pWrite);
         else
-            m_Text.append(text);
+            m_nLength += text.size();
     }
 
     template <std::integral TNumber>
     void Add(TNumber nNumber) {
+        if (m_pWrite) {
+            m_pWrite = std::to_chars(m_pWrite, m_pEnd, nNumber).ptr;
+            return;
+        }
         char digits[24];
-        const char* pEnd = std::to_chars(digits, digits + sizeof digits, nNumber).ptr;
-        Add(std::string_view(digits, static_cast<size_t>(pEnd - digits)));
+        m_nLength += static_cast<size_t>(std::to_chars(digits, std::end(digits), nNumber).ptr - digits);
     }
 
-    bool m_bMeasuring = true;
     size_t m_nLength = 0;
-    std::string m_Text;
+    char* m_pWrite = nullptr; // where the next byte goes; null while measuring
+    char* m_pEnd = nullptr;   // of the text
 };
 
 // The text that write(CHtmlText&) writes. It has to write the same both times.
@@ -72,8 +78,10 @@ template <class TWrite>
 CString MakeHtml(TWrite write) {
     CHtmlText html;
     write(html);
-    html.m_bMeasuring = false;
-    html.m_Text.reserve(html.m_nLength);
+    std::string text(html.m_nLength, '\0');
+    html.m_pWrite = text.data();
+    html.m_pEnd = html.m_pWrite + text.size();
     write(html);
-    return CString(std::move(html.m_Text));
+    assert(html.m_pWrite == html.m_pEnd);
+    return CString(std::move(text));
 }
