@@ -1,20 +1,16 @@
 // Reading and writing large configuration files, beside reading and writing the same bytes plainly.
 //
-// Each measure runs next to its yardstick; "ratio" is how many times the yardstick's time it takes, and
-// "peak" how much memory reading took beside the size of the file.
-#include "core/parameters.h"
+// "peak" is how much memory reading took beside the size of the file, "fresh_ms" how long in a process of its
+// own, where no memory has been used before.
+#include "bench/measure.h"
 #include "core/vignel_config.h"
-#include "gadgets/animate_text.h"
 #include "platform/files.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <memory>
 #include <unistd.h>
 
@@ -29,12 +25,6 @@ enum class EShape { BigSegment, Parameters, Resources };
 const char* NameOf(EShape shape) {
     const char* names[] = {"one big segment", "parameter keys", "resources"};
     return names[static_cast<int>(shape)];
-}
-
-std::string Number(long nNumber) {
-    char text[24];
-    snprintf(text, sizeof text, "%07ld", nNumber);
-    return text;
 }
 
 // A store whose file has about nSize bytes in nRecords records.
@@ -52,10 +42,10 @@ std::unique_ptr<CVignelConfig> MakeStore(EShape shape, size_t nSize, long nRecor
             break;
         }
         case EShape::Parameters:
-            pStore->SetParameter("Key" + Number(nRecord), CString(std::string(nEach - 15, 'v')));
+            pStore->SetParameter(std::string("Key") + Number(nRecord), CString(std::string(nEach - 15, 'v')));
             break;
         case EShape::Resources:
-            pStore->AddResource({CString("image" + Number(nRecord) + ".gif"),
+            pStore->AddResource({CString(std::string("image") + Number(nRecord) + ".gif"),
                                  CString(std::string(nEach / 2 - 16, 'l')),
                                  CString(std::string(nEach / 2 - 4, 'w'))});
         }
@@ -82,17 +72,11 @@ CString HostPath(const fs::path& path) {
 // A file of a shape, made once and kept while the program runs.
 fs::path FileOf(EShape shape, size_t nSize, long nRecords) {
     static CScratch s_Scratch;
-    const fs::path path =
+    fs::path path =
         s_Scratch.m_Path / (std::string(NameOf(shape)) + Number(nRecords) + Number(long(nSize)) + ".cfg");
     if (!fs::exists(path))
         MakeStore(shape, nSize, nRecords)->WriteFile(HostPath(path));
     return path;
-}
-
-double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 // Reads the file in one call and copies its bytes once, into memory of their own.
@@ -143,22 +127,6 @@ CFreshProcess RunFresh(const char* pArgument, const fs::path& path) {
     return fresh;
 }
 
-// Runs the work as the benchmark and the yardstick before each round. "ratio" compares the fastest rounds of
-// the two, which other work on the machine disturbs least.
-void MeasureBeside(benchmark::State& state, size_t nBytes, const std::function<void()>& yardstick,
-                   const std::function<void()>& work) {
-    double yardstickSeconds = 1e9, workSeconds = 1e9;
-    for (auto _ : state) {
-        state.PauseTiming();
-        yardstickSeconds = std::min(yardstickSeconds, Seconds(yardstick));
-        state.ResumeTiming();
-        workSeconds = std::min(workSeconds, Seconds(work));
-    }
-    state.counters["ratio"] = workSeconds / yardstickSeconds;
-    state.counters["fastest_ms"] = 1000 * workSeconds;
-    state.SetBytesProcessed(static_cast<int64_t>(nBytes) * state.iterations());
-}
-
 void ReadConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nRecords) {
     const fs::path path = FileOf(shape, nSize, nRecords);
     const auto read = [&] {
@@ -186,39 +154,6 @@ void WriteConfigFile(benchmark::State& state, EShape shape, size_t nSize, long n
         [&] { config.WriteFile(HostPath(target)); });
 }
 
-// An effect with a list of as many items, read from its parameters.
-void ReadGadgetList(benchmark::State& state, long nItems) {
-    CAnimateText animate;
-    animate.m_Messages.RemoveAll();
-    for (long nItem = 0; nItem < nItems; ++nItem)
-        animate.m_Messages.Add("Message " + Number(nItem) + ", with a comma and some more text behind it");
-    CVignelConfig config;
-    animate.WriteParameters(config);
-    const size_t nBytes = static_cast<size_t>(config.GetParameter("AnimateTextStr", "").GetLength());
-    const std::string source(nBytes, 'x');
-    std::string target(nBytes, 'y');
-    MeasureBeside(
-        state, nBytes, [&] { benchmark::DoNotOptimize(memcpy(target.data(), source.data(), nBytes)); },
-        [&] { animate.ReadParameters(config, ""); });
-}
-
-// The text of an effect beside copying as many bytes into memory of their own.
-void GenerateBody(benchmark::State& state, long nItems, size_t nItemSize) {
-    CAnimateText animate;
-    animate.m_Messages.RemoveAll();
-    for (long nItem = 0; nItem < nItems; ++nItem)
-        animate.m_Messages.Add(CString(std::string(nItemSize, 'm')));
-    CVignelConfig config;
-    const std::string text(animate.GetHTMLBody(config, kPublish, 0).View());
-    MeasureBeside(
-        state, text.size(),
-        [&] {
-            std::unique_ptr<char[]> pCopy(new char[text.size()]);
-            benchmark::DoNotOptimize(memcpy(pCopy.get(), text.data(), text.size()));
-        },
-        [&] { benchmark::DoNotOptimize(animate.GetHTMLBody(config, kPublish, 0).GetLength()); });
-}
-
 const int s_nRegistered = [] {
     const struct {
         EShape m_Shape;
@@ -240,18 +175,6 @@ const int s_nRegistered = [] {
                 ->Unit(benchmark::kMillisecond);
         }
     }
-    for (long nItems : {6'000L, 60'000L}) {
-        benchmark::RegisterBenchmark(("read a list of " + std::to_string(nItems) + " items").c_str(),
-                                     ReadGadgetList, nItems)
-            ->MinTime(1.0)
-            ->Unit(benchmark::kMillisecond);
-    }
-    benchmark::RegisterBenchmark("GetHTMLBody, defaults", GenerateBody, 4, size_t(30))
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("GetHTMLBody, one text of 4 MiB", GenerateBody, 1, size_t(4) << 20)
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("GetHTMLBody, 60,000 texts", GenerateBody, 60'000, size_t(50))
-        ->Unit(benchmark::kMicrosecond);
     return 0;
 }();
 

@@ -113,6 +113,7 @@ int CColourPickerPopup::NextSelection(PopupKey key) const {
 
 std::vector<CToolTipText> CColourPickerPopup::GetToolTips() const {
     std::vector<CToolTipText> tips;
+    tips.reserve(GetColourTable().size());
     for (int nIndex = 0; nIndex < m_nColours; ++nIndex)
         tips.push_back({RectOf(nIndex), TableRow(nIndex).m_Name});
     return tips;

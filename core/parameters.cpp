@@ -77,11 +77,11 @@ void CParameterReader::Fields(const char* pKey, std::initializer_list<CParameter
     const CString value = m_Config.GetParameter(pKey, "");
     CListItems items(value);
     for (const CParameterField& field : fields) {
-        CString item = items.Next();
+        const CString item = items.Next();
         if (field.m_pList)
             m_nCount = std::clamp(ToInteger(item), 0, kMaxListItems);
         else if (!item.IsEmpty())
-            *field.m_pText = FromStored(std::move(item), field.m_bFileName);
+            *field.m_pText = FromStored(item, field.m_bFileName);
     }
 }
 
@@ -96,7 +96,7 @@ void CParameterReader::DoItems(const char* pKey, const CParameterColumn& column)
         *pItem = FromStored(items.Next(), column.m_bFileName);
 }
 
-CString CParameterReader::FromStored(CString item, bool bFileName) const {
+CString CParameterReader::FromStored(const CString& item, bool bFileName) const {
     return bFileName && !item.IsEmpty() ? m_Directory + FileNameOfPath(item) : item;
 }
 

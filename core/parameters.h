@@ -129,7 +129,7 @@ protected:
     void DoItems(const char* pKey, const CParameterColumn& column) override;
 
 private:
-    CString FromStored(CString item, bool bFileName) const;
+    CString FromStored(const CString& item, bool bFileName) const;
 
     const CVignelConfig& m_Config;
     CString m_Directory;

@@ -65,6 +65,11 @@ private:
     CStringArray::Index m_nItems;
 };
 
+auto FindField(const std::vector<CNamedField>& fields, const std::string& name) {
+    return std::find_if(fields.begin(), fields.end(),
+                        [&name](const CNamedField& field) { return field.m_Name == name; });
+}
+
 } // namespace
 
 std::vector<CNamedField> ListFields(CDhtmlGadget& gadget) {
@@ -77,9 +82,7 @@ std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
     const std::vector<CNamedField> fields = ListFields(gadget);
     CStringArray::Index nItems = -1;
     for (const auto& [name, given] : values) {
-        const auto field = std::find_if(fields.begin(), fields.end(), [&name](const CNamedField& candidate) {
-            return candidate.m_Name == name;
-        });
+        const auto field = FindField(fields, name);
         if (field == fields.end())
             return "the effect has no field " + name + "; --list-fields shows those that it has";
         if (!field->m_bList && given.size() > 1)

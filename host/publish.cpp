@@ -26,6 +26,7 @@ void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CRepo
 }
 
 void WritePage(const fs::path& path, const std::string& bytes, const std::string& subject, CReport& report) {
+    COutputFile::RemoveLeftovers(ComponentPath(path.parent_path()));
     COutputFile file;
     errno = 0;
     bool bWritten = file.Open(ComponentPath(path));

@@ -59,8 +59,8 @@ bool ReadWholeFile(const CString& path, std::string& content);
 // was. What exists but is no plain file (a device, a pipe) is written directly.
 class COutputFile {
 public:
-    // Deletes the temporary files that writers left in the directory when they were killed. Only for a
-    // directory where nobody writes at the moment.
+    // Deletes the temporary files that processes of this machine left in the directory when they were
+    // killed.
     static void RemoveLeftovers(const CString& directory);
 
     COutputFile() = default;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <dirent.h>
@@ -155,6 +156,10 @@ bool SameFile(const std::string& left, const std::string& right) {
            leftStatus.st_dev == rightStatus.st_dev && leftStatus.st_ino == rightStatus.st_ino;
 }
 
+bool IsRunning(pid_t nProcess) {
+    return nProcess > 0 && (kill(nProcess, 0) == 0 || errno != ESRCH);
+}
+
 } // namespace
 
 bool FileExists(const CString& path) {
@@ -250,7 +255,8 @@ void COutputFile::RemoveLeftovers(const CString& directory) {
         return;
     std::vector<std::string> leftovers;
     ForEachName(*found, [&](const char* pName) {
-        if (std::string_view(pName).starts_with(kTemporaryPrefix))
+        const std::string_view name(pName);
+        if (name.starts_with(kTemporaryPrefix) && !IsRunning(ToInteger(name.substr(kTemporaryPrefix.size()))))
             leftovers.push_back(*found + "/" + pName);
     });
     for (const std::string& path : leftovers)

@@ -15,7 +15,7 @@ constexpr const char* kLockName = "/settings.lock";
 constexpr int kLockMilliseconds = 2000;
 
 // A file beyond this size was not written here.
-constexpr size_t kMostBytes = 4 * 1024 * 1024;
+constexpr size_t kMostBytes = 4u << 20;
 
 constexpr std::string_view kHexDigits = "0123456789abcdef";
 constexpr std::string_view kEscape = "\\x";
@@ -93,7 +93,7 @@ std::optional<std::string> ReadSettings(const CString& path) {
     CInputFile file;
     if (!file.Open(path))
         return std::nullopt;
-    std::string block(64 * 1024, '\0');
+    std::string block(size_t{1} << 16, '\0');
     while (const size_t nRead = file.Read(block.data(), block.size())) {
         text.append(block, 0, nRead);
         if (text.size() > kMostBytes)

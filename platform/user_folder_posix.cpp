@@ -14,9 +14,9 @@ std::string Environment(const char* pName) {
 
 // A process that a service started may have no HOME.
 std::string HomeFolder() {
-    if (const std::string home = Environment("HOME"); !home.empty())
+    if (std::string home = Environment("HOME"); !home.empty())
         return home;
-    std::string buffer(16 * 1024, '\0');
+    std::string buffer(size_t{1} << 14, '\0');
     passwd entry{};
     passwd* pFound = nullptr;
     if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &pFound) != 0 || !pFound)
@@ -26,7 +26,7 @@ std::string HomeFolder() {
 
 // As the XDG Base Directory convention has it: a path that isn't absolute doesn't count.
 std::string ConfigurationFolder() {
-    if (const std::string folder = Environment("XDG_CONFIG_HOME"); folder.starts_with('/'))
+    if (std::string folder = Environment("XDG_CONFIG_HOME"); folder.starts_with('/'))
         return folder;
     const std::string home = HomeFolder();
     return home.starts_with('/') ? home + "/.config" : "";

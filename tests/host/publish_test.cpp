@@ -347,4 +347,8 @@ TEST_F(Publish, AProcessKilledAtAnyMomentLeavesAWholePage) {
     }
     EXPECT_GT(nKilled, 3);
     EXPECT_GT(nDone, 0);
+    for (const char* pEffect : {"old.cfg", "new.cfg"})
+        EXPECT_EQ(Run({"publish", pEffect, "--page", "site/p.html", "--site", "site"}).m_nExitCode, 0);
+    for (const auto& entry : fs::directory_iterator(m_Folder.File("site")))
+        EXPECT_FALSE(entry.path().filename().string().starts_with(".orrelix-")) << entry.path();
 }

@@ -132,7 +132,7 @@ int CWindowsPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
 }
 
 bool CWindowsPerson::RunFileDialog(CFileDialog& dialog) {
-    WhenItIsUp<QFileDialog>([this, &dialog](QFileDialog& window) {
+    WhenItIsUp<QFileDialog>([this](QFileDialog& window) {
         const auto answer = AnswerFileDialog();
         if (!answer)
             return QTest::keyClick(&window, Qt::Key_Escape);

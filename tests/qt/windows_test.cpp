@@ -176,7 +176,7 @@ TEST_F(Windows, AListTellsOfNothingThatNobodyChose) {
 }
 
 TEST_F(Windows, RowsOfAListViewAreSelectedByKeysAndTheOtherMouseButton) {
-    Work([this](CDialog& dialog) {
+    Work([](CDialog& dialog) {
         const CListCtrl& rows = dialog.Item<CListCtrl>(Id::View);
         auto& view = Shown<QTreeView>(dialog, Id::View);
         view.setFocus();
@@ -210,7 +210,7 @@ TEST_F(Windows, ALabelIsEditedByItsKeyAndTakenOverWhenThePersonGoesElsewhere) {
 }
 
 TEST_F(Windows, EscapeEndsTheInnermostThingFirst) {
-    Work([this](CDialog& dialog) {
+    Work([](CDialog& dialog) {
         QTest::keyClick(&Shown<QComboBox>(dialog, Id::Kind), Qt::Key_F4);
         QTest::keyClick(Shown<QComboBox>(dialog, Id::Kind).view(), Qt::Key_Escape);
         ClickRow(Shown<QTreeView>(dialog, Id::View), 0);
