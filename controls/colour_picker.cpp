@@ -60,7 +60,7 @@ void CColourPicker::SetColour(CColour colour) {
 }
 
 CSize CColourPicker::Measure(CSize size) {
-    const CScreenMetrics metrics = GetDesktop().GetMetrics();
+    const CThemeMetrics metrics = GetDesktop().GetMetrics();
     const CSize edge = metrics.m_Edge;
     const CSize arrow{std::min(metrics.m_ScrollThumb.cx - 6, 5 * edge.cx),
                       std::max(metrics.m_ScrollThumb.cy, 5 * edge.cy)};

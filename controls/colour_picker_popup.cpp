@@ -23,15 +23,15 @@ int RowWithColour(CColour colour) {
     return row == table.end() ? CColourPickerPopup::kNone : static_cast<int>(row - table.begin());
 }
 
-CRect MovedOntoScreen(CRect rect, const CRect& button, CSize screen) {
-    if (rect.right > screen.cx)
-        rect = rect.Moved(screen.cx - rect.right, 0);
-    if (rect.left < 0)
-        rect = rect.Moved(-rect.left, 0);
-    if (rect.bottom > screen.cy)
+CRect MovedOntoScreen(CRect rect, const CRect& button, const CRect& screen) {
+    if (rect.right > screen.right)
+        rect = rect.Moved(screen.right - rect.right, 0);
+    if (rect.left < screen.left)
+        rect = rect.Moved(screen.left - rect.left, 0);
+    if (rect.bottom > screen.bottom)
         rect = rect.Moved(0, button.top - rect.bottom);
-    if (rect.top < 0)
-        rect = rect.Moved(0, -rect.top);
+    if (rect.top < screen.top)
+        rect = rect.Moved(0, screen.top - rect.top);
     return rect;
 }
 
@@ -60,7 +60,7 @@ void CColourPickerPopup::Place(const CRect& button) {
     }
     m_WindowRect =
         MovedOntoScreen({button.left, button.bottom, button.left + size.cx, button.bottom + size.cy}, button,
-                        GetDesktop().GetMetrics().m_Screen);
+                        GetDesktop().GetScreenAround(button));
 }
 
 void CColourPickerPopup::Abandon() {
@@ -81,12 +81,16 @@ CRect CColourPickerPopup::RectOf(int nIndex) const {
     return {nLeft, nTop, nLeft + m_nBoxSize, nTop + m_nBoxSize};
 }
 
+// The margin is taken off the point for the box as for the cells: the box is reached by the margin later than
+// it is drawn, and left as much later.
 int CColourPickerPopup::HitTest(CPoint point) const {
+    point.x -= m_nMargin;
+    point.y -= m_nMargin;
     if (m_CustomRect.PtInRect(point))
         return kCustomBox;
-    if (point.x < m_nMargin || point.y < m_nMargin)
+    if (point.x < 0 || point.y < 0)
         return kNone;
-    return IndexOf((point.y - m_nMargin) / m_nBoxSize, (point.x - m_nMargin) / m_nBoxSize);
+    return IndexOf(point.y / m_nBoxSize, point.x / m_nBoxSize);
 }
 
 int CColourPickerPopup::NextSelection(PopupKey key) const {
@@ -94,9 +98,9 @@ int CColourPickerPopup::NextSelection(PopupKey key) const {
     const int nAround = bForwards ? 0 : m_nColours - 1;
     if (m_nCurrentSel == kCustomBox)
         return nAround;
-    // Where nothing is marked, no cell is beside it either.
-    const int nRow = m_nCurrentSel == kNone ? kNone : m_nCurrentSel / m_nColumns;
-    const int nColumn = m_nCurrentSel == kNone ? kNone : m_nCurrentSel % m_nColumns;
+    // Where nothing is marked, the pointer is taken to stand in front of the first cell.
+    const int nRow = m_nCurrentSel / m_nColumns;
+    const int nColumn = m_nCurrentSel % m_nColumns;
     int nNext = kNone;
     if (key == PopupKey::Down)
         nNext = IndexOf(nRow + 1, nColumn);
@@ -117,6 +121,12 @@ std::vector<CToolTipText> CColourPickerPopup::GetToolTips() const {
     for (int nIndex = 0; nIndex < m_nColours; ++nIndex)
         tips.push_back({RectOf(nIndex), TableRow(nIndex).m_Name});
     return tips;
+}
+
+CString CColourPickerPopup::GetCurrentText() const {
+    if (m_nCurrentSel == kCustomBox)
+        return m_CustomText;
+    return m_nCurrentSel == kNone ? CString() : CString(TableRow(m_nCurrentSel).m_Name);
 }
 
 void CColourPickerPopup::Draw(CCanvas& canvas) const {

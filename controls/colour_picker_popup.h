@@ -50,6 +50,7 @@ public:
 
     const CRect& GetWindowRect() const override { return m_WindowRect; }
     std::vector<CToolTipText> GetToolTips() const override;
+    CString GetCurrentText() const override;
     void Draw(CCanvas& canvas) const override;
 
     void OnMouseMove(CPersonKey, CPoint point) override;

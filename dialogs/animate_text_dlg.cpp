@@ -11,6 +11,7 @@ namespace {
 
 using Id = AnimateTextId;
 
+constexpr char kNoRow[] = "Please Select a words in the Listbox";
 constexpr char kNoText[] = "Please input a words into the inputbox";
 
 void ReplaceRow(CListBox& list, int nRow, const CString& text) {
@@ -122,15 +123,18 @@ void CAnimateTextDlg::OnDelete() {
     UpdateData(false);
 }
 
-// The row is gone when it was the last one and was deleted since.
 void CAnimateTextDlg::OnModify() {
     UpdateData(true);
-    if (m_nEditIndex < 0 || m_nEditIndex >= Messages().GetCount()) {
-        AfxMessageBox("Please Select a words in the Listbox");
+    if (m_nEditIndex < 0) {
+        AfxMessageBox(kNoRow);
         return;
     }
     if (m_EditText.IsEmpty()) {
         AfxMessageBox(kNoText);
+        return;
+    }
+    if (m_nEditIndex >= Messages().GetCount()) { // it was the last one and was deleted since
+        AfxMessageBox(kNoRow);
         return;
     }
     ReplaceRow(Messages(), m_nEditIndex, m_EditText);

@@ -1,11 +1,11 @@
 #include "qt/adapters.h"
+#include "qt/quiet_wheel.h"
 #include "qt/rows_model.h"
 #include "qt/text.h"
 
 #include <QComboBox>
 #include <QEvent>
 #include <QListView>
-#include <QWheelEvent>
 
 namespace {
 
@@ -20,20 +20,11 @@ private:
     const CComboBox& m_Combo;
 };
 
-class CComboBoxWidget : public QComboBox {
+class CComboBoxWidget : public CQuietWheel<QComboBox> {
 public:
-    explicit CComboBoxWidget(QWidget* pParent) : QComboBox(pParent) {
+    explicit CComboBoxWidget(QWidget* pParent) : CQuietWheel(pParent) {
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // not to the longest of all rows
-        setFocusPolicy(Qt::StrongFocus);
         static_cast<QListView*>(view())->setUniformItemSizes(true);
-    }
-
-protected:
-    void wheelEvent(QWheelEvent* pEvent) override {
-        if (hasFocus())
-            QComboBox::wheelEvent(pEvent);
-        else
-            pEvent->ignore();
     }
 };
 
@@ -62,8 +53,11 @@ private:
         m_pBox->setInsertPolicy(QComboBox::NoInsert);
         m_pBox->setDuplicatesEnabled(true); // otherwise Enter picks the row with the text that stands there
         m_pBox->setCompleter(nullptr);
-        connect(m_pBox->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-            Play([&](CPersonKey key) { m_Combo.PersonTypes(key, FromQt(text)); });
+        ListenTo(*m_pBox->lineEdit(), [this](const CString& text) {
+            const int nPicked = m_pBox->currentIndex();
+            if (nPicked >= 0 && text == FromQt(m_pBox->itemText(nPicked)))
+                return; // the row's text comes before the news of its picking
+            Play([&](CPersonKey key) { m_Combo.PersonTypes(key, text); });
             ShowText();
         });
     }
@@ -84,11 +78,13 @@ private:
     }
 
     void ShowAll() override {
+        CShowing showing(*this);
         m_Rows.Reset();
         ShowText();
     }
 
     void Show(ControlChange change, int nFirst, int nCount) override {
+        CShowing showing(*this);
         if (change == ControlChange::RowsInserted)
             m_Rows.RowsInserted(nFirst, nCount);
         else if (change == ControlChange::RowsRemoved)
@@ -97,13 +93,14 @@ private:
     }
 
     void ShowText() {
+        CShowing showing(*this);
         QLineEdit* pEdit = m_pBox->lineEdit();
         const QString before = pEdit ? pEdit->text() : QString();
         const int nCursor = pEdit ? pEdit->cursorPosition() : 0;
         m_pBox->setCurrentIndex(m_Combo.GetCurSel());
         if (!pEdit)
             return;
-        ::ShowText(*pEdit, ToQt(m_Combo.GetWindowText()));
+        CControlAdapter::ShowText(*pEdit);
         if (pEdit->text() == before)
             pEdit->setCursorPosition(nCursor);
     }

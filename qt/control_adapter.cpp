@@ -1,5 +1,7 @@
 #include "qt/control_adapter.h"
 
+#include "qt/text.h"
+
 CControlAdapter::CControlAdapter(CControl& control, CStage& stage) : m_Control(control), m_Stage(stage) {
     m_Control.SetObserver(this);
 }
@@ -21,9 +23,18 @@ void CControlAdapter::OnControlChanged(ControlChange change, int nFirst, int nCo
         Show(change, nFirst, nCount);
 }
 
-void ShowText(QLineEdit& box, const QString& text) {
+void CControlAdapter::ListenTo(QLineEdit& box, std::function<void(const CString&)> typed) {
+    connect(&box, &QLineEdit::textChanged, this, [this, typed = std::move(typed)](const QString& text) {
+        if (!IsShowing())
+            typed(FromQt(text));
+    });
+}
+
+void CControlAdapter::ShowText(QLineEdit& box) {
+    const QString text = ToQt(m_Control.GetWindowText());
     if (box.text() == text)
         return;
+    CShowing showing(*this);
     const qsizetype nBehind = box.text().size() - box.cursorPosition();
     box.setText(text);
     box.setCursorPosition(box.hasFocus() ? static_cast<int>(qMax<qsizetype>(0, text.size() - nBehind)) : 0);

@@ -2,9 +2,10 @@
 // per kind of control, and none knows a dialog.
 //
 // What the program changes in the control comes in through OnControlChanged and is shown; what the person
-// does to the widget goes out through CStage::Play to the control's Person operations. Widgets are listened
-// to by the signals that only a person causes; where a kind has none such, an adapter shows within a CShowing
-// and takes no signal as the person's while IsShowing.
+// does to the widget goes out through CStage::Play to the control's Person operations. An adapter shows
+// within a CShowing and takes no signal as the person's while IsShowing. The signals that only a person's
+// events cause, such as QLineEdit::textEdited, would leave out who works the widget through an assistive
+// tool.
 #pragma once
 
 #include "toolkit/control.h"
@@ -59,6 +60,12 @@ protected:
     void Play(const std::function<void(CPersonKey)>& act) { m_Stage.Play(act); }
     CStage& Stage() { return m_Stage; }
 
+    // Calls typed(text) for each text that the person puts into the box.
+    void ListenTo(QLineEdit& box, std::function<void(const CString&)> typed);
+    // Puts the control's text into the box, where it differs. The cursor stays before the text that it stands
+    // before; in a box that the person isn't in, the start of the text shows.
+    void ShowText(QLineEdit& box);
+
     class CShowing {
     public:
         explicit CShowing(CControlAdapter& adapter) : m_Adapter(adapter) { ++m_Adapter.m_nShowing; }
@@ -77,10 +84,6 @@ private:
     CStage& m_Stage;
     int m_nShowing = 0;
 };
-
-// Puts the text into the box, where it differs. The cursor stays before the text that it stands before; in a
-// box that the person isn't in, the start of the text shows.
-void ShowText(QLineEdit& box, const QString& text);
 
 // The adapter for the described control of the running dialog, with its widget made in `parent`; null for a
 // control that another one's widget shows too, as a spin control is shown by its edit box.

@@ -34,14 +34,14 @@ public:
         : CControlAdapter(edit, stage), m_pBox(new CLineBox(&parent, bShort ? kShortText : kUsualText)) {
         if (description.Has(STYLE_DIGITS))
             m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
-        connect(m_pBox, &QLineEdit::textEdited, this, [this, &edit](const QString& text) {
-            Play([&](CPersonKey key) { edit.PersonTypes(key, FromQt(text)); });
+        ListenTo(*m_pBox, [this, &edit](const CString& text) {
+            Play([&](CPersonKey key) { edit.PersonTypes(key, text); });
             ShowAll(); // the control may have taken only a part of it
         });
     }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(*m_pBox, ToQt(Control().GetWindowText())); }
+    void ShowAll() override { ShowText(*m_pBox); }
 
 private:
     CLineBox* m_pBox;
@@ -53,6 +53,17 @@ public:
 
     QSize sizeHint() const override { return OfLines(40, 5); }
     QSize minimumSizeHint() const override { return OfLines(16, 3); }
+
+    // Lines end in a line feed. Unlike toPlainText, this leaves every other character as it is.
+    QString Text() const { return document()->toRawText().replace(QChar::ParagraphSeparator, '\n'); }
+
+protected:
+    // With Shift, Enter would put in a character that isn't the end of a line.
+    void keyPressEvent(QKeyEvent* pEvent) override {
+        if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter)
+            pEvent->setModifiers(pEvent->modifiers() & ~Qt::ShiftModifier);
+        QPlainTextEdit::keyPressEvent(pEvent);
+    }
 
 private:
     QSize OfLines(int nCharacters, int nLines) const {
@@ -69,7 +80,7 @@ public:
         connect(m_pArea, &QPlainTextEdit::textChanged, this, [this, &edit] {
             if (IsShowing())
                 return;
-            Play([&](CPersonKey key) { edit.PersonTypes(key, LinesFromQt(m_pArea->toPlainText())); });
+            Play([&](CPersonKey key) { edit.PersonTypes(key, LinesFromQt(m_pArea->Text())); });
             ShowAll();
         });
     }
@@ -78,7 +89,7 @@ public:
 
     void ShowAll() override {
         const QString text = LinesToQt(Control().GetWindowText());
-        if (m_pArea->toPlainText() == text)
+        if (m_pArea->Text() == text)
             return;
         CShowing showing(*this);
         m_pArea->setPlainText(text);

@@ -42,7 +42,7 @@ void CFileWindow::AddEdit(CEdit& edit) {
     auto* pBox = new QLineEdit(ToQt(edit.GetWindowText()), this);
     pLabel->setBuddy(pBox);
     pBox->setAccessibleName(ToQt(AccessibleNameOf({.m_pLabel = m_Dialog.GetAddedLabel()})));
-    connect(pBox, &QLineEdit::textEdited, this,
+    connect(pBox, &QLineEdit::textChanged, this,
             [this, &edit](const QString& text) { edit.PersonTypes(m_Key, FromQt(text)); });
     if (auto* pGrid = qobject_cast<QGridLayout*>(layout())) {
         const int nRow = pGrid->rowCount();

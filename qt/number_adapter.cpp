@@ -1,18 +1,16 @@
 #include "qt/adapters.h"
+#include "qt/quiet_wheel.h"
 #include "qt/text.h"
 
 #include <QAbstractSpinBox>
 #include <QStyleOptionSpinBox>
-#include <QWheelEvent>
 
 namespace {
 
 // A box with arrows for any text: what a number is and where it ends is the controls' matter.
-class CNumberBox : public QAbstractSpinBox {
+class CNumberBox : public CQuietWheel<QAbstractSpinBox> {
 public:
-    CNumberBox(CSpinButtonCtrl& spin, QWidget* pParent) : QAbstractSpinBox(pParent), m_Spin(spin) {
-        setFocusPolicy(Qt::StrongFocus); // the wheel over a box that isn't being edited changes nothing
-    }
+    CNumberBox(CSpinButtonCtrl& spin, QWidget* pParent) : CQuietWheel(pParent), m_Spin(spin) {}
 
     std::function<void(int)> m_OnSteps;
     QLineEdit& Line() const { return *lineEdit(); }
@@ -39,12 +37,6 @@ protected:
         steps.setFlag(StepDownEnabled, !bNumber || nNumber != m_Spin.GetLower());
         return steps;
     }
-    void wheelEvent(QWheelEvent* pEvent) override {
-        if (hasFocus())
-            QAbstractSpinBox::wheelEvent(pEvent);
-        else
-            pEvent->ignore();
-    }
 
 private:
     CSpinButtonCtrl& m_Spin;
@@ -59,15 +51,15 @@ public:
         m_pBox->m_OnSteps = [this](int nSteps) {
             Play([&](CPersonKey key) { m_Spin.PersonTurns(key, nSteps); });
         };
-        connect(&m_pBox->Line(), &QLineEdit::textEdited, this, [this, &edit](const QString& text) {
-            Play([&](CPersonKey key) { edit.PersonTypes(key, FromQt(text)); });
+        ListenTo(m_pBox->Line(), [this, &edit](const CString& text) {
+            Play([&](CPersonKey key) { edit.PersonTypes(key, text); });
             ShowAll();
         });
     }
     ~CNumberAdapter() override { m_Spin.SetObserver(nullptr); }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(m_pBox->Line(), ToQt(Control().GetWindowText())); }
+    void ShowAll() override { ShowText(m_pBox->Line()); }
 
 private:
     // The position shows as the edit box's text; what is left to show is which arrows work.

@@ -5,23 +5,12 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QToolTip>
 
 namespace {
 
 CPoint PointOf(const QMouseEvent& event) {
     return {event.position().toPoint().x(), event.position().toPoint().y()};
-}
-
-// The popup keeps itself on the screen as a whole; this keeps it off the edge between two screens.
-QPoint PlaceOnScreen(const QRect& rect) {
-    const QScreen* pScreen = QGuiApplication::screenAt(rect.topLeft());
-    if (!pScreen)
-        return rect.topLeft();
-    const QRect screen = pScreen->availableGeometry();
-    return QPoint(qMax(screen.left(), qMin(rect.x(), screen.right() + 1 - rect.width())),
-                  qMax(screen.top(), qMin(rect.y(), screen.bottom() + 1 - rect.height())));
 }
 
 } // namespace
@@ -32,10 +21,11 @@ CPopupFrame::CPopupFrame(CPopupWindow& popup, CPersonKey key, QWidget* pParent, 
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     if (const QWidget* pButton = pParent ? pParent->focusWidget() : nullptr)
-        setAccessibleName(pButton->accessibleName());
+        m_Name = pButton->accessibleName();
+    setAccessibleName(m_Name);
     const QRect rect = ToQt(popup.GetWindowRect());
     setFixedSize(rect.size());
-    setGeometry(QRect(PlaceOnScreen(rect), rect.size()));
+    setGeometry(rect);
     popup.SetObserver(this);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationInactive)
@@ -48,6 +38,13 @@ CPopupFrame::CPopupFrame(CPopupWindow& popup, CPersonKey key, QWidget* pParent, 
 CPopupFrame::~CPopupFrame() {
     Deactivate();
     LetGo();
+}
+
+// A screen reader says a new name of what has the focus.
+void CPopupFrame::OnPopupChanged(CPopupWindow& popup) {
+    const CString current = popup.GetCurrentText();
+    setAccessibleName(current.IsEmpty() ? m_Name : ToQt(current) + ", " + m_Name);
+    update();
 }
 
 void CPopupFrame::Play(const std::function<void(CPopupWindow&)>& act) {

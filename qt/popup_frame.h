@@ -9,8 +9,7 @@
 
 class CPopupFrame : public QWidget, private CPopupWindow::CObserver {
 public:
-    // Opens at the popup's place, moved where it wouldn't be on the screen. What the popup throws goes to
-    // `fail`, from within a handler of exceptions.
+    // Opens at the popup's place. What the popup throws goes to `fail`, from within a handler of exceptions.
     CPopupFrame(CPopupWindow& popup, CPersonKey key, QWidget* pParent, std::function<void()> fail);
     // Sees to it that the popup ends, if it hasn't.
     ~CPopupFrame() override;
@@ -33,7 +32,7 @@ protected:
     void hideEvent(QHideEvent* pEvent) override;
 
 private:
-    void OnPopupChanged(CPopupWindow&) override { update(); }
+    void OnPopupChanged(CPopupWindow& popup) override;
     void ShowToolTip(const QHelpEvent& help);
 
     void Play(const std::function<void(CPopupWindow&)>& act);
@@ -42,6 +41,7 @@ private:
     CPopupWindow* m_pPopup; // null when it has been let go
     CPersonKey m_Key;
     std::function<void()> m_Fail;
+    QString m_Name; // of the button that opened it
     bool m_bClosing = false;
     int m_nEvents = 0;
 };

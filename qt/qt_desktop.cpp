@@ -132,12 +132,16 @@ CRect CQtDesktop::GetScreenRect(const COwnerDrawnButton& button) const {
     return {};
 }
 
-CScreenMetrics CQtDesktop::GetMetrics() const {
-    const QRect screens = QGuiApplication::primaryScreen()->virtualGeometry();
+CRect CQtDesktop::GetScreenAround(const CRect& place) const {
+    const QScreen* pScreen = QGuiApplication::screenAt(ToQt(place).center());
+    return FromQt((pScreen ? pScreen : QGuiApplication::primaryScreen())->availableGeometry());
+}
+
+CThemeMetrics CQtDesktop::GetMetrics() const {
     const int nThumb = QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     // A button that measures itself by the thumb comes out as high as the edit box beside it.
     const int nBox = QLineEdit().sizeHint().height();
-    return {{screens.right() + 1, screens.bottom() + 1}, {kEdge, kEdge}, {nThumb, nBox - 2 * kEdge}};
+    return {{kEdge, kEdge}, {nThumb, nBox - 2 * kEdge}};
 }
 
 CSize CQtDesktop::MeasureText(const CString& text) const {
@@ -150,10 +154,14 @@ CColour CQtDesktop::GetSystemColour(SystemColour colour) const {
 }
 
 CStringArray CQtDesktop::GetFontFamilies() const {
-    CStringArray families;
+    QStringList names;
     for (const QString& family : QFontDatabase::families()) {
         if (!QFontDatabase::isPrivateFamily(family))
-            families.Add(FromQt(family));
+            names += family.section(" [", 0, 0); // the foundry, where two have a family of the name
     }
+    names.removeDuplicates();
+    CStringArray families;
+    for (const QString& name : names)
+        families.Add(FromQt(name));
     return families;
 }

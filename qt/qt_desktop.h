@@ -23,7 +23,8 @@ public:
     void OpenPopup(CPopupWindow& popup) override;
     void ClosePopup(CPopupWindow& popup) override;
     CRect GetScreenRect(const COwnerDrawnButton& button) const override;
-    CScreenMetrics GetMetrics() const override;
+    CRect GetScreenAround(const CRect& place) const override;
+    CThemeMetrics GetMetrics() const override;
     CSize MeasureText(const CString& text) const override;
     CColour GetSystemColour(SystemColour colour) const override;
     CStringArray GetFontFamilies() const override;

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QToolTip>
 #include <functional>
 
@@ -43,6 +44,21 @@ protected:
         return Within([&] { return TView::event(pEvent); });
     }
 
+    // Where nothing is selected, the row that Qt took for the current one at the focus's coming was never
+    // seen to be: the first key selects a row, and doesn't go on from there. Space on the selected row is the
+    // double click of those who have no mouse.
+    void keyPressEvent(QKeyEvent* pEvent) override {
+        const int nKey = pEvent->key();
+        const bool bSelected = this->selectionModel()->hasSelection();
+        const int nRows = this->model()->rowCount();
+        if (!bSelected && nRows > 0 && pEvent->modifiers() == Qt::NoModifier && IsRowKey(nKey))
+            SelectRow(nKey == Qt::Key_End ? nRows - 1 : 0);
+        else if (bSelected && nKey == Qt::Key_Space && m_OnDoubleClicked)
+            m_nDoubleClicked = this->currentIndex().row();
+        else
+            TView::keyPressEvent(pEvent);
+    }
+
     // The key for it edits the row's label, whichever column was clicked.
     bool edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* pEvent) override {
         const bool bKey = trigger == QAbstractItemView::EditKeyPressed;
@@ -56,6 +72,15 @@ protected:
     }
 
 private:
+    static bool IsRowKey(int nKey) {
+        return nKey == Qt::Key_Down || nKey == Qt::Key_Up || nKey == Qt::Key_Home || nKey == Qt::Key_End;
+    }
+
+    void SelectRow(int nRow) {
+        this->selectionModel()->setCurrentIndex(
+            this->model()->index(nRow, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+
     void Chosen() {
         if (m_bQuiet || m_IsShowing())
             return;

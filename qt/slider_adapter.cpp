@@ -1,4 +1,5 @@
 #include "qt/adapters.h"
+#include "qt/quiet_wheel.h"
 #include "qt/text.h"
 
 #include <QHBoxLayout>
@@ -7,12 +8,17 @@
 
 namespace {
 
+class CSliderWidget : public CQuietWheel<QSlider> {
+public:
+    explicit CSliderWidget(QWidget* pParent) : CQuietWheel(pParent) { setOrientation(Qt::Horizontal); }
+};
+
 class CSliderAdapter : public CControlAdapter {
 public:
     CSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
                    QWidget& parent)
         : CControlAdapter(slider, stage), m_Slider(slider), m_pBox(new QWidget(&parent)),
-          m_pSlider(new QSlider(Qt::Horizontal, m_pBox)) {
+          m_pSlider(new CSliderWidget(m_pBox)) {
         m_pSlider->setTickPosition(QSlider::TicksBelow);
         m_pSlider->setAccessibleDescription(ToQt(description.m_pFrom) + " \u2013 " + ToQt(description.m_pTo));
         auto* pLine = new QHBoxLayout(m_pBox);
@@ -20,9 +26,9 @@ public:
         pLine->addWidget(new QLabel(ToQt(description.m_pFrom), m_pBox));
         pLine->addWidget(m_pSlider, 1);
         pLine->addWidget(new QLabel(ToQt(description.m_pTo), m_pBox));
-        connect(m_pSlider, &QSlider::actionTriggered, this, [this] {
-            // The slider has its new place, but not yet taken it for its value.
-            Play([&](CPersonKey key) { m_Slider.PersonMoves(key, m_pSlider->sliderPosition()); });
+        connect(m_pSlider, &QSlider::valueChanged, this, [this](int nValue) {
+            if (!IsShowing())
+                Play([&](CPersonKey key) { m_Slider.PersonMoves(key, nValue); });
         });
     }
 
@@ -30,6 +36,7 @@ public:
     QWidget* Placed() const override { return m_pBox; }
 
     void ShowAll() override {
+        CShowing showing(*this);
         m_pSlider->setRange(m_Slider.GetLower(), m_Slider.GetUpper());
         m_pSlider->setTickInterval(m_Slider.GetTicFreq());
         m_pSlider->setPageStep(qMax(1, m_Slider.GetTicFreq()));

@@ -18,7 +18,8 @@ public:
     void OpenPopup(CPopupWindow& popup) override { popup.OnDeactivate(Person()); }
     void ClosePopup(CPopupWindow& popup) override { popup.OnClosed(); }
     CRect GetScreenRect(const COwnerDrawnButton&) const override { return {}; }
-    CScreenMetrics GetMetrics() const override { return {}; }
+    CRect GetScreenAround(const CRect&) const override { return {}; }
+    CThemeMetrics GetMetrics() const override { return {}; }
     CSize MeasureText(const CString&) const override { return {}; }
     CColour GetSystemColour(SystemColour) const override { return 0; }
     CStringArray GetFontFamilies() const override { return {}; }

@@ -26,9 +26,8 @@ enum class MessageBoxKind {
     Warning,  // one button, "OK", and the sign of a warning
 };
 
-// Measures of the screen and its theme, in pixels.
-struct CScreenMetrics {
-    CSize m_Screen;
+// Measures of the theme, in pixels.
+struct CThemeMetrics {
     CSize m_Edge;        // the two lines of an edge around a control
     CSize m_ScrollThumb; // the thumb of a horizontal scroll bar in width, of a vertical one in height
 };
@@ -56,7 +55,9 @@ public:
 
     // Where the button stands on the screen.
     virtual CRect GetScreenRect(const COwnerDrawnButton& button) const = 0;
-    virtual CScreenMetrics GetMetrics() const = 0;
+    // The screen that the place is on, without what the system keeps for itself there.
+    virtual CRect GetScreenAround(const CRect& place) const = 0;
+    virtual CThemeMetrics GetMetrics() const = 0;
     // The size of one line in the dialogs' font.
     virtual CSize MeasureText(const CString& text) const = 0;
     virtual CColour GetSystemColour(SystemColour colour) const = 0;

@@ -2,6 +2,8 @@
 
 #include "toolkit/dialog_description.h"
 
+#include <algorithm>
+
 void CEdit::OnCreate(const CControlDescription& description) {
     m_bMultiLine = description.Has(STYLE_MULTI_LINE);
     m_bDigits = description.Has(STYLE_DIGITS);
@@ -14,16 +16,27 @@ void CEdit::PersonTypes(CPersonKey, const CString& text) {
     NotifyDialog(Notification::Changed);
 }
 
+CString CEdit::WithDigitsAlone(std::string_view text) const {
+    const std::string_view old = GetWindowText().View();
+    const size_t nShorter = std::min(text.size(), old.size());
+    size_t nSameFront = 0, nSameBack = 0;
+    while (nSameFront < nShorter && text[nSameFront] == old[nSameFront])
+        ++nSameFront;
+    while (nSameBack < nShorter - nSameFront &&
+           text[text.size() - 1 - nSameBack] == old[old.size() - 1 - nSameBack])
+        ++nSameBack;
+    CString accepted;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const bool bOld = i < nSameFront || i >= text.size() - nSameBack;
+        if (bOld || (text[i] >= '0' && text[i] <= '9'))
+            accepted += text[i];
+    }
+    return accepted;
+}
+
 CString CEdit::Accepted(const CString& text) const {
     if (m_bMultiLine)
         return text;
     const std::string_view line = text.View().substr(0, text.View().find_first_of("\r\n"));
-    if (!m_bDigits)
-        return line;
-    CString digits;
-    for (char character : line) {
-        if (character >= '0' && character <= '9')
-            digits += character;
-    }
-    return digits;
+    return m_bDigits ? WithDigitsAlone(line) : CString(line);
 }

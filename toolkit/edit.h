@@ -7,8 +7,9 @@ class CEdit : public CControl {
 public:
     bool IsMultiLine() const { return m_bMultiLine; }
 
-    // The box's text is now `text`. A box for digits takes the digits of it; a box of one line takes the
-    // first line. Notifies Changed. A disabled box takes nothing.
+    // The box's text is now `text`. Of what is new in it, a box for digits takes the digits, so that what the
+    // program put in stays; a box of one line takes the first line. Notifies Changed. A disabled box takes
+    // nothing.
     void PersonTypes(CPersonKey, const CString& text);
 
 protected:
@@ -16,6 +17,7 @@ protected:
 
 private:
     CString Accepted(const CString& text) const;
+    CString WithDigitsAlone(std::string_view text) const;
 
     bool m_bMultiLine = false;
     bool m_bDigits = false;

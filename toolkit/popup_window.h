@@ -27,6 +27,8 @@ public:
     // On the screen. It doesn't change while the popup is open.
     virtual const CRect& GetWindowRect() const = 0;
     virtual std::vector<CToolTipText> GetToolTips() const = 0;
+    // What the pointer or the keyboard is on, for who can't see it; empty when it is on nothing.
+    virtual CString GetCurrentText() const = 0;
     virtual void Draw(CCanvas& canvas) const = 0;
 
     virtual void OnMouseMove(CPersonKey, CPoint point) = 0;

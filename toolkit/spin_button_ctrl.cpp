@@ -27,8 +27,11 @@ void CSpinButtonCtrl::SetPos(int nPos) {
 void CSpinButtonCtrl::PersonTurns(CPersonKey key, int nSteps) {
     if (!IsWindowEnabled())
         return;
-    m_nPos = static_cast<int>(
-        std::clamp<long long>(NumberInBuddy() + static_cast<long long>(nSteps), m_nLower, m_nUpper));
+    const int nFrom = NumberInBuddy();
+    m_nPos =
+        static_cast<int>(std::clamp<long long>(nFrom + static_cast<long long>(nSteps), m_nLower, m_nUpper));
+    if (m_nPos == nFrom)
+        return;
     TellObserver(ControlChange::Position);
     if (m_pBuddy)
         m_pBuddy->PersonTypes(key, ToText(m_nPos));
@@ -42,6 +45,8 @@ int CSpinButtonCtrl::NumberInBuddy() const {
     if (!m_pBuddy)
         return m_nPos;
     const CString& text = m_pBuddy->GetWindowText();
+    const std::string_view digits = text.View().substr(text.Left(1) == "-" ? 1 : 0);
+    const bool bNumber = !digits.empty() && digits.find_first_not_of("0123456789") == digits.npos;
     const int nNumber = ToInteger(text);
-    return ToText(nNumber) == text && Clipped(nNumber) == nNumber ? nNumber : m_nPos;
+    return bNumber && Clipped(nNumber) == nNumber ? nNumber : m_nPos;
 }

@@ -22,7 +22,8 @@ public:
     int GetPos() const { return m_nPos; }
 
     // Presses an arrow nSteps times, upwards or, below 0, downwards. Counts from the number in the buddy if
-    // one within the range stands there, and else from the position. The buddy notifies Changed.
+    // one within the range stands there, and else from the position. The buddy notifies Changed; at the end
+    // of the range it keeps its text.
     void PersonTurns(CPersonKey key, int nSteps);
 
 protected:

@@ -15,8 +15,10 @@ constexpr CRect kButton{100, 100, 160, 120};
 class CPersonAtPopup : public CScriptedPerson, private CColourPopupParent {
 public:
     explicit CPersonAtPopup(const CString& start = "123456", const CString& customText = "More Colors...",
-                            const CRect& button = kButton, int nEdge = 2)
+                            const CRect& button = kButton, int nEdge = 2,
+                            const CRect& screen = {0, 0, 1024, 768})
         : m_nEdge(nEdge) {
+        m_Screen = screen;
         m_pPopup = new CColourPickerPopup(*this, button, ParseHexColour(start).value(), customText, "");
         OpenPopup(*m_pPopup);
     }
@@ -42,7 +44,7 @@ public:
         m_pPopup->OnDeactivate(Person());
     }
 
-    CScreenMetrics GetMetrics() const override { return {m_Screen, {m_nEdge, m_nEdge}, {16, 16}}; }
+    CThemeMetrics GetMetrics() const override { return {{m_nEdge, m_nEdge}, {16, 16}}; }
     bool RunColourDialog(CColour& colour) override {
         ActAll(); // the popup takes nothing meanwhile
         return CScriptedPerson::RunColourDialog(colour);
@@ -76,9 +78,10 @@ TEST(ColourPickerPopup, KeysGoFromCellToCellAndThroughTheBox) {
           CCase{32, PopupKey::Down, kBox, 0}, CCase{kBox, PopupKey::Down, 0, 0},
           CCase{11, PopupKey::Up, 3, 3}, CCase{7, PopupKey::Up, kBox, 39}, CCase{kBox, PopupKey::Up, 39, 39},
           CCase{3, PopupKey::Right, 4, 4}, CCase{7, PopupKey::Right, 8, 8},
-          CCase{39, PopupKey::Right, kBox, 0}, CCase{kBox, PopupKey::Right, 0, 0},
-          CCase{4, PopupKey::Left, 3, 3}, CCase{8, PopupKey::Left, 7, 7}, CCase{0, PopupKey::Left, kBox, 39},
-          CCase{kBox, PopupKey::Left, 39, 39}}) {
+          CCase{39, PopupKey::Right, kBox, 0}, CCase{kNone, PopupKey::Right, 0, 0},
+          CCase{kNone, PopupKey::Down, kBox, 0}, CCase{kNone, PopupKey::Left, kBox, 39},
+          CCase{kBox, PopupKey::Right, 0, 0}, CCase{4, PopupKey::Left, 3, 3}, CCase{8, PopupKey::Left, 7, 7},
+          CCase{0, PopupKey::Left, kBox, 39}, CCase{kBox, PopupKey::Left, 39, 39}}) {
         for (const char* pText : {"More Colors...", ""}) {
             if (move.m_nFrom == kBox && !*pText)
                 continue;
@@ -99,19 +102,22 @@ TEST(ColourPickerPopup, TheWindowIsSizedByItsContentAndStaysOnTheScreen) {
         CString m_Text;
         int m_nEdge;
         CRect m_Window;
+        CRect m_Screen = {0, 0, 1024, 768};
     };
-    const CCase cases[] = {{"below", kButton, "More", 2, {100, 120, 248, 244}},
-                           {"without a box", kButton, "", 2, {100, 120, 248, 214}},
-                           {"wide text", kButton, "Many, many more colours...", 2, {100, 120, 286, 244}},
-                           {"thick edges", kButton, "", 8, {100, 120, 300, 251}},
-                           {"at the right", {1000, 100, 1020, 120}, "", 2, {876, 120, 1024, 214}},
-                           {"at the left", {-9, 100, 20, 120}, "", 2, {0, 120, 148, 214}},
-                           {"at the bottom", {100, 700, 160, 720}, "", 2, {100, 606, 248, 700}},
-                           {"just room", {876, 654, 1024, 674}, "", 2, {876, 674, 1024, 768}},
-                           {"in the corner", {1000, 740, 1030, 760}, "More", 2, {876, 616, 1024, 740}},
-                           {"no room at all", {100, 80, 160, 720}, "", 2, {100, 0, 248, 94}}};
+    const CCase cases[] = {
+        {"below", kButton, "More", 2, {100, 120, 248, 244}},
+        {"without a box", kButton, "", 2, {100, 120, 248, 214}},
+        {"wide text", kButton, "Many, many more colours...", 2, {100, 120, 286, 244}},
+        {"thick edges", kButton, "", 8, {100, 120, 300, 251}},
+        {"at the right", {1000, 100, 1020, 120}, "", 2, {876, 120, 1024, 214}},
+        {"at the left", {-9, 100, 20, 120}, "", 2, {0, 120, 148, 214}},
+        {"at the bottom", {100, 700, 160, 720}, "", 2, {100, 606, 248, 700}},
+        {"just room", {876, 654, 1024, 674}, "", 2, {876, 674, 1024, 768}},
+        {"in the corner", {1000, 740, 1030, 760}, "More", 2, {876, 616, 1024, 740}},
+        {"no room at all", {100, 80, 160, 720}, "", 2, {100, 0, 248, 94}},
+        {"on a screen at the left", {-20, 300, 0, 320}, "", 2, {-148, 206, 0, 300}, {-800, 0, 0, 400}}};
     for (const CCase& place : cases) {
-        CPersonAtPopup person("123456", place.m_Text, place.m_Button, place.m_nEdge);
+        CPersonAtPopup person("123456", place.m_Text, place.m_Button, place.m_nEdge, place.m_Screen);
         EXPECT_EQ(person.m_pPopup->GetWindowRect(), place.m_Window)
             << place.m_pName << ": " << person.m_pPopup->GetWindowRect().left << ", "
             << person.m_pPopup->GetWindowRect().top;
@@ -128,8 +134,9 @@ TEST(ColourPickerPopup, ThePointerMarksWhatItIsOver) {
     for (const CCase& place :
          {CCase{{2, 2}, 0}, CCase{{19, 19}, 0}, CCase{{20, 19}, 1}, CCase{{19, 20}, 8}, CCase{{145, 91}, 39},
           CCase{{146, 91}, kNone}, CCase{{145, 92}, kNone}, CCase{{1, 20}, kNone}, CCase{{20, -1}, kNone},
-          CCase{{-500, -500}, kNone}, CCase{{500, 500}, kNone}, CCase{{box.left, box.top}, kBox},
-          CCase{{box.right - 1, box.bottom - 1}, kBox}, CCase{{box.right, box.top}, kNone}}) {
+          CCase{{-500, -500}, kNone}, CCase{{500, 500}, kNone}, CCase{{box.left, box.top}, kNone},
+          CCase{{box.left + 2, box.top + 2}, kBox}, CCase{{box.right + 1, box.bottom + 1}, kBox},
+          CCase{{box.right + 2, box.bottom}, kNone}}) {
         person.MoveTo(17);
         person.MoveInPopup(place.m_Point);
         EXPECT_EQ(person.m_pPopup->GetCurrentSel(), place.m_nSelection)

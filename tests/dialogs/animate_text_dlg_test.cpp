@@ -118,7 +118,8 @@ TEST_F(AnimateTextDlg, TheMoveButtonsWhileMessagesComeAndGo) {
 TEST_F(AnimateTextDlg, ModifyKeepsToTheRowThatWasPickedWhateverMoved) {
     m_Steps.SelectsRow("Messages", 1).Shows("Message", "two").Clicks("Move Up").Types("Message", "new");
     m_Steps.Clicks("Modify").ShowsRows("Messages", {"two", "new", "three"}).ShowsSelected("Messages", {1});
-    m_Steps.SelectsRow("Messages", 2).Clicks("Delete").Shows("Message", "").Types("Message", "lost");
+    m_Steps.SelectsRow("Messages", 2).Clicks("Delete").Shows("Message", "");
+    m_Steps.Clicks("Modify").Answers("Please input a words into the inputbox").Types("Message", "lost");
     // The picked row was the last one and is gone.
     m_Steps.Clicks("Modify").Answers("Please Select a words in the Listbox");
     m_Steps.ShowsRows("Messages", {"two", "new"}).Clicks("OK");

@@ -37,7 +37,7 @@ protected:
 } // namespace
 
 TEST_P(Hosts, AnEffectIsMadeInRealWindows) {
-    EXPECT_EQ(Run("Down Return 7 0 0 Return"), 0);
+    EXPECT_EQ(Run("Down Down Return 7 0 0 Return"), 0);
     EXPECT_NE(FileContent(m_Directory.File("page.cfg")).find("<table width=\"700\""), std::string::npos);
 }
 

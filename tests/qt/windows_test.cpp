@@ -127,14 +127,35 @@ TEST_F(Windows, AnEditBoxOfSeveralLinesKeepsTheEnterKeyAndGivesAwayTheTabKey) {
 
 TEST_F(Windows, AWheelThatPassesOverABoxChangesNothing) {
     Work([](CDialog& dialog) {
-        for (int nId : {+Id::Number, +Id::Kind}) {
+        for (int nId : {+Id::Number, +Id::Kind, +Id::Level}) {
             auto& box = Shown<QWidget>(dialog, nId);
             QWheelEvent turn({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
                              Qt::NoModifier, Qt::NoScrollPhase, false);
             QApplication::sendEvent(&box, &turn);
         }
+        EXPECT_EQ(dialog.Item<CSliderCtrl>(Id::Level).GetPos(), 300);
     });
     EXPECT_EQ(m_Dialog.m_Log, "");
+}
+
+TEST_F(Windows, WhatAnAssistiveToolDoesIsThePersons) {
+    m_Person.In("Everything").Then([](CDialog& dialog) {
+        const auto heard = [&](int nId) {
+            return QAccessible::queryAccessibleInterface(
+                CWindowsPerson::Window().WidgetOf(*dialog.FindItem(nId)));
+        };
+        heard(Id::Level)->valueInterface()->setCurrentValue(700);
+        EXPECT_EQ(dialog.Item<CSliderCtrl>(Id::Level).GetPos(), 700);
+        for (int nId : {+Id::Text, +Id::Lines})
+            heard(nId)->editableTextInterface()->insertText(0, "said ");
+        auto& kind = Shown<QComboBox>(dialog, Id::Kind);
+        QAccessible::queryAccessibleInterface(kind.lineEdit())->setText(QAccessible::Value, "spoken");
+    });
+    m_Person.Clicks("OK");
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Text, "said old");
+    EXPECT_EQ(m_Dialog.m_Lines, "said first\r\nsecond");
+    EXPECT_EQ(m_Dialog.m_Kind, "spoken");
 }
 
 TEST_F(Windows, TheArrowsOfANumberAreInItsBox) {
@@ -173,6 +194,19 @@ TEST_F(Windows, AListTellsOfNothingThatNobodyChose) {
         EXPECT_FALSE(list.selectionModel()->hasSelection()); // no neighbour comes in for it
     });
     EXPECT_EQ(m_Dialog.m_Log, "selected selected ");
+}
+
+TEST_F(Windows, TheFirstKeySelectsARowAndSpaceIsADoubleClick) {
+    Work([this](CDialog& dialog) {
+        auto& list = Shown<QAbstractItemView>(dialog, Id::List);
+        list.setFocus(Qt::TabFocusReason);
+        QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_EQ(dialog.Item<CListBox>(Id::List).GetCurSel(), 0);
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Space);
+        EXPECT_EQ(dialog.Item<CListBox>(Id::List).GetCurSel(), 1);
+    });
+    EXPECT_EQ(m_Dialog.m_Log, "selected selected double ");
 }
 
 TEST_F(Windows, RowsOfAListViewAreSelectedByKeysAndTheOtherMouseButton) {
@@ -327,6 +361,9 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
         .OpensColours("Border Color")
         .Then([](CDialog&) {
             QWidget* pPopup = QApplication::activePopupWidget();
+            QTest::keyClick(pPopup, Qt::Key_Right);
+            QTest::keyClick(pPopup, Qt::Key_Right);
+            EXPECT_EQ(pPopup->accessibleName(), "White, Border Color");
             QHelpEvent help(QEvent::ToolTip, {25, 10}, pPopup->mapToGlobal(QPoint(25, 10)));
             QApplication::sendEvent(pPopup, &help);
             EXPECT_EQ(QToolTip::text(), "White");

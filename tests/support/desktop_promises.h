@@ -47,7 +47,7 @@ TEST_P(DesktopPromises, WhatThePersonLeavesReachesTheFields) {
     m_Person.In("Everything")
         .Types("Text:", "Gr\xc3\xbc\xc3\x9f"
                         "e & <b>")
-        .Types("Lines:", "one\r\n\r\nthree")
+        .Types("Lines:", "one\r\n\r\nthree \xc2\xa0\xe2\x80\xa8")
         .Types("Digits:", "4a5")
         .Types("Kind:", "violet")
         .Picks("Fixed:", "two")
@@ -55,10 +55,21 @@ TEST_P(DesktopPromises, WhatThePersonLeavesReachesTheFields) {
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Text, "Gr\xc3\xbc\xc3\x9f"
                                "e & <b>");
-    EXPECT_EQ(m_Dialog.m_Lines, "one\r\n\r\nthree");
+    EXPECT_EQ(m_Dialog.m_Lines, "one\r\n\r\nthree \xc2\xa0\xe2\x80\xa8");
     EXPECT_EQ(m_Dialog.m_Digits, "45");
     EXPECT_EQ(m_Dialog.m_Kind, "violet");
     EXPECT_EQ(m_Dialog.m_nFixed, 2);
+}
+
+TEST_P(DesktopPromises, ABoxForDigitsTakesNothingElseAndKeepsWhatTheProgramPutIn) {
+    m_Dialog.m_Digits = "50%";
+    m_Person.In("Everything");
+    for (const auto& [pTyped, pShown] :
+         {std::pair("50%x", "50%"), {"150%", "150%"}, {"150%", "150%"}, {"1a", "1"}})
+        m_Person.Types("Digits:", pTyped).Shows("Digits:", pShown);
+    m_Person.Clicks("OK");
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Digits, "1");
 }
 
 TEST_P(DesktopPromises, WhatAHandlerChangesShowsAtOnce) {
@@ -88,6 +99,13 @@ TEST_P(DesktopPromises, ASpinControlStepsTheNumberInItsBoxWithinItsRange) {
         .Types("Number:", "2em")
         .Turns("Number:", -1)
         .Shows("Number:", "49")
+        .Types("Number:", "007")
+        .Turns("Number:", 1)
+        .Shows("Number:", "8")
+        .Turns("Number:", -9)
+        .Types("Number:", "none")
+        .Turns("Number:", -1)
+        .Shows("Number:", "none")
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Log.Left(7), "number ");

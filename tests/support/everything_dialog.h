@@ -58,8 +58,13 @@ public:
     std::vector<CToolTipText> GetToolTips() const override {
         return {{{0, 0, 40, 30}, "Left"}, {{40, 0, 80, 30}, "Right"}};
     }
+    CString GetCurrentText() const override { return m_bRight ? "Right" : ""; }
     void Draw(CCanvas& canvas) const override { canvas.FillRect({0, 0, 80, 30}, MakeColour(255, 0, 0)); }
-    void OnMouseMove(CPersonKey, CPoint point) override { m_Log += point.x < 40 ? "<" : ">"; }
+    void OnMouseMove(CPersonKey, CPoint point) override {
+        m_bRight = point.x >= 40;
+        m_Log += m_bRight ? ">" : "<";
+        Invalidate();
+    }
     void OnLeftButtonUp(CPersonKey, CPoint) override { End("picked "); }
     void OnKeyDown(CPersonKey, PopupKey key) override { End(key == PopupKey::Escape ? "escaped " : "key "); }
     void OnDeactivate(CPersonKey) override { End("left "); }
@@ -75,6 +80,7 @@ private:
     }
 
     CString& m_Log;
+    bool m_bRight = false;
     CRect m_Rect = {120, 120, 200, 150};
 };
 

@@ -19,7 +19,7 @@ public:
     CStringArray m_FontFamilies = {"Verdana", "Arial", "Courier New"};
     // Where each owner-drawn button stands.
     CRect m_ButtonRect = {100, 100, 160, 120};
-    CSize m_Screen = {1024, 768};
+    CRect m_Screen = {0, 0, 1024, 768};
 
     void RunDialog(CDialog& dialog) override;
     int ShowMessageBox(const CString& text, MessageBoxKind kind) override;
@@ -28,7 +28,8 @@ public:
     void OpenPopup(CPopupWindow& popup) override;
     void ClosePopup(CPopupWindow& popup) override;
     CRect GetScreenRect(const COwnerDrawnButton&) const override { return m_ButtonRect; }
-    CScreenMetrics GetMetrics() const override { return {m_Screen, {2, 2}, {16, 16}}; }
+    CRect GetScreenAround(const CRect&) const override { return m_Screen; }
+    CThemeMetrics GetMetrics() const override { return {{2, 2}, {16, 16}}; }
     CSize MeasureText(const CString& text) const override;
     CColour GetSystemColour(SystemColour colour) const override;
     CStringArray GetFontFamilies() const override { return m_FontFamilies; }
