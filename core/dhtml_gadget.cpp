@@ -40,9 +40,9 @@ CString WholeBorder(const CString& width, const CString& style, const CString& c
 
 void CopyScript(const char* pFileName, const char* pPageName, const CString& directory) {
     const CString source = GetModuleDirectory() + "\\" + pFileName;
-    CopyWholeFile(source, directory + pFileName);
+    CopyWholeFile(source, directory + pFileName, Spelling::Exact);
     if (CString(pFileName) != pPageName)
-        CopyWholeFile(source, directory + pPageName);
+        CopyWholeFile(source, directory + pPageName, Spelling::Exact);
 }
 
 void RegisterScript(CVignelConfig& config, const char* pName, const CString& webPath) {

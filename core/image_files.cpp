@@ -5,6 +5,30 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_set>
+
+namespace {
+
+// Copies those that the user needn't be asked about, and hands the others to the dialog.
+void CopyFreeImages(std::span<CString> images, const CString& directory, short force,
+                    CCopyResourcesDlg& dialog) {
+    const CListedDirectories listed;
+    std::unordered_set<std::string> copied;
+    for (CString& image : images) {
+        // CopyGadgetFile walks through its list; with no other path in it, n images take n steps.
+        const std::string source(image.View());
+        CStringArray handled;
+        if (copied.contains(source))
+            handled.Add(image);
+        if (!CopyGadgetFile(image, directory, handled, force))
+            dialog.AddClash(image);
+        else if (!handled.IsEmpty())
+            copied.insert(source);
+    }
+}
+
+} // namespace
 
 CString ImageDirectoryOfMode(CVignelConfig& config, short mode, const CStringArray& images,
                              const CString& remoteDirectory) {
@@ -27,6 +51,7 @@ bool RegisterImage(CVignelConfig& config, const CString& path, const CString& we
 }
 
 void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& webPath) {
+    const CListedDirectories listed;
     for (CString& image : images) {
         if (!image.IsEmpty() && !RegisterImage(config, image, webPath))
             image.Empty();
@@ -36,11 +61,7 @@ void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& 
 void CopyImages(std::span<CString> images, const CString& directory, short force) {
     CCopyResourcesDlg dialog;
     dialog.m_Destination = directory;
-    CStringArray handled;
-    for (CString& image : images) {
-        if (!CopyGadgetFile(image, directory, handled, force))
-            dialog.AddClash(image);
-    }
+    CopyFreeImages(images, directory, force, dialog);
     if (dialog.m_nClashes > 0)
         dialog.DoModal();
 }

@@ -4,9 +4,8 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 
 namespace {
@@ -50,9 +49,12 @@ VignelResource ParseResource(std::string_view line) {
     const size_t nLast = line.rfind('=');
     VignelResource resource;
     resource.m_Name = Trim(line.substr(0, nFirst));
-    resource.m_LocalPath = Trim(line.substr(nFirst + 1, nFirst == nLast ? nLast : nLast - nFirst - 1));
-    if (nFirst != nLast)
+    if (nFirst == nLast) {
+        resource.m_LocalPath = Trim(line.substr(nFirst + 1));
+    } else {
+        resource.m_LocalPath = Trim(line.substr(nFirst + 1, nLast - nFirst - 1));
         resource.m_WebPath = Trim(line.substr(nLast + 1));
+    }
     return resource;
 }
 
@@ -111,8 +113,12 @@ void ReadResources(CLineReader& lines, CArray<VignelResource>& resources) {
 }
 
 void ReadBody(CLineReader& lines, std::string& body) {
-    while (lines.Next() && !EqualsNoCase(lines.Line(), kSegmentEnd))
+    while (lines.Next() && !EqualsNoCase(lines.Line(), kSegmentEnd)) {
+        const size_t nNeeded = body.size() + lines.Line().size() + kLineEnd.size();
+        if (nNeeded > body.capacity()) // in one step for the line and its end
+            body.reserve(std::max(nNeeded, 2 * body.capacity()));
         body.append(lines.Line()).append(kLineEnd);
+    }
 }
 
 void ReadSegments(CLineReader& lines, CArray<VignelSegment>& segments) {
@@ -186,6 +192,18 @@ void WriteSegments(COutputFile& file, const CArray<VignelSegment>& segments) {
     WritePartEnd(file, kHtmlPart);
 }
 
+// The number that the text begins with, 0 without one. As the writing of it, this disregards the locale that
+// the host has set: a file is the same everywhere.
+double ToDouble(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n\v\f"), text.size()));
+    if (text.starts_with('+'))
+        text.remove_prefix(1);
+    double number = 0;
+    if (text.find_first_of("0123456789.") <= (text.starts_with('-') ? 1u : 0u)) // not of "inf" or "nan"
+        std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
 const VignelResource kNoResource;
 
 const VignelResource& ResourceAt(const CArray<VignelResource>& resources, short nIndex) {
@@ -206,13 +224,13 @@ bool CVignelConfig::SetProperty(const char* pKey, const CString& text) {
 }
 
 double CVignelConfig::GetLastUpdateTime() {
-    return atof(m_DescriptionMap["LastUpdateTime"]);
+    return ToDouble(m_DescriptionMap["LastUpdateTime"]);
 }
 
 bool CVignelConfig::SetLastUpdateTime(double time) {
     char text[400]; // the longest double has 309 digits before its point
-    snprintf(text, sizeof text, "%.9f", time);
-    return SetProperty("LastUpdateTime", text);
+    const auto end = std::to_chars(text, text + sizeof text, time, std::chars_format::fixed, 9);
+    return SetProperty("LastUpdateTime", std::string_view(text, end.ptr));
 }
 
 CString CVignelConfig::GetParameter(const CString& key, const CString& defaultValue) const {

@@ -85,7 +85,7 @@ bool CBrowseFilesDlg::CheckDirectory() {
         m_Directory += '\\';
     if (m_FileTypes.Right(1) != ";")
         m_FileTypes += ';';
-    if (DirectoryExists(m_Directory))
+    if (DirectoryExists(m_Directory.Left(m_Directory.GetLength() - 1)))
         return true;
     AfxMessageBox("Directory " + m_Directory + " does not exist!", MessageBoxKind::Warning);
     return false;

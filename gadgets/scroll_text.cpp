@@ -103,6 +103,7 @@ CString CScrollText::GetHTMLBody(CVignelConfig& config, short mode, short positi
     const bool bWithScript = mode == kPreview || mode == kPublish;
     if (position != 0 && bWithScript)
         return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "scrolltext.js");
+    GrowTo(m_Texts.GetSize(), m_Links);
     return MakeHtml([&](CHtmlText& html) {
         html.Line(R"(<table width=")", m_TableWidth, R"(" align=")", m_TableAlign, R"(" style="border:)",
                   m_BorderWidth, " ", m_BorderStyle, " #", m_BorderColor, R"(;">)");

@@ -73,7 +73,7 @@ private:
     void Write(const std::string& name, const std::string& content) {
         COutputFile file;
         errno = 0;
-        bool bWritten = file.Open(ComponentPath(m_Out / name));
+        bool bWritten = file.Open(ComponentPath(m_Out / name), Spelling::Exact);
         if (bWritten) {
             file.Write(content);
             bWritten = file.Commit(false);

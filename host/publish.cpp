@@ -29,7 +29,7 @@ void WritePage(const fs::path& path, const std::string& bytes, const std::string
     COutputFile::RemoveLeftovers(ComponentPath(path.parent_path()));
     COutputFile file;
     errno = 0;
-    bool bWritten = file.Open(ComponentPath(path));
+    bool bWritten = file.Open(ComponentPath(path), Spelling::Exact);
     if (bWritten) {
         file.Write(bytes);
         bWritten = file.Commit();

@@ -171,7 +171,7 @@ void CFileCopies::Run() {
         std::error_code failed;
         fs::create_directories(target.parent_path(), failed);
         errno = failed.value();
-        if (failed || !CopyWholeFile(source, ComponentPath(target)))
+        if (failed || !CopyWholeFile(source, ComponentPath(target), Spelling::Exact))
             m_Report.Error(target.string(), "can't be written: " + SystemReason());
     }
 }

@@ -28,12 +28,26 @@ CString FileNameOnDisk(const CString& path);
 // characters, "?" for one; case plays no part. Empty when the directory can't be read.
 CStringArray FindFiles(const CString& directory, const CString& pattern);
 
-// Copies a file's bytes, replacing `to`, which keeps its permissions if it exists. The copy is whole or
-// absent: on a failure `to` is as it was. Copying a file onto itself, under whatever spelling, leaves it
-// alone and succeeds.
-bool CopyWholeFile(const CString& from, const CString& to);
+// What writing to a path does where the disk tells case apart and has a file of this name in another case:
+// that file is meant, or one of exactly this name, for those who look for a name as it is spelled.
+enum class Spelling { AnyCase, Exact };
 
-// A file read from its start to its end.
+// Copies a file's bytes, replacing `to`, which keeps its permissions if it exists. The copy is whole or
+// absent: on a failure `to` is as it was. Copying a file onto itself leaves it alone and succeeds.
+bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling = Spelling::AnyCase);
+
+// While one of these lives, looking for names that aren't on the disk as they are spelled lists each
+// directory once, and not again for each name. For runs over many files on one thread: what other processes
+// add meanwhile, under another case than it is looked for, may not be seen.
+class CListedDirectories {
+public:
+    CListedDirectories();
+    ~CListedDirectories();
+    CListedDirectories(const CListedDirectories&) = delete;
+    CListedDirectories& operator=(const CListedDirectories&) = delete;
+};
+
+// A file read from its start to its end. A pipe or a device is none.
 class CInputFile {
 public:
     CInputFile() = default;
@@ -56,7 +70,9 @@ bool ReadWholeFile(const CString& path, std::string& content);
 
 // A file that is replaced as a whole: what is written goes to a temporary file beside it, which takes its
 // name on Commit. Until then, and for ever if anything fails or the process dies, the old file stays as it
-// was. What exists but is no plain file (a device, a pipe) is written directly.
+// was. So the directory has to be writable too. The new file has the old one's permissions and, where the
+// system allows it, its owner; a hard link to the old one keeps the old content. What exists but is no plain
+// file (a device, a pipe that somebody reads) is written directly.
 class COutputFile {
 public:
     // Deletes the temporary files that processes of this machine left in the directory when they were
@@ -69,7 +85,7 @@ public:
     COutputFile& operator=(const COutputFile&) = delete;
 
     // False when a file can't be created there, or when the one that is there must not be written.
-    bool Open(const CString& path);
+    bool Open(const CString& path, Spelling spelling = Spelling::AnyCase);
 
     // Appends. A failure is remembered for Commit.
     void Write(std::string_view bytes);

@@ -2,17 +2,19 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <unordered_map>
 #include <vector>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -44,15 +46,48 @@ void ForEachName(const std::string& directory, const std::function<void(const ch
     closedir(pDirectory);
 }
 
-// The first name in byte order that equals the given one but for case.
+std::string LowerCase(std::string_view name) {
+    return std::string(CString(name).MakeLower().View());
+}
+
+// A directory's names by their lower-case form; of several, the first in byte order.
+using CNames = std::unordered_map<std::string, std::string>;
+
+void AddName(CNames& names, std::string_view name) {
+    const auto [entry, bNew] = names.try_emplace(LowerCase(name), name);
+    if (!bNew && name < entry->second)
+        entry->second = name;
+}
+
+CNames NamesOf(const std::string& directory) {
+    CNames names;
+    ForEachName(directory, [&](const char* pName) { AddName(names, pName); });
+    return names;
+}
+
+// By the directory's path with "/" at its end; while a CListedDirectories lives.
+thread_local std::unordered_map<std::string, CNames> t_listed;
+thread_local int t_nListing = 0;
+
+// The directory's path ends in "/", or is empty.
 std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
-    const CString wanted = CString(name).MakeLower();
-    std::optional<std::string> found;
-    ForEachName(directory, [&](const char* pName) {
-        if (CString(pName).MakeLower() == wanted && (!found || pName < *found))
-            found = pName;
-    });
-    return found;
+    CNames fresh;
+    const CNames* pNames = &fresh;
+    if (t_nListing == 0)
+        fresh = NamesOf(directory);
+    else if (const auto listed = t_listed.find(directory); listed != t_listed.end())
+        pNames = &listed->second;
+    else
+        pNames = &t_listed.emplace(directory, NamesOf(directory)).first->second;
+    const auto found = pNames->find(LowerCase(name));
+    return found == pNames->end() ? std::nullopt : std::optional(found->second);
+}
+
+// Tells the listed directories of a new file.
+void NoteNewFile(const std::string& path) {
+    const size_t nName = path.rfind('/') + 1;
+    if (const auto listed = t_listed.find(path.substr(0, nName)); listed != t_listed.end())
+        AddName(listed->second, std::string_view(path).substr(nName));
 }
 
 // The path as the disk spells it, or nothing when no spelling of it exists.
@@ -86,20 +121,29 @@ std::optional<std::string> FindFileOnDisk(const CString& path) {
     return found && IsPlainFile(*found) ? found : std::nullopt;
 }
 
-// Where a file of this path is to be written: its directory as the disk spells it, its name as the caller
-// does, and no symbolic link, which replacing would break.
-std::string TargetOf(const CString& path) {
+// What a chain of symbolic links leads to, be it there or not.
+std::string BehindLinks(std::string path) {
+    std::error_code none;
+    for (int nLink = 0; nLink < 40; ++nLink) {
+        const fs::path link = fs::read_symlink(path, none);
+        if (none)
+            break;
+        path = (fs::path(path).parent_path() / link).string();
+    }
+    return path;
+}
+
+// Where a file of this path is to be written: its directory as the disk spells it, and no symbolic link,
+// which replacing would break.
+std::string TargetOf(const CString& path, Spelling spelling) {
     std::string target = SystemPath(path);
     const size_t nName = target.rfind('/') + 1;
-    if (nName > 0) {
-        if (const auto directory = FindOnDisk(target.substr(0, nName)))
-            target = *directory + target.substr(nName);
-    }
-    if (char* pResolved = realpath(target.c_str(), nullptr)) {
-        target = pResolved;
-        free(pResolved);
-    }
-    return target;
+    const auto found = spelling == Spelling::AnyCase ? FindOnDisk(target) : std::nullopt;
+    if (found)
+        target = *found;
+    else if (const auto directory = FindOnDisk(target.substr(0, nName)))
+        target = *directory + target.substr(nName);
+    return BehindLinks(target);
 }
 
 bool WriteAll(int nFile, std::string_view bytes) {
@@ -156,8 +200,13 @@ bool SameFile(const std::string& left, const std::string& right) {
            leftStatus.st_dev == rightStatus.st_dev && leftStatus.st_ino == rightStatus.st_ino;
 }
 
-bool IsRunning(pid_t nProcess) {
-    return nProcess > 0 && (kill(nProcess, 0) == 0 || errno != ESRCH);
+// Whether this is the name of a temporary file, as CreateBeside makes them, of a process that is no more.
+bool IsLeftover(const char* pName) {
+    int nProcess = 0, nEnd = 0;
+    const std::string format = std::string(kTemporaryPrefix) + "%d-%*u%n";
+    if (sscanf(pName, format.c_str(), &nProcess, &nEnd) != 1 || nEnd == 0 || pName[nEnd] || nProcess <= 0)
+        return false;
+    return kill(nProcess, 0) != 0 && errno == ESRCH;
 }
 
 } // namespace
@@ -191,15 +240,24 @@ CStringArray FindFiles(const CString& directory, const CString& pattern) {
     return names;
 }
 
-bool CopyWholeFile(const CString& from, const CString& to) {
+CListedDirectories::CListedDirectories() {
+    ++t_nListing;
+}
+
+CListedDirectories::~CListedDirectories() {
+    if (--t_nListing == 0)
+        t_listed.clear();
+}
+
+bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling) {
     const auto source = FindFileOnDisk(from);
     if (!source)
         return false;
-    if (SameFile(*source, TargetOf(to)))
+    if (SameFile(*source, TargetOf(to, spelling)))
         return true;
     CInputFile input;
     COutputFile output;
-    if (!input.Open(from) || !output.Open(to))
+    if (!input.Open(from) || !output.Open(to, spelling))
         return false;
     struct stat status {};
     off_t nLeft = stat(source->c_str(), &status) == 0 ? status.st_size : 0;
@@ -221,9 +279,9 @@ bool CInputFile::Open(const CString& path) {
     const auto found = FindOnDisk(SystemPath(path));
     if (!found)
         return false;
-    m_nFile = open(found->c_str(), O_RDONLY | O_CLOEXEC);
+    m_nFile = open(found->c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // a pipe could keep one waiting
     struct stat status {};
-    if (m_nFile >= 0 && (fstat(m_nFile, &status) != 0 || S_ISDIR(status.st_mode))) {
+    if (m_nFile >= 0 && (fstat(m_nFile, &status) != 0 || !S_ISREG(status.st_mode))) {
         close(m_nFile);
         m_nFile = -1;
     }
@@ -255,8 +313,7 @@ void COutputFile::RemoveLeftovers(const CString& directory) {
         return;
     std::vector<std::string> leftovers;
     ForEachName(*found, [&](const char* pName) {
-        const std::string_view name(pName);
-        if (name.starts_with(kTemporaryPrefix) && !IsRunning(ToInteger(name.substr(kTemporaryPrefix.size()))))
+        if (IsLeftover(pName) && IsPlainFile(*found + "/" + pName))
             leftovers.push_back(*found + "/" + pName);
     });
     for (const std::string& path : leftovers)
@@ -276,22 +333,27 @@ void COutputFile::Discard() {
     m_Temporary.clear();
 }
 
-bool COutputFile::Open(const CString& path) {
+bool COutputFile::Open(const CString& path, Spelling spelling) {
     Discard();
     m_bFailed = false;
     m_Pending.clear();
-    m_Target = TargetOf(path);
+    m_Target = TargetOf(path, spelling);
     if (m_Target.empty() || m_Target.find('\0') != std::string::npos)
         return false;
     struct stat status {};
     if (stat(m_Target.c_str(), &status) != 0) {
         m_nFile = CreateBeside(m_Target, 0666, m_Temporary);
     } else if (!S_ISREG(status.st_mode)) {
-        m_nFile = open(m_Target.c_str(), O_WRONLY | O_CLOEXEC);
+        m_nFile = open(m_Target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+        if (m_nFile >= 0)
+            m_bFailed = fcntl(m_nFile, F_SETFL, 0) != 0; // only the opening of a pipe mustn't wait
     } else if (access(m_Target.c_str(), W_OK) == 0) {
         m_nFile = CreateBeside(m_Target, status.st_mode & 0777, m_Temporary);
-        if (m_nFile >= 0)
+        if (m_nFile >= 0) {
+            // Only a privileged process may give a file away; the permissions come after, which this resets.
+            [[maybe_unused]] const int nGiven = fchown(m_nFile, status.st_uid, status.st_gid);
             m_bFailed = fchmod(m_nFile, status.st_mode & 07777) != 0;
+        }
     }
     if (m_nFile < 0)
         m_Temporary.clear();
@@ -327,8 +389,10 @@ bool COutputFile::Commit(bool bDurable) {
     m_nFile = -1;
     if (!m_bFailed && !m_Temporary.empty()) {
         m_bFailed = rename(m_Temporary.c_str(), m_Target.c_str()) != 0;
-        if (!m_bFailed)
+        if (!m_bFailed) {
             m_Temporary.clear();
+            NoteNewFile(m_Target);
+        }
     }
     Discard();
     return !m_bFailed;

@@ -1,6 +1,5 @@
 #include "platform/module.h"
 
-#include <algorithm>
 #include <dlfcn.h>
 #include <stdlib.h>
 
@@ -23,14 +22,15 @@ std::string FindDirectory() {
     return path.erase(path.rfind('/'));
 }
 
-CString FindModuleDirectory() {
-    std::string path = FindDirectory();
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return CString(std::move(path));
-}
+// Asked for while the library is loaded: its path may be a relative one, and the host's directory may change.
+const std::string g_directory = FindDirectory();
 
 CString& ModuleDirectory() {
-    static CString directory = FindModuleDirectory();
+    static CString directory = [] {
+        CString path(g_directory);
+        path.Replace("/", "\\");
+        return path;
+    }();
     return directory;
 }
 
@@ -45,10 +45,9 @@ void SetModuleDirectory(const CString& directory) {
 }
 
 void* LoadNeighbour(const char* pLibrary, const char* pFunction) {
-    const std::string directory = FindDirectory();
-    if (directory.empty())
+    if (g_directory.empty())
         return nullptr;
-    const std::string file = directory + "/lib" + pLibrary + ".so";
+    const std::string file = g_directory + "/lib" + pLibrary + ".so";
     void* pLoaded = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     return pLoaded ? dlsym(pLoaded, pFunction) : nullptr;
 }

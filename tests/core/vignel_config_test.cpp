@@ -116,8 +116,9 @@ TEST_F(VignelConfig, ReadsOddLinesAsTold) {
          "==========\r\nB = 2\r\n",
          "[D][][========= Parameter Part Begin ==========] [D][A][1] [D][B][2] "},
         {"resource lines",
-         File("", "", "resource NUMBER=4\r\n a = b \r\nnone\r\na=b=c\r\na= b=c=d =e\r\n==\r\n", s0),
-         "[R][a][b][] [R][a][b][c] [R][a][b=c=d][e] [R][][][] "},
+         File("", "",
+              "resource NUMBER=5\r\n a = b:\\long path \r\nnone\r\n=b\r\na=b=c\r\na= b=c=d =e\r\n==\r\n", s0),
+         "[R][a][b:\\long path][] [R][][b][] [R][a][b][c] [R][a][b=c=d][e] [R][][][] "},
         {"a count of 2 more than 65,536",
          File("", "", "Resource Number = 65538\r\na=b=c\r\nd=e=f\r\ng=h=i\r\n", s0),
          "[R][a][b][c] [R][d][e][f] "},
@@ -135,6 +136,22 @@ TEST_F(VignelConfig, ReadsOddLinesAsTold) {
     };
     for (const auto& [pWhat, bytes, content] : cases)
         EXPECT_EQ(ContentOf(bytes), content) << pWhat;
+}
+
+TEST_F(VignelConfig, ReadsTheTimeFromTheNumberInFrontWhateverTheLocale) {
+    for (const auto& [pText, time] : {std::pair(" +15.5x", 15.5),
+                                      {"-2,5", -2.0},
+                                      {".5", 0.5},
+                                      {"1e2", 100.0},
+                                      {"0x10", 0.0},
+                                      {"inf", 0.0},
+                                      {"-nan", 0.0},
+                                      {"-", 0.0},
+                                      {"", 0.0}}) {
+        CVignelConfig config;
+        config.m_DescriptionMap["LastUpdateTime"] = pText;
+        EXPECT_EQ(config.GetLastUpdateTime(), time) << pText;
+    }
 }
 
 TEST_F(VignelConfig, KeepsWhatWasReadWhereAFileEnds) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -116,13 +117,58 @@ TEST(Files, ACopyOntoItselfLeavesTheFileWhole) {
     const CTemporaryDirectory directory;
     const CString path = directory.Write("Page.cfg", "content");
     fs::create_symlink("Page.cfg", directory.File("link"));
-    for (const CString& spelling : {path, directory.Path() + "\\.\\Page.cfg", directory.Path("link")})
+    for (const CString& spelling :
+         {path, directory.Path() + "\\.\\Page.cfg", directory.Path("link"), directory.Path("PAGE.cfg")})
         EXPECT_TRUE(CopyWholeFile(path, spelling)) << spelling;
-    // Another spelling of the name is another file here, and its own copy.
-    EXPECT_TRUE(CopyWholeFile(path, directory.Path("page.cfg")));
     EXPECT_EQ(FileContent(directory.File("Page.cfg")), "content");
-    EXPECT_EQ(FileContent(directory.File("page.cfg")), "content");
     EXPECT_TRUE(fs::is_symlink(directory.File("link")));
+    EXPECT_EQ(CountNames(directory), 2);
+}
+
+TEST(Files, AnotherSpellingMeansTheFileThatIsThereUnlessItIsAskedForExactly) {
+    const CTemporaryDirectory directory;
+    const CString from = directory.Write("from", "new");
+    directory.Write("Photo.GIF", "old");
+    EXPECT_TRUE(CopyWholeFile(from, directory.Path("photo.gif"), Spelling::Exact));
+    EXPECT_EQ(FileContent(directory.File("Photo.GIF")), "old");
+    EXPECT_TRUE(CopyWholeFile(from, directory.Path("PHOTO.gif")));
+    EXPECT_EQ(FileContent(directory.File("Photo.GIF")), "new") << "the first of two, as for readers";
+    EXPECT_EQ(CountNames(directory), 3);
+}
+
+TEST(Files, ListedDirectoriesKnowWhatIsPutIntoThemMeanwhile) {
+    const CTemporaryDirectory directory;
+    const CString from = directory.Write("from", "new");
+    const CListedDirectories listed;
+    EXPECT_FALSE(FileExists(directory.Path("PHOTO.gif")));
+    EXPECT_TRUE(CopyWholeFile(from, directory.Path("photo.gif")));
+    EXPECT_EQ(FileNameOnDisk(directory.Path("PHOTO.gif")), "photo.gif");
+}
+
+TEST(Files, APipeIsNoFileAndNothingIsWaitedFor) {
+    const CTemporaryDirectory directory;
+    ASSERT_EQ(mkfifo(directory.File("pipe").c_str(), 0666), 0);
+    std::string content;
+    EXPECT_FALSE(ReadWholeFile(directory.Path("pipe"), content));
+    EXPECT_FALSE(COutputFile().Open(directory.Path("pipe")));
+}
+
+TEST(Files, OnlyWhatADeadWriterLeftIsRemoved) {
+    const pid_t nDead = fork();
+    if (nDead == 0)
+        _exit(0);
+    waitpid(nDead, nullptr, 0);
+    const CTemporaryDirectory directory;
+    const std::string leftover = ".orrelix-" + std::to_string(nDead) + "-1";
+    const std::string kept[] = {".orrelix-notes.txt", ".orrelix-", ".orrelix--1", leftover + ".txt",
+                                ".orrelix-" + std::to_string(getpid()) + "-1"};
+    for (const std::string& name : kept)
+        directory.Write(name, "");
+    directory.Write(leftover, "");
+    COutputFile::RemoveLeftovers(directory.Path());
+    EXPECT_FALSE(fs::exists(directory.File(leftover)));
+    for (const std::string& name : kept)
+        EXPECT_TRUE(fs::exists(directory.File(name))) << name;
 }
 
 TEST(Files, WhatIsNotCommittedChangesNothing) {
@@ -157,12 +203,15 @@ TEST(Files, WhatIsNotCommittedChangesNothing) {
 
 TEST(Files, AReplacedLinkStaysALink) {
     const CTemporaryDirectory directory;
-    directory.Write("real", "old");
-    fs::create_symlink("real", directory.File("link"));
-    COutputFile file;
-    ASSERT_TRUE(file.Open(directory.Path("link")));
-    file.Write("new");
-    EXPECT_TRUE(file.Commit());
-    EXPECT_TRUE(fs::is_symlink(directory.File("link")));
-    EXPECT_EQ(FileContent(directory.File("real")), "new");
+    directory.Write("there", "old");
+    for (const char* pReal : {"there", "not yet"}) {
+        const std::string link = std::string("link to ") + pReal;
+        fs::create_symlink(pReal, directory.File(link));
+        COutputFile file;
+        ASSERT_TRUE(file.Open(directory.Path(link)));
+        file.Write("new");
+        EXPECT_TRUE(file.Commit());
+        EXPECT_TRUE(fs::is_symlink(directory.File(link)));
+        EXPECT_EQ(FileContent(directory.File(pReal)), "new");
+    }
 }
