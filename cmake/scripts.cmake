@@ -3,8 +3,15 @@
 # A page counts on finding the one script file of its effect and no other, so each carries what it shares with others in
 # front of itself: the compatibility script, and the drop-down list where it is one. fade.js goes without: a page loads
 # it behind fadeselect.js.
+#
+# Three are registered as resources under another spelling than their own. Where the disk tells case apart they lie
+# there under both, so that a host that copies what is registered finds it.
 file(GLOB script_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} scripts/*.js)
 list(REMOVE_ITEM script_sources scripts/drop_down.js)
+set(registered_otherwise animate.js Todayca.js Tooltip.js)
+set(registered_animate.js Animate.js)
+set(registered_Todayca.js todayca.js)
+set(registered_Tooltip.js tooltip.js)
 set(shipped_scripts)
 foreach(script ${script_sources})
     cmake_path(GET script FILENAME name)
@@ -16,11 +23,17 @@ foreach(script ${script_sources})
         list(PREPEND parts scripts/orrelix-compat.js)
     endif()
     list(TRANSFORM parts PREPEND ${PROJECT_SOURCE_DIR}/)
-    set(shipped ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${name})
-    add_custom_command(OUTPUT ${shipped}
-        COMMAND ${CMAKE_COMMAND} -E cat ${parts} > ${shipped}
-        DEPENDS ${parts} VERBATIM)
-    list(APPEND shipped_scripts ${shipped})
+    set(names ${name})
+    if(CMAKE_HOST_SYSTEM_NAME STREQUAL Linux AND name IN_LIST registered_otherwise)
+        list(APPEND names ${registered_${name}})
+    endif()
+    foreach(spelling ${names})
+        set(shipped ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${spelling})
+        add_custom_command(OUTPUT ${shipped}
+            COMMAND ${CMAKE_COMMAND} -E cat ${parts} > ${shipped}
+            DEPENDS ${parts} VERBATIM)
+        list(APPEND shipped_scripts ${shipped})
+    endforeach()
 endforeach()
 add_custom_target(scripts ALL DEPENDS ${shipped_scripts})
 

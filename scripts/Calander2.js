@@ -51,9 +51,9 @@
     function clock() {
         const time = format({ timeStyle: brndfn.calm() ? "short" : "medium" });
         const box = element("span", `display: inline-flex; flex: none; align-items: center; justify-content: center;
-            box-sizing: border-box; border: 1px solid rgb(128 128 128 / 0.5); border-radius: 3px; overflow: hidden;
-            white-space: nowrap; font-variant-numeric: tabular-nums;
-            ${declarations(window.brndfncalenstyletextbutton)}`);
+            box-sizing: border-box; padding: 0 0.3em; border: 1px solid rgb(128 128 128 / 0.5); border-radius: 3px;
+            overflow: hidden; white-space: nowrap; font-variant-numeric: tabular-nums;
+            ${declarations(window.brndfncalenstyletextbutton)}; min-width: max-content`);
         box.setAttribute("role", "timer"); // a role that is not read out at each change
         box.setAttribute("aria-label", "Time");
         box.tabIndex = 0;
@@ -63,7 +63,7 @@
                 box.textContent = now;
         };
         show();
-        brndfn.pausable(box, brndfn.every(1000, show));
+        brndfn.pausable(box, brndfn.every(box, 1000, show));
         return box;
     }
 
@@ -130,6 +130,6 @@
         draw();
         place(element("div", `color: ${readableOn(background)};
             ${declarations(window.brndfncalenstylecalander)}; background-color: ${background};`, table));
-        brndfn.every(1000, draw); // for the page that stays open past midnight
+        brndfn.every(table, 1000, draw); // for the page that stays open past midnight
     };
 })();

@@ -71,7 +71,7 @@
             box.ariaHidden = inside ? null : "true";
             box.ariaCurrent = inside && day === today ? "date" : null;
         }
-        [YEAR, MONTH, TODAY].forEach((index) => fit(form.elements[index]));
+        [...Object.keys(BOX_LABELS), ...Object.keys(BUTTON_LABELS)].forEach((index) => fit(form.elements[index]));
     }
 
     // A text too long for its box would be cut off: it is set smaller.
@@ -95,12 +95,12 @@
         table.classList.add("brndfncalendar");
         labelTable(table);
         [...form.elements].forEach((element, index) => {
+            element.dataset.brndfnFontSize = element.style.fontSize;
             if (element.type === "button") {
                 labelButton(element, BUTTON_LABELS[index]);
                 return;
             }
             element.tabIndex = -1;
-            element.dataset.brndfnFontSize = element.style.fontSize;
             if (index in BOX_LABELS)
                 element.setAttribute("aria-label", BOX_LABELS[index]);
             else

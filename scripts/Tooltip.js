@@ -163,9 +163,9 @@
         tip.box.style.top = `${top}px`;
     }
 
-    function startMovement({ strips }) {
+    function startMovement({ box, strips }) {
         let elapsed = -STAND;
-        return brndfn.frames((milliseconds) => {
+        return brndfn.frames(box, (milliseconds) => {
             if (active.at === "tip")
                 return;
             elapsed += milliseconds;

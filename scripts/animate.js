@@ -69,7 +69,7 @@
 
         showNext();
         draw(stateAt(0, distance));
-        const handle = brndfn.frames((elapsed) => {
+        const handle = brndfn.frames(element, (elapsed) => {
             time += elapsed;
             if (stateAt(time, distance).bOver)
                 showNext();

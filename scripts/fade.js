@@ -28,7 +28,7 @@
             done();
         }
         if (nSteps > 0)
-            running.set(element, brndfn.every(milliseconds, step));
+            running.set(element, brndfn.every(element, milliseconds, step));
         else
             step();
     };

@@ -179,32 +179,38 @@
         };
     }
 
-    function frames(fn) {
+    // fn(milliseconds since the last frame), with each frame until the element leaves the page.
+    function frames(element, fn) {
         let nRequest = 0;
         let nLast;
         function frame(nNow) {
+            if (!element.isConnected)
+                return handle.stop();
             nRequest = requestAnimationFrame(frame);
             const nElapsed = nLast === undefined ? 0 : nNow - nLast;
             nLast = nNow;
             fn(nElapsed);
         }
-        return runner(
+        const handle = runner(
             () => {
                 nLast = undefined;
                 nRequest = requestAnimationFrame(frame);
             },
             () => cancelAnimationFrame(nRequest),
         );
+        return handle;
     }
 
-    function every(nMilliseconds, fn) {
+    // fn(), again and again until the element leaves the page.
+    function every(element, nMilliseconds, fn) {
         let nTimer = 0;
-        return runner(
+        const handle = runner(
             () => {
-                nTimer = setInterval(() => fn(), nMilliseconds);
+                nTimer = setInterval(() => (element.isConnected ? fn() : handle.stop()), nMilliseconds);
             },
             () => clearInterval(nTimer),
         );
+        return handle;
     }
 
     function pausable(element, handle) {
@@ -250,23 +256,30 @@
     });
 
     // All handlers that were assigned, in order: the page's own, from <body onload> too, and those of effects.
-    // Page scripts that save the old handler and call it from theirs get runAll; none runs twice in one load.
+    // Page scripts that save the old handler and call it from theirs get a function for those of that time. None
+    // runs twice in one load or one such call, however they call each other.
     const loadHandlers = [];
-    const handlersDone = new Set();
+    const savedChains = new WeakSet();
     const nativeOnload = Object.getOwnPropertyDescriptor(window, "onload");
-    let bLoading = false;
+    let chain = null; // for the handlers of now
+    let handlersDone = null; // while a call is under way
+
+    function addHandler(handler) {
+        loadHandlers.push(handler);
+        chain = null;
+    }
 
     function adoptNativeHandler() {
         const handler = nativeOnload.get.call(window);
         if (handler) {
             nativeOnload.set.call(window, null);
-            loadHandlers.push(handler);
+            addHandler(handler);
         }
     }
 
-    function runAll(...given) {
-        for (const handler of loadHandlers) {
-            if (bLoading && handlersDone.has(handler))
+    function runOnce(handlers, given) {
+        for (const handler of handlers) {
+            if (handlersDone.has(handler))
                 continue;
             handlersDone.add(handler);
             try {
@@ -277,19 +290,33 @@
         }
     }
 
+    function runAll(handlers, given) {
+        const before = handlersDone;
+        handlersDone ??= new Set();
+        runOnce(handlers, given);
+        handlersDone = before;
+    }
+
+    function saveChain() {
+        const handlers = [...loadHandlers];
+        const saved = (...given) => runAll(handlers, given);
+        savedChains.add(saved);
+        return saved;
+    }
+
     const onload = {
         configurable: true,
         enumerable: true,
         get() {
             adoptNativeHandler();
-            return loadHandlers.length > 0 ? runAll : null;
+            return loadHandlers.length > 0 ? (chain ??= saveChain()) : null;
         },
         set(handler) {
             adoptNativeHandler();
             if (typeof handler !== "function")
                 loadHandlers.length = 0;
-            else if (handler !== runAll && !loadHandlers.includes(handler))
-                loadHandlers.push(handler);
+            else if (!savedChains.has(handler) && !loadHandlers.includes(handler))
+                addHandler(handler);
         },
     };
     adoptNativeHandler();
@@ -297,9 +324,7 @@
     Object.defineProperty(HTMLBodyElement.prototype, "onload", onload);
     window.addEventListener("load", (event) => {
         adoptNativeHandler();
-        bLoading = true;
-        runAll(event);
-        bLoading = false;
+        runAll(loadHandlers, [event]);
     });
 
     // The steps of these two effects are timers with a text, such as "typeit()". From the first such effect on, these
@@ -315,8 +340,9 @@
         };
     }
 
-    // Runs what is due at once, or when the gate's element is no longer held and the page is visible.
-    function gate() {
+    // Runs what is due at once, or when the gate is no longer held and the page is visible; nothing any more when
+    // the element has left the page.
+    function gate(element) {
         let due;
         function pass() {
             const fn = due;
@@ -327,7 +353,9 @@
         handle.after = (nDelay, fn) =>
             nativeSetTimeout.call(window, () => {
                 due = fn;
-                if (handle.running)
+                if (!element.isConnected)
+                    handle.stop();
+                else if (handle.running)
                     pass();
             }, nDelay);
         return handle;
@@ -341,10 +369,10 @@
             return;
         adoptedLinks.add(link);
         repair(link);
-        const steps = gate();
+        const steps = gate(link);
         const holdForCalm = () => (calm() ? steps.pause(motion) : steps.resume(motion));
         holdForCalm();
-        motion.addEventListener("change", holdForCalm);
+        motion.addEventListener("change", holdForCalm, { signal: steps.signal });
         pausable(link, steps);
         const dance = `${link.name.slice("brndfntext".length)}linkDance`;
         stepBy(`${dance}()`, (nDelay) => steps.after(nDelay, () => window[dance]()));
@@ -359,7 +387,7 @@
             return;
         repair(cell.parentElement);
 
-        const steps = gate();
+        const steps = gate(cell);
         let bTyping = false;
         let bStepDue = false;
 

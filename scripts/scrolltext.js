@@ -149,7 +149,7 @@
         }
         place();
         box.addEventListener("focusin", followFocus);
-        return () => brndfn.pausable(box, brndfn.frames(advance));
+        return () => brndfn.pausable(box, brndfn.frames(box, advance));
     }
 
     function prepare(box) {

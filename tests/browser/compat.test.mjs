@@ -75,3 +75,17 @@ testBothModes(givePage(handlers), "no load handler is lost, none runs twice", as
     assert.match(complaint, /on purpose/);
     assert.deepEqual(others, []);
 });
+
+const chained = `${include}<script>
+    window.calls = [];
+    const note = (name, old) => () => { old?.(); calls.push(name); };
+    window.onload = note("effect");
+    window.onload = note("first", window.onload);
+    window.onload = note("second", window.onload);
+    </script>`;
+
+testBothModes(givePage(chained), "a handler that is called again calls those before it, each once", async ({ page }) => {
+    assert.deepEqual(await page.evaluate(() => window.calls.splice(0)), ["effect", "first", "second"]);
+    await page.evaluate(() => window.onload());
+    assert.deepEqual(await page.evaluate(() => window.calls), ["effect", "first", "second"]);
+});

@@ -48,6 +48,16 @@ const moving = [
     },
 ];
 
+// For the option "before": window.nTicks counts the calls of timers and frames.
+const countTicks = () => {
+    window.nTicks = 0;
+    for (const name of ["setTimeout", "setInterval", "requestAnimationFrame"]) {
+        const native = window[name];
+        window[name] = (fn, ...rest) =>
+            native.call(window, typeof fn === "function" ? (...given) => { window.nTicks++; fn(...given); } : fn, ...rest);
+    }
+};
+
 for (const { name, look, rests, time = 500, calm = /./, calmOptions } of moving) {
     const moves = (page) => watch(page, look, (values) => values.length > 1);
     const stands = async (page, why) => {
@@ -56,7 +66,7 @@ for (const { name, look, rests, time = 500, calm = /./, calmOptions } of moving)
         assert.equal(await page.evaluate(look), before, why);
         return String(before);
     };
-    testBothModes(name, "moves, rests when asked to and goes on", async ({ page }) => {
+    testBothModes(name, "moves, rests when asked to, goes on and ends when it leaves the page", async ({ page }) => {
         await moves(page);
         for (const [why, hold, release] of rests) {
             await hold(page);
@@ -64,7 +74,13 @@ for (const { name, look, rests, time = 500, calm = /./, calmOptions } of moving)
             await release(page);
             await moves(page);
         }
-    });
+        await page.evaluate(() => document.body.replaceChildren());
+        await page.waitForTimeout(1100); // what is due comes once more
+        const nTicks = await page.evaluate(() => window.nTicks);
+        assert.ok(nTicks > 0);
+        await page.waitForTimeout(1100);
+        assert.equal(await page.evaluate(() => window.nTicks), nTicks);
+    }, { before: countTicks });
     testBothModes(name, "stands for a visitor who wants calm", async ({ page }) =>
         assert.match(await stands(page), calm), { reducedMotion: true, ...calmOptions });
 }

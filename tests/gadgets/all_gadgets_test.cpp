@@ -1,5 +1,6 @@
 // What all nine effects promise: their fields' places, their defaults, their files.
 #include "core/orrelix.h"
+#include "platform/files.h"
 #include "tests/support/expected_text.h"
 #include "tests/support/named_fields.h"
 #include "tests/support/temporary_directory.h"
@@ -59,9 +60,7 @@ protected:
     CVignelConfig& Config() { return m_Orrelix.m_Config; }
 
     COrrelix m_Orrelix;
-
-private:
-    CString m_OldModule;
+    const CString m_OldModule; // where the component's own file lies
 };
 
 INSTANTIATE_TEST_SUITE_P(All, Gadget, testing::ValuesIn(kEffects),
@@ -137,6 +136,8 @@ TEST_P(Gadget, LaysItsScriptsBesideThePageInBothSpellings) {
     ASSERT_EQ(Effect().RegisterResources(Config()), static_cast<short>(GetParam().m_Resources.size()));
     for (short i = 0; const char* pResource : GetParam().m_Resources) {
         EXPECT_EQ(Config().GetResourceName(i), pResource);
+        EXPECT_EQ(FileNameOnDisk(m_OldModule + "\\" + pResource), pResource)
+            << "is shipped as it is registered";
         EXPECT_EQ(Config().GetResourceLocalPath(i++), module.Path() + "\\");
     }
     Effect().CopyResources(page.Path() + "\\", 0);
