@@ -72,10 +72,20 @@ bool SkipTo(CLineReader& lines, std::string_view marker) {
 void ReadKeys(CLineReader& lines, const CPartMarkers& markers, CMapStringToString& map) {
     if (!SkipTo(lines, markers.m_Begin))
         return;
+    // Each pair waits for the next one to be read: so long the map's memory for it takes to come.
+    std::optional<std::pair<CString, CString>> waiting;
+    const auto store = [&] {
+        if (waiting)
+            map.SetAt(std::move(waiting->first), std::move(waiting->second));
+    };
     while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
-        if (const auto pair = SplitKeyLine(lines.Line()))
-            map[pair->m_Key] = pair->m_Value;
+        if (const auto pair = SplitKeyLine(lines.Line())) {
+            map.Announce(pair->m_Key);
+            store();
+            waiting.emplace(pair->m_Key, pair->m_Value);
+        }
     }
+    store();
 }
 
 // The next line with the given key; its value.

@@ -11,6 +11,7 @@
 
 #include "platform/string.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <deque>
@@ -35,24 +36,23 @@ public:
     const TValue* Find(std::string_view key) const {
         if (m_Index.empty())
             return nullptr;
-        const std::uint32_t nEntry = m_Index[SlotOf(key)];
+        const std::uint32_t nEntry = m_Index[SlotOf(key, HashOf(key))].m_nEntry;
         return nEntry ? &m_Entries[nEntry - 1].m_Value : nullptr;
     }
 
     // The value of the key, which is created with an empty value when it is new.
-    TValue& operator[](std::string_view key) {
-        if (2 * (m_Entries.size() + 1) > m_Index.size())
-            GrowIndex();
-        std::uint32_t& nEntry = m_Index[SlotOf(key)];
-        if (!nEntry) {
-            m_Entries.push_back({CString(key), TValue()});
-            nEntry = static_cast<std::uint32_t>(m_Entries.size());
-            m_Buckets[BucketOf(key)].push_back(nEntry);
-        }
-        return m_Entries[nEntry - 1].m_Value;
-    }
+    TValue& operator[](std::string_view key) { return ValueOf(key); }
 
-    void SetAt(std::string_view key, TValue value) { (*this)[key] = std::move(value); }
+    void SetAt(CString key, TValue value) { ValueOf(std::move(key)) = std::move(value); }
+
+    // Has the memory fetched that the key's place in the index needs, while the caller does something else:
+    // for who adds so many keys that waiting for it is what takes the time.
+    void Announce(std::string_view key) const {
+#ifdef __GNUC__
+        if (!m_Index.empty())
+            __builtin_prefetch(&m_Index[FirstSlotOf(HashOf(key))], 1);
+#endif
+    }
 
     bool Lookup(std::string_view key, TValue& value) const {
         const TValue* pValue = Find(key);
@@ -80,27 +80,65 @@ private:
         return nHash % kBuckets;
     }
 
+    template <class TKey>
+    TValue& ValueOf(TKey&& key) {
+        if (2 * (m_Entries.size() + 1) > m_Index.size())
+            GrowIndex();
+        const std::uint32_t nHash = HashOf(key);
+        CSlot& slot = m_Index[SlotOf(key, nHash)];
+        if (slot.m_nEntry)
+            return m_Entries[slot.m_nEntry - 1].m_Value;
+        m_Entries.push_back({CString(std::forward<TKey>(key)), TValue()});
+        slot = {nHash, static_cast<std::uint32_t>(m_Entries.size())};
+        m_Buckets[BucketOf(m_Entries.back().m_Key)].push_back(slot.m_nEntry);
+        return m_Entries.back().m_Value;
+    }
+
+    // What the index holds of a key. With the hash at hand, neither a walk over other keys' slots nor growing
+    // has to fetch keys, which lie all over the memory.
+    struct CSlot {
+        std::uint32_t m_nHash = 0;
+        std::uint32_t m_nEntry = 0; // its number, from 1; 0: the slot is free
+    };
+
+    // Not the prescribed hash, for which anybody can make up keys that collide.
+    static std::uint32_t HashOf(std::string_view key) {
+        return static_cast<std::uint32_t>(std::hash<std::string_view>()(key));
+    }
+
     // The slot of the index that holds the key's entry, or the free one where it belongs. The index is a
-    // power of two in size and at most half full, so the walk is short. The hash is not the prescribed one,
-    // for which anybody can make up keys that collide.
-    size_t SlotOf(std::string_view key) const {
-        const size_t nMask = m_Index.size() - 1;
-        size_t nSlot = std::hash<std::string_view>()(key) & nMask;
-        while (m_Index[nSlot] && m_Entries[m_Index[nSlot] - 1].m_Key.View() != key)
-            nSlot = (nSlot + 1) & nMask;
+    // power of two in size and at most half full, so the walk is short.
+    size_t SlotOf(std::string_view key, std::uint32_t nHash) const {
+        size_t nSlot = FirstSlotOf(nHash);
+        while (m_Index[nSlot].m_nEntry && (m_Index[nSlot].m_nHash != nHash ||
+                                           m_Entries[m_Index[nSlot].m_nEntry - 1].m_Key.View() != key))
+            nSlot = (nSlot + 1) & (m_Index.size() - 1);
         return nSlot;
     }
 
+    // By the hash's upper bits, so that a grown index has its slots in the order of the old one and filling
+    // it walks through the memory once.
+    size_t FirstSlotOf(std::uint32_t nHash) const {
+        return static_cast<size_t>(std::uint64_t{nHash} * m_Index.size() >> 32);
+    }
+
     void GrowIndex() {
-        m_Index.assign(m_Index.empty() ? 16 : 2 * m_Index.size(), 0);
-        for (std::uint32_t nEntry = 1; nEntry <= m_Entries.size(); ++nEntry)
-            m_Index[SlotOf(m_Entries[nEntry - 1].m_Key.View())] = nEntry;
+        const std::vector<CSlot> old =
+            std::exchange(m_Index, std::vector<CSlot>(std::max<size_t>(16, 2 * m_Index.size())));
+        for (const CSlot& slot : old) {
+            if (!slot.m_nEntry)
+                continue;
+            size_t nSlot = FirstSlotOf(slot.m_nHash);
+            while (m_Index[nSlot].m_nEntry)
+                nSlot = (nSlot + 1) & (m_Index.size() - 1);
+            m_Index[nSlot] = slot;
+        }
     }
 
     std::deque<CEntry> m_Entries; // in the order of adding
     std::array<std::vector<std::uint32_t>, kBuckets>
-        m_Buckets;                      // entry numbers from 1, in the order of adding
-    std::vector<std::uint32_t> m_Index; // entry numbers by hash, 0 for a free slot
+        m_Buckets; // entry numbers from 1, in the order of adding
+    std::vector<CSlot> m_Index;
 };
 
 using CMapStringToString = CStringMap<CString>;
