@@ -66,7 +66,9 @@ std::string EntryLine(const CString& key, const CString& value) {
 }
 
 std::string HeaderLine(const CString& section) {
-    return "[" + Escaped(section, kSpecialInNames) + "]";
+    std::string line = "[";
+    line += Escaped(section, kSpecialInNames);
+    return line += ']';
 }
 
 // The section that begins with this line, if one does.

@@ -80,6 +80,12 @@ void CollectFields(const CDialogItem& item, std::vector<CField>& fields) {
     }
 }
 
+CDialogItem ColumnOf(const CDialogItem& item) {
+    CDialogItem column;
+    column.m_Items.push_back(item);
+    return column;
+}
+
 class CDialogLayout {
 public:
     CDialogLayout(QWidget& window, const CPlaceControl& place) : m_Window(window), m_Place(place) {}
@@ -88,7 +94,7 @@ public:
         if (content.m_Kind == Kind::Column)
             LayOutColumn(content, m_Window);
         else
-            LayOutColumn({Kind::Column, "", {}, {content}}, m_Window);
+            LayOutColumn(ColumnOf(content), m_Window);
         for (size_t nStop = 1; nStop < m_TabStops.size(); ++nStop)
             QWidget::setTabOrder(m_TabStops[nStop - 1], m_TabStops[nStop]);
     }
@@ -201,8 +207,7 @@ private:
             bGrows |= GrowsAcross(item);
             // A list brings the label above it along.
             const bool bLabel = IsList(item) && *item.m_Control.m_pLabel;
-            QWidget* pPlaced =
-                Place(bLabel ? CDialogItem{Kind::Column, "", {}, {item}} : item, parent, nullptr);
+            QWidget* pPlaced = Place(bLabel ? ColumnOf(item) : item, parent, nullptr);
             if (pPlaced)
                 pLine->addWidget(pPlaced, GrowsAcross(item) ? 1 : 0);
         }
