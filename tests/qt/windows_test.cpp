@@ -197,7 +197,7 @@ TEST_F(Windows, AListTellsOfNothingThatNobodyChose) {
 }
 
 TEST_F(Windows, TheFirstKeySelectsARowAndSpaceIsADoubleClick) {
-    Work([this](CDialog& dialog) {
+    Work([](CDialog& dialog) {
         auto& list = Shown<QAbstractItemView>(dialog, Id::List);
         list.setFocus(Qt::TabFocusReason);
         QTest::keyClick(&list, Qt::Key_Down);
