@@ -45,13 +45,13 @@ if(ORRELIX_HOST)
         # One of them has Chinese text; the others are ASCII.
         add_test(NAME browser.pages
             COMMAND orrelix_program preview ${examples} --out ${browser_pages} --code-page 936)
-        set_tests_properties(browser.pages PROPERTIES FIXTURES_SETUP browser_pages)
+        set_tests_properties(browser.pages PROPERTIES FIXTURES_SETUP browser_pages LABELS browser)
         file(GLOB browser_tests CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/tests/browser tests/browser/*.test.mjs)
         foreach(test ${browser_tests})
             cmake_path(GET test STEM name)
             add_test(NAME browser.${name} COMMAND ${NODE_PROGRAM} --test ${test}
                 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/tests/browser)
-            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages RUN_SERIAL ON TIMEOUT 300
+            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser RUN_SERIAL ON TIMEOUT 300
                 ENVIRONMENT "ORRELIX_PAGES=${browser_pages};ORRELIX_PROGRAM=$<TARGET_FILE:orrelix_program>;CHROMIUM=${CHROMIUM_PROGRAM}")
         endforeach()
     else()

@@ -1,4 +1,4 @@
-# The windows of the dialogs. The one place that names Qt beside the program's main file.
+# The windows of the dialogs: the one library that links Qt.
 file(GLOB window_sources CONFIGURE_DEPENDS qt/*.cpp)
 if(window_sources)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)

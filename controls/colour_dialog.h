@@ -1,8 +1,10 @@
 // CColourDialog: the base of dialogs with colours. A colour is an edit box of six hexadecimal digits with a
 // picker beside it, each following the other.
 //
-//     CBorderDlg::CBorderDlg() : CColourDialog(BorderDescription()) { AddColour(Id::Color, m_Color,
-//     "BORDER"); } void CBorderDlg::OnInitDialog() {
+//     CBorderDlg::CBorderDlg() : CColourDialog(BorderDescription()) {
+//         AddColour(Id::Color, m_Color, "BORDER");
+//     }
+//     void CBorderDlg::OnInitDialog() {
 //         ...
 //         SetUpPickers();       // an empty colour becomes "c0c0c0"
 //         UpdateData(false);    // and shows in its box only if this comes after

@@ -7,6 +7,16 @@ namespace {
 
 constexpr char kProgID[] = "VignelServer.Orrelix";
 
+// Nothing that is thrown, for want of memory or by a desktop, reaches the host.
+template <class TAct>
+bool SucceedsIn(TAct act) noexcept {
+    try {
+        return act();
+    } catch (...) {
+        return false;
+    }
+}
+
 } // namespace
 
 void COrrelix::SelectType(const CString& type) {
@@ -33,6 +43,18 @@ CVignelConfig& COrrelix::Registered() {
 }
 
 bool COrrelix::ReadConfigFile(const CString& path) {
+    return SucceedsIn([&] { return Read(path); });
+}
+
+bool COrrelix::Config() {
+    return SucceedsIn([&] { return RunDialogs(); });
+}
+
+bool COrrelix::WriteConfigFileEx(const CString& path, short force) {
+    return SucceedsIn([&] { return Write(path, force); });
+}
+
+bool COrrelix::Read(const CString& path) {
     if (!m_Config.ReadFile(path))
         return false;
     if (m_Config.GetProgID() != kProgID)
@@ -43,7 +65,7 @@ bool COrrelix::ReadConfigFile(const CString& path) {
 }
 
 // The type that is picked stays, also when the gadget's own dialog is cancelled then.
-bool COrrelix::Config() {
+bool COrrelix::RunDialogs() {
     if (m_Type == "0") {
         m_pGadget = &m_NoSelect;
         if (m_SelectDlg.DoModal() == IDCANCEL)
@@ -75,7 +97,7 @@ bool COrrelix::Run(TGadget& gadget) {
     return dialog.DoModal() != IDCANCEL;
 }
 
-bool COrrelix::WriteConfigFileEx(const CString& path, short force) {
+bool COrrelix::Write(const CString& path, short force) {
     m_Config.ClearParameters();
     m_Config.ClearResources();
     m_Config.ClearSegments();

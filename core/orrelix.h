@@ -7,10 +7,10 @@
 //     orrelix.SetTitle("news");
 //     if (orrelix.Config())                                   // the user picks an effect and edits it
 //         orrelix.WriteConfigFile("\\home\\ann\\news.cfg");   // files are copied, the state is saved
-//     orrelix.GetHTMLBody(0, 1);                              // the published form, for the place at the
-//     cursor
+//     orrelix.GetHTMLBody(0, 1);                              // as published, for the place at the cursor
 //
 // Paths have backslashes and are full. An object is used by one thread, that of its host's user interface.
+// What reads, writes or asks the user throws nothing: where memory runs out it gives false.
 #pragma once
 
 #include "core/dhtml_gadget.h"
@@ -33,7 +33,7 @@ public:
     COrrelix(const COrrelix&) = delete;
     COrrelix& operator=(const COrrelix&) = delete;
 
-    // The dispatch table, in its order. Properties first.
+    // In the order in which late-bound hosts know them by number: properties first.
 
     CString GetProgID() { return m_Config.GetProgID(); }
     void SetProgID(const CString& text) { m_Config.SetProgID(text); }
@@ -61,7 +61,8 @@ public:
     // when the user cancelled.
     bool Config();
 
-    // Ids of the texts and of the icon that a host loads from the library.
+    // Ids of the texts and of the icon that a host may load from a library that has them. Constants of the
+    // contract with hosts.
     long GetVignelTypeID() const { return 1; }
     long GetVignelNameID() const { return 2; }
     long GetMenuTextID() const { return 3; }
@@ -77,7 +78,7 @@ public:
         return m_pGadget->GetHTMLBody(m_Config, mode, position);
     }
 
-    // The loaded library, from which a host takes the texts and the icon.
+    // The loaded library, in which a host looks for them.
     long GetResourceInstance() const { return GetModuleInstance(); }
 
     // The files that the page needs. The first of these calls after a new object, or after a Config that
@@ -120,6 +121,9 @@ public:
     CDanceText m_DanceText;
 
 private:
+    bool Read(const CString& path);
+    bool Write(const CString& path, short force);
+    bool RunDialogs();
     bool RunGadgetDialog();
     template <class TDialog, class TGadget>
     bool Run(TGadget& gadget);

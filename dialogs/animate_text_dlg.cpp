@@ -168,7 +168,10 @@ void CAnimateTextDlg::OnSelectionChanged() {
 }
 
 void CAnimateTextDlg::OnFont() {
-    EditFont({m_Copy.m_FontFamily, m_Copy.m_FontSize, m_Copy.m_FontWeight, m_Copy.m_FontStyle});
+    EditFont({.m_Face = m_Copy.m_FontFamily,
+              .m_Size = m_Copy.m_FontSize,
+              .m_Weight = m_Copy.m_FontWeight,
+              .m_Style = m_Copy.m_FontStyle});
 }
 
 void CAnimateTextDlg::OnOK() {

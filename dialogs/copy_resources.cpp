@@ -58,8 +58,8 @@ void CCopyResourcesDlg::OnOK() {
     for (int nRow = 0; nRow < list.GetItemCount(); ++nRow) {
         const CString source = list.GetItemText(nRow, 1);
         const CString copy = m_Destination + list.GetItemText(nRow, 0);
-        CopyWholeFile(source,
-                      copy); // nobody hears of a failure, and the texts point at the copy all the same
+        // Nobody hears of a failure, and the texts point at the copy all the same.
+        CopyWholeFile(source, copy);
         for (CString* pPath : *m_Clashes.Find(source))
             *pPath = copy;
     }

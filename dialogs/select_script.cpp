@@ -26,6 +26,7 @@ void CSelectScriptDlg::OnInitDialog() {
     list.ResetContent();
     for (const CString& name : m_Names)
         list.AddString(name);
+    // Ten, as it has always said; the tenth is the choice of none.
     m_DescriptionText = "Orrelix can provide 10 DHTML scripts to you";
     UpdateData(false);
 }

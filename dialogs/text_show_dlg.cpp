@@ -55,13 +55,17 @@ void CTextShowDlg::OnInitDialog() {
 }
 
 void CTextShowDlg::OnTitleFont() {
-    EditFont({m_Copy.m_TitleFontFamily, m_Copy.m_TitleFontSize, m_Copy.m_TitleFontWeight,
-              m_Copy.m_TitleFontStyle});
+    EditFont({.m_Face = m_Copy.m_TitleFontFamily,
+              .m_Size = m_Copy.m_TitleFontSize,
+              .m_Weight = m_Copy.m_TitleFontWeight,
+              .m_Style = m_Copy.m_TitleFontStyle});
 }
 
 void CTextShowDlg::OnTextFont() {
-    EditFont(
-        {m_Copy.m_TextFontFamily, m_Copy.m_TextFontSize, m_Copy.m_TextFontWeight, m_Copy.m_TextFontStyle});
+    EditFont({.m_Face = m_Copy.m_TextFontFamily,
+              .m_Size = m_Copy.m_TextFontSize,
+              .m_Weight = m_Copy.m_TextFontWeight,
+              .m_Style = m_Copy.m_TextFontStyle});
 }
 
 void CTextShowDlg::OnOK() {

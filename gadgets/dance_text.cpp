@@ -14,7 +14,7 @@ void CDanceText::WriteLink(CHtmlText& html, const CString& title) const {
     html.Line(R"(<a style="text-decoration:)", m_TextDecoration, "; font-family:", m_FontFamily,
               "; font-style:", m_FontStyle, "; font-weight:", m_FontWeight, "; font-size:", m_FontSize,
               R"(;" name="brndfntext)", title, R"(" href=")", m_LinkUrl, R"(" target=")",
-              m_LinkTarget.IsEmpty() ? "" : "_", m_LinkTarget, R"(">)", m_LinkText, "</a>");
+              LinkTarget(m_LinkTarget), R"(">)", m_LinkText, "</a>");
 }
 
 void CDanceText::WriteColors(CHtmlText& html, const CString& title) const {

@@ -10,20 +10,9 @@ namespace fs = std::filesystem;
 
 CString ComponentPath(const fs::path& path) {
     const std::string full = fs::absolute(path).lexically_normal().string();
-    std::string result;
-    for (char byte : full) {
-        if (byte == '\\')
-            throw CFileError(path,
-                             "has a backslash in its path, where the component can't find it; rename it");
-        // Behind a byte that may be the first half of a character a backslash could be its second half, so
-        // that separator gets a step of its own: "/." in front, which changes no path.
-        const bool bMayBeSwallowed = !result.empty() && static_cast<unsigned char>(result.back()) >= 0x80;
-        if (byte == '/')
-            result += bMayBeSwallowed ? "/.\\" : "\\";
-        else
-            result += byte;
-    }
-    return CString(std::move(result));
+    if (full.find('\\') != std::string::npos)
+        throw CFileError(path, "has a backslash in its path, where the component can't find it; rename it");
+    return FromSystemPath(full);
 }
 
 fs::path SystemPath(const CString& path) {

@@ -82,8 +82,7 @@ bool IsScript(const CEffectFile& file) {
 void AddCompatibilityScript(CGeneratedEffect& effect) {
     effect.m_Files.push_back(
         {GetModuleDirectory() + "\\" + kCompatibilityScript, "", {CString(kCompatibilityScript)}});
-    effect.m_Script = CString("<script type=\"text/javascript\" src=\"") + kCompatibilityScript +
-                      "\"></script>\r\n" + effect.m_Script;
+    effect.m_Script = ScriptInclude("", kCompatibilityScript) + effect.m_Script;
 }
 
 } // namespace

@@ -18,11 +18,24 @@ bool IsLetter(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
 }
 
+// The length of a comment that ends where it begins, "<!-->" or "<!--->"; else 0.
+size_t EmptyCommentLength(std::string_view text) {
+    for (std::string_view comment : {"<!-->", "<!--->"}) {
+        if (text.starts_with(comment))
+            return comment.size();
+    }
+    return 0;
+}
+
 } // namespace
 
 bool CHtmlScanner::Next(CHtmlPiece& piece) {
     while ((m_nPosition = m_Page.find('<', m_nPosition)) != kNowhere) {
         const std::string_view rest = m_Page.substr(m_nPosition);
+        if (const size_t nComment = EmptyCommentLength(rest)) {
+            m_nPosition += nComment;
+            continue;
+        }
         if (rest.starts_with("<!--"))
             return ReadComment(piece);
         const bool bEndTag = rest.starts_with("</");
@@ -39,13 +52,6 @@ bool CHtmlScanner::Next(CHtmlPiece& piece) {
 
 bool CHtmlScanner::ReadComment(CHtmlPiece& piece) {
     const size_t nInner = m_nPosition + 4;
-    // "<!-->" and "<!--->" are whole comments.
-    for (std::string_view close : {">", "->"}) {
-        if (m_Page.substr(nInner).starts_with(close)) {
-            m_nPosition = nInner + close.size();
-            return Next(piece);
-        }
-    }
     for (size_t nClose = nInner; (nClose = m_Page.find("--", nClose)) != kNowhere; ++nClose) {
         for (std::string_view close : {"-->", "--!>"}) {
             if (m_Page.substr(nClose).starts_with(close)) {

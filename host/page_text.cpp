@@ -4,7 +4,7 @@
 #include "platform/string.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <charconv>
 
 namespace {
 
@@ -66,33 +66,42 @@ void MaskEscapedText(std::string& outline) {
     }
 }
 
-// Decodes "&#45;" and "&#x2d;" as far as the characters are ASCII or the text is UTF-8.
+struct CReference {
+    unsigned m_nCharacter = 0;
+    size_t m_nLength = 0; // from "&" to ";"
+};
+
+// The reference at the start of the text, such as "&#45;" or "&#x2d;"; all zero where there is none.
+CReference ParseReference(std::string_view text) {
+    constexpr size_t kLongest = sizeof "&#x0010FFFF;";
+    const size_t nEnd = text.substr(0, kLongest).find(';');
+    if (!text.starts_with("&#") || nEnd == std::string_view::npos)
+        return {};
+    std::string_view digits = text.substr(2, nEnd - 2);
+    const bool bHex = digits.starts_with('x') || digits.starts_with('X');
+    digits.remove_prefix(bHex ? 1 : 0);
+    CReference reference{0, nEnd + 1};
+    const char* pEnd = digits.data() + digits.size();
+    const auto parsed = std::from_chars(digits.data(), pEnd, reference.m_nCharacter, bHex ? 16 : 10);
+    return parsed.ec == std::errc() && parsed.ptr == pEnd ? reference : CReference{};
+}
+
+// Decodes references as far as the characters are ASCII or the text is UTF-8.
 std::string WithoutReferences(std::string_view text, bool bUtf8) {
     std::string result;
-    for (size_t nBegin = 0; nBegin < text.size();) {
-        const size_t nReference = std::min(text.find("&#", nBegin), text.size());
-        result += text.substr(nBegin, nReference - nBegin);
-        const size_t nEnd = text.find(';', nReference);
-        unsigned nCharacter = 0;
-        if (nEnd != std::string_view::npos) {
-            std::string digits(text.substr(nReference + 2, nEnd - nReference - 2));
-            const bool bHex = digits.starts_with('x') || digits.starts_with('X');
-            char* pEnd = nullptr;
-            nCharacter =
-                static_cast<unsigned>(strtoul(digits.c_str() + (bHex ? 1 : 0), &pEnd, bHex ? 16 : 10));
-            if (*pEnd || nCharacter > (bUtf8 ? 0x10FFFFU : 0x7FU))
-                nCharacter = 0;
-        }
-        if (nCharacter == 0) {
-            result += text.substr(nReference, 2);
-            nBegin = std::min(nReference + 2, text.size());
+    while (!text.empty()) {
+        const CReference reference = ParseReference(text);
+        if (reference.m_nCharacter == 0 || reference.m_nCharacter > (bUtf8 ? 0x10FFFFU : 0x7FU)) {
+            const size_t nNext = std::min(text.find('&', 1), text.size());
+            result += text.substr(0, nNext);
+            text.remove_prefix(nNext);
             continue;
         }
         char units[4];
         for (size_t i = 0; i < sizeof units; ++i)
-            units[i] = static_cast<char>(nCharacter >> (8 * i));
+            units[i] = static_cast<char>(reference.m_nCharacter >> (8 * i));
         result += ConvertText({units, sizeof units}, "UTF-32LE", "UTF-8").m_Text;
-        nBegin = nEnd + 1;
+        text.remove_prefix(reference.m_nLength);
     }
     return result;
 }

@@ -1,7 +1,6 @@
 // What a command has to say about what went wrong, on standard error, and the exit code that follows.
 //
-//     orrelix: pages/news.html: has no place for the effect: put "<!-- vignel: news -->" where it is to
-//     appear
+//     orrelix: news.html: has no place for the effect: put "<!-- vignel: news -->" where it is to appear
 #pragma once
 
 #include <filesystem>

@@ -32,7 +32,7 @@ public:
     CFileCopies(const CSite& site, int nCodePage, CReport& report)
         : m_Site(site), m_nCodePage(nCodePage), m_Report(report) {}
 
-    // Plans the files of an effect that a page in `pageFolder` needs. Files that are missing, that have no
+    // Plans the files of an effect that a page needs. Files that are missing, that have no
     // place in the site, or that would land on another one of the plan or on `page`, are reported under
     // `subject` and left out.
     void Plan(const CGeneratedEffect& effect, const std::filesystem::path& page, const std::string& subject);

@@ -87,12 +87,18 @@ struct CCodePage {
 };
 
 constexpr CCodePage kCodePages[] = {
-    {65001, 65001, "UTF-8", "utf-8"},   {932, 932, "CP932", "shift_jis"},
-    {936, 936, "CP936", "gbk"},         {949, 949, "CP949", "euc-kr"},
-    {950, 950, "CP950", "big5"},        {874, 874, "CP874", "windows-874"},
-    {1250, 1258, "CP*", "windows-*"},   {20866, 20866, "KOI8-R", "koi8-r"},
-    {21866, 21866, "KOI8-U", "koi8-u"}, {28591, 28605, "ISO-8859-*", "iso-8859-*"},
-    {866, 866, "CP866", "ibm866"},      {437, 869, "CP*", ""},
+    {kUtf8CodePage, kUtf8CodePage, "UTF-8", "utf-8"},
+    {932, 932, "CP932", "shift_jis"},
+    {936, 936, "CP936", "gbk"},
+    {949, 949, "CP949", "euc-kr"},
+    {950, 950, "CP950", "big5"},
+    {874, 874, "CP874", "windows-874"},
+    {1250, 1258, "CP*", "windows-*"},
+    {20866, 20866, "KOI8-R", "koi8-r"},
+    {21866, 21866, "KOI8-U", "koi8-u"},
+    {28591, 28605, "ISO-8859-*", "iso-8859-*"},
+    {866, 866, "CP866", "ibm866"},
+    {437, 869, "CP*", ""},
 };
 
 const CCodePage* FindCodePage(int nCodePage) {

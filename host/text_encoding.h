@@ -1,10 +1,10 @@
 // Text from one encoding to another, by iconv. Encodings go by the names that iconv has for them.
 #pragma once
 
+#include "platform/code_page.h"
+
 #include <string>
 #include <string_view>
-
-inline constexpr int kUtf8CodePage = 65001;
 
 // The encoding of a code page, such as "CP936" of 936; empty when this system can't convert it.
 std::string EncodingOfCodePage(int nCodePage);

@@ -9,7 +9,7 @@ struct CByteRange {
     constexpr bool Contains(unsigned char byte) const { return byte >= m_First && byte <= m_Last; }
 };
 
-// Lead and trail bytes of the two-byte pages, as the pages' own tables have them. Unused second ranges are
+// Lead and trail bytes of the two-byte pages, as the pages' own tables have them. Unused ranges are
 // empty.
 struct CDoubleBytePage {
     int m_nCodePage;
@@ -33,10 +33,10 @@ struct CPageRange {
 
 constexpr CPageRange kPagesWithoutTrailBytes[] = {
     {437, 437},   {737, 737},     {775, 775},     {850, 869},     {874, 874},
-    {1250, 1258}, {20866, 20866}, {21866, 21866}, {28591, 28605}, {65001, 65001},
+    {1250, 1258}, {20866, 20866}, {21866, 21866}, {28591, 28605}, {kUtf8CodePage, kUtf8CodePage},
 };
 
-int g_nCodePage = 65001;
+int g_nCodePage = kUtf8CodePage;
 const CDoubleBytePage* g_pDoubleBytePage = nullptr;
 
 } // namespace

@@ -13,6 +13,9 @@ bool SetCodePage(int nCodePage);
 
 int GetCodePage();
 
+// UTF-8's number.
+inline constexpr int kUtf8CodePage = 65001;
+
 // Whether the page in force has two-byte characters whose second byte may be below 0x80.
 bool HasTrailBytes();
 

@@ -4,7 +4,8 @@
 // on a system with slashes, "\home\ann\page.cfg" is /home/ann/page.cfg. A backslash that is the second byte
 // of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
 // up part by part without regard to case, so that paths from systems that don't still work. A directory is
-// never a file, and "*" and "?" in a path are characters like others. Nothing here throws.
+// never a file, and "*" and "?" in a path are characters like others. Nothing here throws, but for want of
+// memory.
 #pragma once
 
 #include "platform/array.h"
@@ -13,6 +14,11 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+// The component's form of a path of the system's. Behind a byte that may be the first half of a character a
+// backslash could be its second half, so there a step of its own stands in front of it, "/.", which changes no
+// path.
+CString FromSystemPath(std::string_view path);
 
 // Whether the path names a file.
 bool FileExists(const CString& path);
@@ -55,13 +61,15 @@ public:
     CInputFile(const CInputFile&) = delete;
     CInputFile& operator=(const CInputFile&) = delete;
 
-    // False when there is no such file or it can't be read.
+    // False when there is no such file or it can't be read. May be called again, for another file.
     bool Open(const CString& path);
 
     // The number of bytes put into the buffer, 0 at the end of the file. A read error counts as the end.
     size_t Read(char* pBuffer, size_t nSize);
 
 private:
+    void Close();
+
     int m_nFile = -1;
 };
 
@@ -75,8 +83,7 @@ bool ReadWholeFile(const CString& path, std::string& content);
 // file (a device, a pipe that somebody reads) is written directly.
 class COutputFile {
 public:
-    // Deletes the temporary files that processes of this machine left in the directory when they were
-    // killed.
+    // Deletes the temporary files that processes left in the directory when they were killed.
     static void RemoveLeftovers(const CString& directory);
 
     COutputFile() = default;

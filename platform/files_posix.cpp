@@ -1,6 +1,8 @@
+#include "platform/code_page.h"
 #include "platform/files.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -9,6 +11,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
@@ -160,12 +163,14 @@ bool WriteAll(int nFile, std::string_view bytes) {
 
 // Creates a file of a name that no other writer uses, in the directory of the target.
 int CreateBeside(const std::string& target, mode_t nMode, std::string& temporary) {
-    static unsigned s_nCounter = 0;
+    static std::atomic<unsigned> s_nCounter = 0;
     const std::string directory = target.substr(0, target.rfind('/') + 1);
     for (int nTry = 0; nTry < 100; ++nTry) {
         temporary = directory;
         temporary.append(kTemporaryPrefix) += std::to_string(getpid()) + "-" + std::to_string(++s_nCounter);
         const int nFile = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, nMode);
+        if (nFile >= 0)
+            flock(nFile, LOCK_EX | LOCK_NB); // for RemoveLeftovers: somebody is at work here
         if (nFile >= 0 || errno != EEXIST)
             return nFile;
     }
@@ -210,6 +215,19 @@ bool IsLeftover(const char* pName) {
 }
 
 } // namespace
+
+CString FromSystemPath(std::string_view path) {
+    CString result;
+    for (size_t i = 0; i < path.size(); ++i) {
+        const bool bMayBeSwallowed =
+            HasTrailBytes() && i > 0 && static_cast<unsigned char>(path[i - 1]) >= 0x80;
+        if (path[i] == '/')
+            result += bMayBeSwallowed ? "/.\\" : "\\";
+        else
+            result += path[i];
+    }
+    return result;
+}
 
 bool FileExists(const CString& path) {
     return FindFileOnDisk(path).has_value();
@@ -271,20 +289,24 @@ bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling) {
 }
 
 CInputFile::~CInputFile() {
+    Close();
+}
+
+void CInputFile::Close() {
     if (m_nFile >= 0)
         close(m_nFile);
+    m_nFile = -1;
 }
 
 bool CInputFile::Open(const CString& path) {
+    Close();
     const auto found = FindOnDisk(SystemPath(path));
     if (!found)
         return false;
     m_nFile = open(found->c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // a pipe could keep one waiting
     struct stat status {};
-    if (m_nFile >= 0 && (fstat(m_nFile, &status) != 0 || !S_ISREG(status.st_mode))) {
-        close(m_nFile);
-        m_nFile = -1;
-    }
+    if (m_nFile >= 0 && (fstat(m_nFile, &status) != 0 || !S_ISREG(status.st_mode)))
+        Close();
     return m_nFile >= 0;
 }
 
@@ -316,8 +338,13 @@ void COutputFile::RemoveLeftovers(const CString& directory) {
         if (IsLeftover(pName) && IsPlainFile(*found + "/" + pName))
             leftovers.push_back(*found + "/" + pName);
     });
-    for (const std::string& path : leftovers)
-        unlink(path.c_str());
+    for (const std::string& path : leftovers) {
+        // The number may be that of a process on another machine, or in a container: the lock tells.
+        const int nFile = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        if (nFile >= 0 && flock(nFile, LOCK_EX | LOCK_NB) == 0)
+            unlink(path.c_str());
+        close(nFile);
+    }
 }
 
 COutputFile::~COutputFile() {

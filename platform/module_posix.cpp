@@ -1,6 +1,8 @@
+#include "platform/files.h"
 #include "platform/module.h"
 
 #include <dlfcn.h>
+#include <optional>
 #include <stdlib.h>
 
 namespace {
@@ -25,23 +27,19 @@ std::string FindDirectory() {
 // Asked for while the library is loaded: its path may be a relative one, and the host's directory may change.
 const std::string g_directory = FindDirectory();
 
-CString& ModuleDirectory() {
-    static CString directory = [] {
-        CString path(g_directory);
-        path.Replace("/", "\\");
-        return path;
-    }();
-    return directory;
-}
+std::optional<CString> g_namedByHost;
 
 } // namespace
 
 CString GetModuleDirectory() {
-    return ModuleDirectory();
+    if (g_namedByHost || g_directory.empty())
+        return g_namedByHost.value_or("");
+    const CString withEnd = FromSystemPath(g_directory + "/");
+    return withEnd.Left(withEnd.GetLength() - 1);
 }
 
 void SetModuleDirectory(const CString& directory) {
-    ModuleDirectory() = directory;
+    g_namedByHost = directory;
 }
 
 void* LoadNeighbour(const char* pLibrary, const char* pFunction) {

@@ -136,8 +136,8 @@ private:
     }
 
     std::deque<CEntry> m_Entries; // in the order of adding
-    std::array<std::vector<std::uint32_t>, kBuckets>
-        m_Buckets; // entry numbers from 1, in the order of adding
+    // Entry numbers from 1, in the order of adding.
+    std::array<std::vector<std::uint32_t>, kBuckets> m_Buckets;
     std::vector<CSlot> m_Index;
 };
 

@@ -9,8 +9,7 @@
 
 namespace {
 
-// Where no plugin fits the screen, Qt ends the process; a host has better things to do than to die of a
-// dialog.
+// Where no plugin fits the screen, Qt ends the process, and the host with it.
 bool HasPlatformPlugin() {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return true;

@@ -37,7 +37,7 @@ bool IsClosingRow(const CDialogItem& item) {
                        [](const CDialogItem& button) { return button.m_Control.m_nId == IDOK; });
 }
 
-// Whether there is something in the item that is the more useful the higher it is.
+// Whether the item has use for more height than it needs.
 bool GrowsDown(const CDialogItem& item) {
     const bool bGrows =
         IsList(item) || (IsControl(item, ControlKind::Edit) && item.m_Control.Has(STYLE_MULTI_LINE));

@@ -26,8 +26,6 @@ public:
 
 private:
     void OnDialogEnded() override { done(Accepted); }
-    // Nothing to show: whoever disables the dialog has put a window of its own before it.
-    void OnDialogEnabled() override {}
     void Play(const std::function<void(CPersonKey)>& act) override;
     void FinishEditing() override;
 

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int kUtf8 = 65001;
 constexpr char16_t kFirstEscape = 0xDC00; // and the byte
 
 QByteArray NameOfCodePage(int nCodePage) {
@@ -64,7 +63,7 @@ QByteArray WithoutEscapes(const QString& text) {
 
 QString ToQt(const CString& text) {
     const QByteArrayView bytes(text.View().data(), text.GetLength());
-    if (GetCodePage() == kUtf8)
+    if (GetCodePage() == kUtf8CodePage)
         return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : WithEscapes(bytes);
     QStringDecoder decode(NameOfCodePage(GetCodePage()).constData());
     return decode.isValid() ? QString(decode(bytes)) : QString::fromLatin1(bytes);
@@ -72,7 +71,7 @@ QString ToQt(const CString& text) {
 
 CString FromQt(const QString& text) {
     QByteArray bytes;
-    if (GetCodePage() == kUtf8) {
+    if (GetCodePage() == kUtf8CodePage) {
         bytes = WithoutEscapes(text);
     } else {
         QStringEncoder encode(NameOfCodePage(GetCodePage()).constData());

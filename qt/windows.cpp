@@ -9,8 +9,8 @@ CDesktop* OrrelixWindows() {
     try {
         if (!EnsureApplication())
             return nullptr;
-        static CQtDesktop* const pDesktop =
-            new CQtDesktop; // outlives the host's last dialog, whenever that is
+        // Outlives the host's last dialog, whenever that is.
+        static CQtDesktop* const pDesktop = new CQtDesktop;
         return pDesktop;
     } catch (...) {
         return nullptr;

@@ -1,4 +1,5 @@
-// The nine effects as a person sees them, in the order of their types "1" to "9".
+// The nine effects as a person sees them, in the order of their types "1" to "9". Misspellings included: files
+// and people know the texts as they are.
 #pragma once
 
 struct CEffect {

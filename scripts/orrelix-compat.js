@@ -168,9 +168,6 @@
                 listening.abort();
                 update();
             },
-            get paused() {
-                return holders.size > 0;
-            },
             get running() {
                 return bRunning;
             },

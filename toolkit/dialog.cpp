@@ -110,11 +110,7 @@ void CDialog::SetMessageHandler(int nMessage, std::function<void(unsigned long, 
 }
 
 void CDialog::EnableWindow(bool bEnable) {
-    if (bEnable == m_bEnabled)
-        return;
     m_bEnabled = bEnable;
-    if (m_pObserver)
-        m_pObserver->OnDialogEnabled();
 }
 
 void CDialog::SendMessage(int nMessage, unsigned long nFirst, long nSecond) {

@@ -31,12 +31,10 @@
 
 class COwnerDrawnButton;
 
-// The ear of the desktop's window on its dialog.
+// Set by the desktop's window, to be told of its dialog.
 class CDialogObserver {
 public:
     virtual void OnDialogEnded() = 0;
-    // See CDialog::EnableWindow.
-    virtual void OnDialogEnabled() = 0;
 
 protected:
     ~CDialogObserver() = default;

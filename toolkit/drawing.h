@@ -55,7 +55,7 @@ struct CRect {
 // Colours that the person's theme decides.
 enum class SystemColour { ButtonFace, ButtonText, Highlight, Light, Shadow };
 
-// The kinds of border that DrawEdge knows, by the numbers that they have had since the first desktops; a sum
+// The kinds of border that DrawEdge knows, by the numbers that SetEdgeStyle is given; a sum
 // of an outer and an inner one makes an edge of two lines.
 enum EdgeStyle : unsigned {
     EDGE_RAISED_OUTER = 1,

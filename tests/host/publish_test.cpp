@@ -326,29 +326,20 @@ TEST_F(Publish, AFullDiskLeavesTheOldPage) {
     EXPECT_TRUE(!bMounted || umount2(site.c_str(), MNT_DETACH) == 0);
 }
 
-// Killed from the moment at which it first touches the page's folder to the moment at which it is done.
-TEST_F(Publish, AProcessKilledAtAnyMomentLeavesAWholePage) {
-    WriteEffect("old.cfg", "t", "old", "js/");
-    WriteEffect("new.cfg", "t", "new", "js/");
+TEST_F(Publish, AProcessKilledInTheMidstOfWritingLeavesTheOldPageAndTheNextSweepsUp) {
+    WriteEffect("x.cfg", "t", "message", "js/");
     const std::string before = Page("t") + std::string(4 << 20, 'x');
-    const std::string pages[] = {Publish2(before, "old.cfg"), Publish2(before, "new.cfg")};
+    m_Folder.Write("site/p.html", before);
+    const std::vector<std::string> publish = {"publish", "x.cfg", "--page", "site/p.html", "--site", "site"};
     CProgramLimits limits;
-    limits.m_TouchedFolder = m_Folder.File("site").string();
-    int nKilled = 0, nDone = 0;
-    for (int i = 0; i < 20 && (i < 8 || nDone == 0); ++i) {
-        limits.m_KillAfter = std::chrono::microseconds(i < 8 ? 200 * i : 20 << i);
-        const std::string effect = Content("site/p.html") == pages[0] ? "new.cfg" : "old.cfg";
-        const CProgramRun run = Run({"publish", effect, "--page", "site/p.html", "--site", "site"}, limits);
-        nKilled += run.m_bKilled ? 1 : 0;
-        nDone += run.m_nExitCode == 0 ? 1 : 0;
-        const std::string after = Content("site/p.html");
-        ASSERT_TRUE(after == pages[0] || after == pages[1]) << "killed at step " << i;
-        EXPECT_TRUE(run.m_bKilled || after == pages[effect == "new.cfg"]);
+    limits.m_bKilledBeyond = true;
+    for (size_t nWritten : {0, 1, 100 << 10, 1 << 20, 4 << 20}) {
+        limits.m_nFileSize = nWritten;
+        EXPECT_TRUE(Run(publish, limits).m_bKilled) << nWritten;
+        EXPECT_TRUE(Content("site/p.html") == before) << nWritten;
     }
-    EXPECT_GT(nKilled, 0);
-    EXPECT_GT(nDone, 0);
-    for (const char* pEffect : {"old.cfg", "new.cfg"})
-        EXPECT_EQ(Run({"publish", pEffect, "--page", "site/p.html", "--site", "site"}).m_nExitCode, 0);
+    EXPECT_EQ(Run(publish).m_nExitCode, 0);
+    EXPECT_NE(Content("site/p.html").find("message"), std::string::npos);
     for (const auto& entry : fs::directory_iterator(m_Folder.File("site")))
         EXPECT_FALSE(entry.path().filename().string().starts_with(".orrelix-")) << entry.path();
 }

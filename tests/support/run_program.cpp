@@ -3,11 +3,8 @@
 #include <csignal>
 #include <cstdio>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -22,26 +19,14 @@ std::string ContentOf(FILE* pFile) {
     return content;
 }
 
-// Opens a watch for changes of a folder's files; to be closed by the caller.
-int Watch(const std::string& folder) {
-    const int nWatch = inotify_init1(IN_CLOEXEC);
-    EXPECT_GE(inotify_add_watch(nWatch, folder.c_str(), IN_CREATE | IN_MODIFY), 0) << folder;
-    return nWatch;
-}
-
-// Waits for a change, ten seconds at most.
-void WaitForChange(int nWatch) {
-    pollfd poll{nWatch, POLLIN, 0};
-    EXPECT_EQ(::poll(&poll, 1, 10000), 1) << "nothing changed in the watched folder";
-}
-
 // In the child: never returns.
 [[noreturn]] void Become(const std::vector<std::string>& arguments, const CProgramLimits& limits,
                          FILE* pOutput, FILE* pErrors) {
     if (limits.m_nFileSize) {
-        const rlimit limit{*limits.m_nFileSize, *limits.m_nFileSize};
-        signal(SIGXFSZ, SIG_IGN); // so that writing fails, as on a full disk
+        const rlimit limit{*limits.m_nFileSize, *limits.m_nFileSize}, noDump{0, 0};
+        signal(SIGXFSZ, limits.m_bKilledBeyond ? SIG_DFL : SIG_IGN); // ignored: writing fails
         setrlimit(RLIMIT_FSIZE, &limit);
+        setrlimit(RLIMIT_CORE, &noDump);
     }
     std::vector<char*> pointers;
     for (const std::string& argument : arguments)
@@ -60,18 +45,9 @@ void WaitForChange(int nWatch) {
 CProgramRun RunProgram(const std::vector<std::string>& arguments, const CProgramLimits& limits) {
     FILE* pOutput = tmpfile();
     FILE* pErrors = tmpfile();
-    const int nWatch = limits.m_TouchedFolder.empty() ? -1 : Watch(limits.m_TouchedFolder);
     const pid_t nChild = fork();
     if (nChild == 0)
         Become(arguments, limits, pOutput, pErrors);
-    if (nWatch >= 0) {
-        WaitForChange(nWatch);
-        close(nWatch);
-    }
-    if (limits.m_KillAfter) {
-        std::this_thread::sleep_for(*limits.m_KillAfter);
-        kill(nChild, SIGKILL); // not waited for yet, so the number is still its own
-    }
     int nStatus = 0;
     EXPECT_EQ(waitpid(nChild, &nStatus, 0), nChild);
     CProgramRun run;

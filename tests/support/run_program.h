@@ -1,7 +1,6 @@
 // A program run as a process of its own, as a person's shell does it.
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,9 +13,8 @@ struct CProgramRun {
 };
 
 struct CProgramLimits {
-    std::optional<std::chrono::microseconds> m_KillAfter; // by SIGKILL, if it still runs then
-    std::string m_TouchedFolder;       // the time to the kill counts from the first change in this folder
     std::optional<size_t> m_nFileSize; // the longest file it can write; more fails
+    bool m_bKilledBeyond = false;      // more doesn't fail but kills it, in the midst of writing
     std::string m_Directory;           // where it runs, if not here
 };
 
