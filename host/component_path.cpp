@@ -28,6 +28,12 @@ bool ReadFileContent(const fs::path& path, std::string& content) {
     return ReadWholeFile(ComponentPath(path), content) && (failed || content.size() >= nSize);
 }
 
+bool SameContent(const CString& left, const CString& right) {
+    std::string leftContent, rightContent;
+    return ReadWholeFile(left, leftContent) && ReadWholeFile(right, rightContent) &&
+           leftContent == rightContent;
+}
+
 std::string SystemReason() {
     return errno ? std::generic_category().message(errno) : "the system gives no reason";
 }

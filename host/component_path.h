@@ -15,5 +15,8 @@ std::filesystem::path SystemPath(const CString& path);
 // Reads a file whole. False when it can't be opened or ends before its size.
 bool ReadFileContent(const std::filesystem::path& path, std::string& content);
 
+// Whether both are files that hold the same bytes.
+bool SameContent(const CString& left, const CString& right);
+
 // What the system says about the operation that failed last, such as "No space left on device".
 std::string SystemReason();

@@ -4,6 +4,8 @@
 #include "host/component_path.h"
 #include "host/config_file.h"
 #include "host/named_fields.h"
+#include "host/text_encoding.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "resources/effects.h"
 #include "toolkit/desktop_loader.h"
@@ -48,24 +50,45 @@ std::string TitleFrom(const std::string& stem) {
     return title.empty() || isdigit(static_cast<unsigned char>(title[0])) ? "v" + title : title;
 }
 
+// A text of the command line, which is in UTF-8, as the file has it. Bytes that are no UTF-8 go into a UTF-8
+// file as they are.
+bool ToCodePage(const std::string& option, const std::string& text, CString& converted, CReport& report) {
+    converted = text;
+    if (GetCodePage() == kUtf8CodePage)
+        return true;
+    const CConvertedText result = ConvertText(text, "UTF-8", EncodingOfCodePage(GetCodePage()));
+    converted = result.m_Text;
+    if (result.m_nUnfit + result.m_nInvalid > 0)
+        report.WrongUsage(option,
+                          "has characters that code page " + std::to_string(GetCodePage()) + " lacks");
+    return result.m_nUnfit + result.m_nInvalid == 0;
+}
+
 bool ParseSets(const std::vector<std::string>& sets, CFieldValues& values, CReport& report) {
     for (const std::string& set : sets) {
         const size_t nEquals = set.find('=');
         if (nEquals == std::string::npos) {
-            report.Error("--set " + set, "has no \"=\"; write --set NAME=VALUE");
+            report.WrongUsage("--set " + set, "has no \"=\"; write --set NAME=VALUE");
             return false;
         }
-        values[set.substr(0, nEquals)].push_back(CString(set.substr(nEquals + 1)));
+        CString value;
+        if (!ToCodePage("--set " + set, set.substr(nEquals + 1), value, report))
+            return false;
+        values[set.substr(0, nEquals)].push_back(value);
     }
     return true;
+}
+
+std::string ToTerminal(const CString& value) {
+    return Printable(ConvertText(value.View(), EncodingOfCodePage(GetCodePage()), "UTF-8").m_Text);
 }
 
 void PrintFields(CDhtmlGadget& gadget) {
     for (const CNamedField& field : ListFields(gadget)) {
         const char* pName = field.m_Name.c_str();
         for (const CString& value : field.m_Values)
-            std::cout << std::left << std::setw(24) << pName << (field.m_bList ? " + " : " = ") << value
-                      << '\n';
+            std::cout << std::left << std::setw(24) << pName << (field.m_bList ? " + " : " = ")
+                      << ToTerminal(value) << '\n';
         if (field.m_Values.empty())
             std::cout << std::left << std::setw(24) << pName << " + (no items)\n";
     }
@@ -89,16 +112,48 @@ bool WouldOverwrite(COrrelix& orrelix, const CString& directory, CReport& report
     return bTaken;
 }
 
+// Writing makes the component forget files that are gone, which nobody asked for.
+bool HasLostFiles(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
+    bool bLost = false;
+    for (const CNamedField& field : ListFields(*orrelix.m_pGadget)) {
+        for (const CString& value : field.m_Values) {
+            if (!field.m_bFileName || value.IsEmpty() || FileExists(value))
+                continue;
+            report.Error(options.m_File.string(), "the effect needs the file " + SystemPath(value).string() +
+                                                      ", which is missing; put it there, or set " +
+                                                      field.m_Name + " to another one or to nothing");
+            bLost = true;
+        }
+    }
+    return bLost;
+}
+
+// The component doesn't say when a copy fails.
+void CheckCopies(COrrelix& orrelix, const CString& directory, CReport& report) {
+    for (short nIndex = 0; nIndex < orrelix.GetResourceNumber(); ++nIndex) {
+        const CString name = orrelix.GetResourceName(nIndex);
+        const CString source = orrelix.GetResourceLocalPath(nIndex) + name;
+        if (!SameContent(source, directory + name))
+            report.Error(SystemPath(directory + name).string(), "the page needs it, but " +
+                                                                    SystemPath(source).string() +
+                                                                    " couldn't be copied there");
+    }
+}
+
 void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
     const CString path = ComponentPath(options.m_File);
-    if (!options.m_bOverwrite && !FindWindows() &&
-        WouldOverwrite(orrelix, DirectoryOfPath(path) + "\\", report))
+    const CString directory = DirectoryOfPath(path) + "\\";
+    // Who has worked in dialogs isn't sent away with nothing.
+    const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
+    if (HasLostFiles(orrelix, options, report) && bByOptions)
+        return;
+    if (!options.m_bOverwrite && !FindWindows() && WouldOverwrite(orrelix, directory, report))
         return;
     orrelix.SetLastUpdateTime(Now());
-    if (orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
-        std::cout << options.m_File.string() << '\n';
-    else
-        report.Error(options.m_File.string(), "can't be written: " + SystemReason());
+    if (!orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
+        return report.Error(options.m_File.string(), "can't be written: " + SystemReason());
+    CheckCopies(orrelix, directory, report);
+    std::cout << options.m_File.string() << '\n';
 }
 
 // Runs the dialogs. False when there is nobody to show them to, or who cancelled.
@@ -121,7 +176,7 @@ bool ChangeByOptions(COrrelix& orrelix, const CEditOptions& options, CReport& re
         return false;
     const std::string problem = SetFields(*orrelix.m_pGadget, values);
     if (!problem.empty())
-        report.Error("--set", problem);
+        report.WrongUsage("--set", problem);
     return problem.empty();
 }
 
@@ -132,11 +187,17 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     if (!options.m_bListFields && fs::exists(options.m_File))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
-        return report.Error(name,
-                            "has no effect yet of which there could be fields; name one with --effect: " +
-                                EffectNames());
+        return report.WrongUsage(
+            name,
+            "has no effect yet of which there could be fields; name one with --effect: " + EffectNames());
+    if (Printable(options.m_Title) != options.m_Title)
+        return report.WrongUsage("--title", "has a line break or another control character");
     COrrelix orrelix;
-    orrelix.SetTitle(options.m_Title.empty() ? TitleFrom(options.m_File.stem().string()) : options.m_Title);
+    CString title = TitleFrom(options.m_File.stem().string());
+    if (!options.m_Title.empty() && !ToCodePage("--title", options.m_Title, title, report))
+        return;
+    orrelix.SetTitle(title);
+    // These, too, in the order in which they are to stand in the file.
     orrelix.SetDescription("");
     orrelix.SetBitmapFileName("");
     orrelix.SetPreviewPath("");
@@ -147,7 +208,7 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     }
     const CString type = TypeOfEffect(options.m_Effect);
     if (type.IsEmpty())
-        return report.Error("--effect " + options.m_Effect, "is no effect; there are " + EffectNames());
+        return report.WrongUsage("--effect " + options.m_Effect, "is no effect; there are " + EffectNames());
     orrelix.SelectType(type);
     if (options.m_bListFields)
         PrintFields(*orrelix.m_pGadget);

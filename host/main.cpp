@@ -22,10 +22,13 @@ struct CCommand {
     std::function<void(int nCodePage, CReport& report)> m_Run;
 };
 
+const CLI::Validator NotEmpty([](const std::string& text) { return text.empty() ? "names no file" : ""; },
+                              "");
+
 CCommand AddShow(CLI::App& program) {
     auto pOptions = std::make_shared<CShowOptions>();
     CLI::App* pShow = program.add_subcommand("show", "Print what a configuration file holds");
-    pShow->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    pShow->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     pShow->add_flag("--json", pOptions->m_bJson, "Print it as JSON");
     return {pShow, [pOptions](int nCodePage, CReport& report) {
                 pOptions->m_nCodePage = nCodePage;
@@ -37,7 +40,7 @@ CCommand AddPreview(CLI::App& program) {
     auto pOptions = std::make_shared<CPreviewOptions>();
     CLI::App* pPreview =
         program.add_subcommand("preview", "Make a page to look at for each configuration file");
-    pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required();
+    pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required()->check(NotEmpty);
     pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")->required()->type_name("DIR");
     pPreview->add_flag("--index", pOptions->m_bIndex, "Write an index.html that shows all of them");
     return {pPreview, [pOptions](int nCodePage, CReport& report) {
@@ -49,7 +52,7 @@ CCommand AddPreview(CLI::App& program) {
 CCommand AddPublish(CLI::App& program) {
     auto pOptions = std::make_shared<CPublishOptions>();
     CLI::App* pPublish = program.add_subcommand("publish", "Put an effect into a page of a site");
-    pPublish->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    pPublish->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     pPublish->add_option("--page", pOptions->m_Page, "The page, marked with <!-- vignel: TITLE -->")
         ->required()
         ->type_name("PAGE");
@@ -75,7 +78,7 @@ void AddEditOptions(CLI::App& command, CEditOptions& options) {
 CCommand AddNew(CLI::App& program) {
     auto pOptions = std::make_shared<CEditOptions>();
     CLI::App* pNew = program.add_subcommand("new", "Make an effect, in dialogs or by options");
-    pNew->add_option("FILE", pOptions->m_File, "The configuration file to make")->required();
+    pNew->add_option("FILE", pOptions->m_File, "The configuration file to make")->required()->check(NotEmpty);
     pNew->add_option("--title", pOptions->m_Title,
                      "Its title, by which a page marks its place; else the file's name");
     pNew->add_option("--effect", pOptions->m_Effect, "The effect's name, to make it without dialogs")
@@ -87,7 +90,7 @@ CCommand AddNew(CLI::App& program) {
 CCommand AddEdit(CLI::App& program) {
     auto pOptions = std::make_shared<CEditOptions>();
     CLI::App* pEdit = program.add_subcommand("edit", "Change an effect, in its dialogs or by options");
-    pEdit->add_option("FILE", pOptions->m_File, "The configuration file")->required();
+    pEdit->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     AddEditOptions(*pEdit, *pOptions);
     return {pEdit, [pOptions](int, CReport& report) { EditEffect(*pOptions, report); }};
 }
@@ -99,12 +102,14 @@ int RunCommand(const CCommand& command, int nCodePage) {
         command.m_Run(nCodePage, report);
     } catch (const CFileError& error) {
         report.Error(error.m_File, error.what());
+    } catch (const std::filesystem::filesystem_error& error) {
+        report.Error(error.path1().string(), "can't be reached: " + error.code().message());
     } catch (const std::exception& error) {
         report.Error(command.m_pArguments->get_name(), error.what());
     }
     std::cout.flush();
     if (!std::cout)
-        report.Error("standard output", "can't be written: " + SystemReason());
+        report.Error("standard output", "can't be written");
     return report.GetExitCode();
 }
 

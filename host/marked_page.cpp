@@ -39,6 +39,15 @@ struct CVignelComment {
     CRange m_Title;
 };
 
+// Whether the word is that of a comment that publishing put in. Other comments may begin with "vignel" too.
+bool IsInsertion(std::string_view word) {
+    for (std::string_view ours : {"vignel cursor", "vignel script"}) {
+        if (word.starts_with(ours))
+            return Trim(word.substr(ours.size())).find_first_not_of("0123456789") == word.npos;
+    }
+    return false;
+}
+
 std::optional<CVignelComment> ParseComment(std::string_view comment) {
     const size_t nColon = comment.find(':');
     if (nColon == std::string_view::npos)
@@ -46,7 +55,7 @@ std::optional<CVignelComment> ParseComment(std::string_view comment) {
     const std::string_view word = Trim(comment.substr(0, nColon));
     const std::string_view title = Trim(comment.substr(nColon + 1));
     const CString lower = CString(word).MakeLower();
-    if (lower != "vignel" && !lower.View().starts_with("vignel "))
+    if (lower != "vignel" && !IsInsertion(lower.View()))
         return std::nullopt;
     const size_t nTitle = title.empty() ? comment.size() : static_cast<size_t>(title.data() - comment.data());
     return CVignelComment{
@@ -104,7 +113,8 @@ private:
             if (bOurs)
                 places.m_Marks.push_back(range);
             else
-                places.m_OtherTitles.emplace_back(text.substr(comment->m_Title.m_nBegin));
+                places.m_OtherTitles.emplace_back(text.substr(
+                    comment->m_Title.m_nBegin, comment->m_Title.m_nEnd - comment->m_Title.m_nBegin));
             return true;
         }
         // What stands between two comments of ours may hold anything and is passed over.

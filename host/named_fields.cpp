@@ -1,5 +1,7 @@
 #include "host/named_fields.h"
 
+#include "host/component_path.h"
+
 #include <algorithm>
 
 namespace {
@@ -13,7 +15,7 @@ public:
         }
     }
     void Text(const char*, CParameterField field) override {
-        m_Fields.push_back({field.m_pName, false, {*field.m_pText}});
+        m_Fields.push_back({field.m_pName, false, {*field.m_pText}, field.m_bFileName});
     }
     void Unstored(CParameterField field) override { Text("", field); }
 
@@ -21,12 +23,23 @@ public:
 
 protected:
     void DoItems(const char*, const CParameterColumn& column) override {
-        CNamedField list{column.m_pName, true, {}};
+        CNamedField list{column.m_pName, true, {}, column.m_bFileName};
         for (const CString* pItem : column.m_Items)
             list.m_Values.push_back(*pItem);
         m_Fields.push_back(std::move(list));
     }
 };
+
+// Paths with backslashes are the component's own already.
+CString ValueOf(const CString& given, bool bFileName) {
+    const bool bOfSystem = bFileName && !given.IsEmpty() && given.Find('\\') < 0;
+    return bOfSystem ? ComponentPath(std::string(given.View())) : given;
+}
+
+// The lists that say by themselves how many items there are.
+bool CountsItems(const std::string& name) {
+    return name == "m_Texts" || name == "m_Messages" || name == "m_Colors";
+}
 
 class CFieldSetter : public CParameterExchange {
 public:
@@ -43,7 +56,7 @@ public:
     void Text(const char*, CParameterField field) override {
         const auto found = m_Values.find(field.m_pName);
         if (found != m_Values.end())
-            *field.m_pText = found->second.front();
+            *field.m_pText = ValueOf(found->second.front(), field.m_bFileName);
     }
     void Unstored(CParameterField field) override { Text("", field); }
 
@@ -57,7 +70,7 @@ protected:
             return;
         const size_t nGiven = std::min(column.m_Items.size(), found->second.size());
         for (size_t nItem = 0; nItem < nGiven; ++nItem)
-            *column.m_Items[nItem] = found->second[nItem];
+            *column.m_Items[nItem] = ValueOf(found->second[nItem], column.m_bFileName);
     }
 
 private:
@@ -89,6 +102,10 @@ std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
             return name + " is one text and no list; set it once";
         if (field->m_bList)
             nItems = std::max(nItems, static_cast<CStringArray::Index>(given.size()));
+    }
+    for (const CNamedField& field : fields) {
+        if (nItems >= 0 && CountsItems(field.m_Name) && !values.contains(field.m_Name))
+            nItems = std::max(nItems, static_cast<CStringArray::Index>(field.m_Values.size()));
     }
     CFieldSetter setter(values, nItems);
     gadget.ExchangeParameters(setter);

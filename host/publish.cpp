@@ -25,17 +25,25 @@ void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CRepo
                                     "code page's; if it was made in another one, name that with --code-page");
 }
 
-void WritePage(const fs::path& path, const std::string& bytes, const std::string& subject, CReport& report) {
+// The page as it was when it was read is `before`.
+bool WritePage(const fs::path& path, const std::string& before, const std::string& after,
+               const std::string& subject, CReport& report) {
     COutputFile::RemoveLeftovers(ComponentPath(path.parent_path()));
+    std::string now;
+    if (!ReadFileContent(path, now) || now != before) {
+        report.Error(subject, "has been changed meanwhile by somebody else; publish again");
+        return false;
+    }
     COutputFile file;
     errno = 0;
     bool bWritten = file.Open(ComponentPath(path), Spelling::Exact);
     if (bWritten) {
-        file.Write(bytes);
+        file.Write(after);
         bWritten = file.Commit();
     }
     if (!bWritten)
         report.Error(subject, "can't be written: " + SystemReason() + "; the page is as it was");
+    return bWritten;
 }
 
 } // namespace
@@ -68,7 +76,6 @@ void Publish(const CPublishOptions& options, CReport& report) {
     CFileCopies copies(site, options.m_nCodePage, report);
     copies.Plan(effect, pagePath, options.m_File.string());
     copies.Run();
-    if (*after != before)
-        WritePage(pagePath, *after, pageName, report);
-    std::cout << pageName << '\n';
+    if (*after == before || WritePage(pagePath, before, *after, pageName, report))
+        std::cout << pageName << '\n';
 }

@@ -1,14 +1,37 @@
 #include "host/report.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <iostream>
 
 void CReport::Error(const std::string& subject, const std::string& text) {
-    ++m_nErrors;
-    std::cerr << "orrelix: " << subject << ": " << text << '\n';
+    m_nExitCode = std::max(m_nExitCode, kFailure);
+    std::cerr << "orrelix: " << Printable(subject) << ": " << Printable(text) << '\n';
 }
 
 void CReport::Warning(const std::string& subject, const std::string& text) {
-    std::cerr << "orrelix: " << subject << ": warning: " << text << '\n';
+    std::cerr << "orrelix: " << Printable(subject) << ": warning: " << Printable(text) << '\n';
+}
+
+void CReport::WrongUsage(const std::string& subject, const std::string& text) {
+    Error(subject, text);
+    m_nExitCode = kWrongUsage;
+}
+
+std::string Printable(const std::string& text) {
+    std::string result;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const auto code = static_cast<unsigned char>(text[i]);
+        // U+0080 to U+009F are control characters too, of two bytes.
+        const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+        const bool bTwoBytes = code == 0xC2 && next >= 0x80 && next < 0xA0;
+        char escape[8] = "";
+        if (bTwoBytes || (code < ' ' && text[i] != '\t') || code == 0x7F)
+            snprintf(escape, sizeof escape, "\\x%02X", bTwoBytes ? next : code);
+        result += *escape ? escape : std::string(1, text[i]);
+        i += bTwoBytes ? 1 : 0;
+    }
+    return result;
 }
 
 std::string Counted(size_t nCount, const std::string& noun) {

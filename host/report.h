@@ -30,11 +30,17 @@ public:
     // Worth knowing, but the command did what it was asked to.
     void Warning(const std::string& subject, const std::string& text);
 
-    int GetExitCode() const { return m_nErrors > 0 ? kFailure : kSuccess; }
+    // The command line itself was wrong; nothing has been done.
+    void WrongUsage(const std::string& subject, const std::string& text);
+
+    int GetExitCode() const { return m_nExitCode; }
 
 private:
-    int m_nErrors = 0;
+    int m_nExitCode = kSuccess;
 };
+
+// The text with its control characters as "\x1B", so that none reaches the terminal; a tab can.
+std::string Printable(const std::string& text);
 
 // "1 character", "2 characters".
 std::string Counted(size_t nCount, const std::string& noun);

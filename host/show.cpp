@@ -72,19 +72,6 @@ Json CReadableFile::ToJson() {
     return json;
 }
 
-// Control characters can't reach the terminal; a tab can.
-std::string Printable(const std::string& text) {
-    std::string result;
-    for (char byte : text) {
-        const auto code = static_cast<unsigned char>(byte);
-        char escape[8] = "";
-        if ((code < ' ' && byte != '\t') || code == 0x7F)
-            snprintf(escape, sizeof escape, "\\x%02X", code);
-        result += *escape ? escape : std::string(1, byte);
-    }
-    return result;
-}
-
 // The number of characters of a UTF-8 text.
 size_t WidthOf(const std::string& text) {
     return static_cast<size_t>(

@@ -86,12 +86,6 @@ bool Walk(std::string_view steps, const fs::path& root, fs::path& place) {
     return place != root;
 }
 
-bool SameContent(const CString& left, const CString& right) {
-    std::string leftContent, rightContent;
-    return ReadWholeFile(left, leftContent) && ReadWholeFile(right, rightContent) &&
-           leftContent == rightContent;
-}
-
 } // namespace
 
 CSite::CSite(const fs::path& root) : m_Root(fs::canonical(root)) {}
@@ -119,6 +113,10 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
         !failed && (!fs::exists(place, failed) || IsBelow(fs::canonical(place, failed), m_Root)) && !failed;
     if (!bInside) {
         problem = "leads out of the site's folder " + m_Root.string();
+        return {};
+    }
+    if (fs::is_symlink(fs::symlink_status(place, failed)) && !fs::exists(place, failed)) {
+        problem = "is a link to nothing; a file written there could land outside of the site";
         return {};
     }
     return place;
@@ -167,9 +165,16 @@ bool CFileCopies::IsFree(const fs::path& target, const CString& source) const {
 }
 
 void CFileCopies::Run() {
+    fs::path folder; // the targets are sorted
     for (const auto& [target, source] : m_Sources) {
+        if (fs::is_regular_file(target) && SameContent(source, ComponentPath(target)))
+            continue;
         std::error_code failed;
         fs::create_directories(target.parent_path(), failed);
+        if (folder != target.parent_path()) {
+            folder = target.parent_path();
+            COutputFile::RemoveLeftovers(ComponentPath(folder));
+        }
         errno = failed.value();
         if (failed || !CopyWholeFile(source, ComponentPath(target), Spelling::Exact))
             m_Report.Error(target.string(), "can't be written: " + SystemReason());
