@@ -56,6 +56,10 @@ protected:
     void WriteFields(CVignelConfig& config);
 };
 
+inline bool RefersToScripts(short mode) {
+    return mode == kPreview || mode == kPublish;
+}
+
 // The line by which a page loads a script file of a directory, which is empty or ends in its separator.
 CString ScriptInclude(const CString& directory, const char* pFileName);
 

@@ -38,10 +38,9 @@ void CAnimateText::WriteBox(CHtmlText& html) const {
 }
 
 CString CAnimateText::GetHTMLBody(CVignelConfig& config, short mode, short) {
-    const bool bWithScript = mode == kPreview || mode == kPublish;
     const CString directory = DirectoryOfMode(config, mode, m_ScriptPath);
     return MakeHtml([&](CHtmlText& html) {
-        if (bWithScript) {
+        if (RefersToScripts(mode)) {
             if (!m_Messages.IsEmpty())
                 WriteScript(html);
             // Behind the variables, which the file reads as it runs.

@@ -55,7 +55,7 @@ void CCalander::WriteCalendar(CHtmlText& html) const {
 }
 
 CString CCalander::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    if (position != 0 && (mode == kPreview || mode == kPublish))
+    if (position != 0 && RefersToScripts(mode))
         return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), "calander2.js");
     return MakeHtml([&](CHtmlText& html) { WriteCalendar(html); });
 }

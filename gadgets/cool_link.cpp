@@ -108,10 +108,10 @@ void CCoolLink::WriteBox(CHtmlText& html, const CString& prefix, const CString& 
 }
 
 CString CCoolLink::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    if (position != 0) {
-        const bool bWithScript = mode == kPreview || mode == kPublish;
-        return bWithScript ? ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "select.js") : "";
-    }
+    if (position != 0 && RefersToScripts(mode))
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "select.js");
+    if (position != 0) // here the other modes have nothing
+        return {};
     if (m_Texts.IsEmpty())
         return {};
     GrowTo(m_Texts.GetSize(), m_Links, m_Images, m_ImageSizes);

@@ -113,9 +113,8 @@ CString CFadeSelect::GetBox(CVignelConfig& config, short mode) {
 }
 
 CString CFadeSelect::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    const bool bWithScript = mode == kPreview || mode == kPublish;
     // A mode that refers to no script has the box in the scripts' place too.
-    if (position == 0 || !bWithScript)
+    if (position == 0 || !RefersToScripts(mode))
         return GetBox(config, mode);
     const CString directory = DirectoryOfMode(config, mode, m_ScriptPath);
     return ScriptInclude(directory, "fadeselect.js") + ScriptInclude(directory, "fade.js");

@@ -100,8 +100,7 @@ document.writeln('</span>')
 } // namespace
 
 CString CScrollText::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    const bool bWithScript = mode == kPreview || mode == kPublish;
-    if (position != 0 && bWithScript)
+    if (position != 0 && RefersToScripts(mode))
         return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "scrolltext.js");
     GrowTo(m_Texts.GetSize(), m_Links);
     return MakeHtml([&](CHtmlText& html) {

@@ -178,7 +178,7 @@ void CTodayCa::WriteCalendar(CHtmlText& html) const {
 }
 
 CString CTodayCa::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    if (position != 0 && (mode == kPreview || mode == kPublish))
+    if (position != 0 && RefersToScripts(mode))
         return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), "todayca.js");
     return MakeHtml([&](CHtmlText& html) { WriteCalendar(html); });
 }

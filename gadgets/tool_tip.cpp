@@ -38,8 +38,7 @@ void CToolTip::WriteTip(CHtmlText& html, const CString& imageDirectory) const {
 }
 
 CString CToolTip::GetHTMLBody(CVignelConfig& config, short mode, short position) {
-    const bool bWithScript = mode == kPreview || mode == kPublish;
-    if (position != 0 && bWithScript)
+    if (position != 0 && RefersToScripts(mode))
         return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "tooltip.js");
     const CString title = config.GetTitle();
     const bool bImage = !m_Image.IsEmpty() && !m_TipTag.IsEmpty();

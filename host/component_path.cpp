@@ -28,6 +28,15 @@ bool ReadFileContent(const fs::path& path, std::string& content) {
     return ReadWholeFile(ComponentPath(path), content) && (failed || content.size() >= nSize);
 }
 
+bool WriteFileContent(const fs::path& path, std::string_view content, Durability durability) {
+    COutputFile file;
+    errno = 0;
+    if (!file.Open(ComponentPath(path), Spelling::Exact))
+        return false;
+    file.Write(content);
+    return file.Commit(durability == Durability::PowerCut);
+}
+
 bool SameContent(const CString& left, const CString& right) {
     std::string leftContent, rightContent;
     return ReadWholeFile(left, leftContent) && ReadWholeFile(right, rightContent) &&

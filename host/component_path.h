@@ -15,6 +15,10 @@ std::filesystem::path SystemPath(const CString& path);
 // Reads a file whole. False when it can't be opened or ends before its size.
 bool ReadFileContent(const std::filesystem::path& path, std::string& content);
 
+// Writes a file whole, under exactly this name. False when it can't; the file is as it was then.
+enum class Durability { Usual, PowerCut };
+bool WriteFileContent(const std::filesystem::path& path, std::string_view content, Durability durability);
+
 // Whether both are files that hold the same bytes.
 bool SameContent(const CString& left, const CString& right);
 

@@ -135,20 +135,20 @@ const CEffect* CConfigFile::GetEffect() const {
     return bKnown ? &kEffects[type[0] - '1'] : nullptr;
 }
 
-bool CConfigFile::HoldsEffect(std::string& reason) const {
-    if (m_nMarkers < kMarkersUpToParameters) {
-        reason = m_Damage.front();
-    } else if (!IsOurs()) {
+std::string CConfigFile::WhyNoEffect() const {
+    if (m_nMarkers < kMarkersUpToParameters)
+        return m_Damage.front();
+    if (!IsOurs()) {
         const CString* pProgID = m_Store.m_DescriptionMap.Find("ProgID");
-        reason = pProgID && !pProgID->IsEmpty()
-                     ? "belongs to another component, " + std::string(pProgID->View())
-                     : std::string("doesn't say which component it belongs to (ProgID)");
-        reason += std::string("; effects are those of ") + kOurs;
-    } else if (GetEffectType() == "0") {
-        reason = "no effect has been chosen for it yet";
-    } else if (!GetEffect()) {
-        reason = "names no effect that is known here (DhtmlType is \"" + std::string(GetEffectType().View()) +
-                 "\")";
+        const std::string whose = pProgID && !pProgID->IsEmpty()
+                                      ? "belongs to another component, " + std::string(pProgID->View())
+                                      : "doesn't say which component it belongs to (ProgID)";
+        return whose + "; effects are those of " + kOurs;
     }
-    return reason.empty();
+    if (GetEffectType() == "0")
+        return "no effect has been chosen for it yet";
+    if (!GetEffect())
+        return "names no effect that is known here (DhtmlType is \"" + std::string(GetEffectType().View()) +
+               "\")";
+    return {};
 }

@@ -30,9 +30,9 @@ public:
     // Whether anything of the file was recognised.
     bool IsConfigFile() const { return m_nMarkers > 0; }
 
-    // Whether an effect can come back from the file: it is our component's, names an effect, and its
-    // Parameter Part is there whole. If not, `reason` says why.
-    bool HoldsEffect(std::string& reason) const;
+    // Why no effect can come back from the file. Empty when one can: it is our component's, names an effect,
+    // and its Parameter Part is there whole.
+    std::string WhyNoEffect() const;
 
     bool IsOurs() const;
 

@@ -2,7 +2,7 @@
 
 #include "core/orrelix.h"
 #include "host/component_path.h"
-#include "host/config_file.h"
+#include "host/generated_effect.h"
 #include "host/named_fields.h"
 #include "host/text_encoding.h"
 #include "platform/code_page.h"
@@ -217,14 +217,8 @@ void NewEffect(const CEditOptions& options, CReport& report) {
 }
 
 void EditEffect(const CEditOptions& options, CReport& report) {
-    const std::string name = options.m_File.string();
-    const CConfigFile file(options.m_File);
-    std::string reason;
-    if (!file.HoldsEffect(reason))
-        return report.Error(name, reason);
     COrrelix orrelix;
-    if (!orrelix.ReadConfigFile(ComponentPath(options.m_File)))
-        return report.Error(name, "can't be read: " + SystemReason());
+    OpenEffect(options.m_File, orrelix);
     if (options.m_bListFields)
         return PrintFields(*orrelix.m_pGadget);
     const bool bChanged =

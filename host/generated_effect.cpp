@@ -87,15 +87,19 @@ void AddCompatibilityScript(CGeneratedEffect& effect) {
 
 } // namespace
 
-CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode) {
-    const CConfigFile file(path);
-    std::string reason;
-    if (!file.HoldsEffect(reason))
-        throw CFileError(path, reason);
-    COrrelix orrelix;
+CConfigFile OpenEffect(const std::filesystem::path& path, COrrelix& orrelix) {
+    CConfigFile file(path);
+    const std::string problem = file.WhyNoEffect();
+    if (!problem.empty())
+        throw CFileError(path, problem);
     if (!orrelix.ReadConfigFile(ComponentPath(path)))
         throw CFileError(path, "can't be read");
+    return file;
+}
 
+CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode) {
+    COrrelix orrelix;
+    const CConfigFile file = OpenEffect(path, orrelix);
     CGeneratedEffect effect;
     effect.m_Title = orrelix.GetTitle();
     effect.m_pEffect = file.GetEffect();

@@ -1,7 +1,7 @@
 // An effect as a host has it from the component: its texts for a page and the files that they need.
 #pragma once
 
-#include "core/dhtml_gadget.h"
+#include "core/orrelix.h"
 #include "host/config_file.h"
 #include "platform/string.h"
 
@@ -26,6 +26,9 @@ struct CGeneratedEffect {
     std::vector<CEffectFile> m_Files;
     std::vector<CString> m_Lost; // files that the texts refer to and that the component no longer finds
 };
+
+// Reads the file into the component. Throws CFileError when no effect comes from it.
+CConfigFile OpenEffect(const std::filesystem::path& path, COrrelix& orrelix);
 
 // The text of a preview refers to files beside the page. Throws CFileError when no effect comes from the
 // file.

@@ -5,9 +5,7 @@
 #include "host/preview_page.h"
 #include "host/site.h"
 #include "host/text_encoding.h"
-#include "platform/files.h"
 
-#include <cerrno>
 #include <iostream>
 
 namespace fs = std::filesystem;
@@ -63,22 +61,11 @@ private:
         for (const CString* pText :
              {&page.m_Effect.m_Title, &page.m_Effect.m_Script, &page.m_Effect.m_Cursor})
             nInvalid += ConvertText(pText->View(), encoding, "UTF-8").m_nInvalid;
-        if (nInvalid > 0)
-            m_Report.Warning(page.m_Source,
-                             Counted(nInvalid, "byte") +
-                                 " of its text are none of the code "
-                                 "page's; if it was made in another one, name that with --code-page");
+        m_Report.WarnOfInvalidBytes(page.m_Source, nInvalid);
     }
 
     void Write(const std::string& name, const std::string& content) {
-        COutputFile file;
-        errno = 0;
-        bool bWritten = file.Open(ComponentPath(m_Out / name), Spelling::Exact);
-        if (bWritten) {
-            file.Write(content);
-            bWritten = file.Commit(false);
-        }
-        if (!bWritten)
+        if (!WriteFileContent(m_Out / name, content, Durability::Usual))
             return m_Report.Error((m_Out / name).string(), "can't be written: " + SystemReason());
         std::cout << (m_Out / name).string() << '\n';
     }

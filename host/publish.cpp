@@ -6,7 +6,6 @@
 #include "host/site.h"
 #include "platform/files.h"
 
-#include <cerrno>
 #include <iostream>
 
 namespace fs = std::filesystem;
@@ -19,10 +18,7 @@ void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CRepo
                                     " can't be written in the page's "
                                     "encoding, " +
                                     page.GetEncoding() + ", and stand in it as \"&#N;\"");
-    if (page.GetInvalidCount() > 0)
-        report.Warning(subject, Counted(page.GetInvalidCount(), "byte") +
-                                    " of the effect's text are none of the "
-                                    "code page's; if it was made in another one, name that with --code-page");
+    report.WarnOfInvalidBytes(subject, page.GetInvalidCount());
 }
 
 // The page as it was when it was read is `before`.
@@ -34,13 +30,7 @@ bool WritePage(const fs::path& path, const std::string& before, const std::strin
         report.Error(subject, "has been changed meanwhile by somebody else; publish again");
         return false;
     }
-    COutputFile file;
-    errno = 0;
-    bool bWritten = file.Open(ComponentPath(path), Spelling::Exact);
-    if (bWritten) {
-        file.Write(after);
-        bWritten = file.Commit();
-    }
+    const bool bWritten = WriteFileContent(path, after, Durability::PowerCut);
     if (!bWritten)
         report.Error(subject, "can't be written: " + SystemReason() + "; the page is as it was");
     return bWritten;

@@ -13,6 +13,12 @@ void CReport::Warning(const std::string& subject, const std::string& text) {
     std::cerr << "orrelix: " << Printable(subject) << ": warning: " << Printable(text) << '\n';
 }
 
+void CReport::WarnOfInvalidBytes(const std::string& subject, size_t nBytes) {
+    if (nBytes > 0)
+        Warning(subject, Counted(nBytes, "byte") + " of the effect's text are none of the code page's; if it "
+                                                   "was made in another one, name that with --code-page");
+}
+
 void CReport::WrongUsage(const std::string& subject, const std::string& text) {
     Error(subject, text);
     m_nExitCode = kWrongUsage;

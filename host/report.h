@@ -30,6 +30,9 @@ public:
     // Worth knowing, but the command did what it was asked to.
     void Warning(const std::string& subject, const std::string& text);
 
+    // Warns where an effect's text has bytes that are no characters of its code page.
+    void WarnOfInvalidBytes(const std::string& subject, size_t nBytes);
+
     // The command line itself was wrong; nothing has been done.
     void WrongUsage(const std::string& subject, const std::string& text);
 

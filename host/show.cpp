@@ -172,15 +172,10 @@ void Show(const CShowOptions& options, CReport& report) {
 
     for (const std::string& damage : file.m_Damage)
         report.Error(name, damage);
-    std::string reason;
-    if (file.m_Damage.empty() && !file.HoldsEffect(reason)) {
-        if (file.IsOurs() && file.GetEffectType() == "0")
-            report.Warning(name, reason);
-        else
-            report.Error(name, reason);
-    }
-    if (readable.GetInvalidCount() > 0)
-        report.Warning(name, Counted(readable.GetInvalidCount(), "byte") +
-                                 " of its text are none of the code "
-                                 "page's; if it was made in another one, name that with --code-page");
+    const std::string problem = file.m_Damage.empty() ? file.WhyNoEffect() : "";
+    if (!problem.empty() && file.IsOurs() && file.GetEffectType() == "0")
+        report.Warning(name, problem);
+    else if (!problem.empty())
+        report.Error(name, problem);
+    report.WarnOfInvalidBytes(name, readable.GetInvalidCount());
 }
