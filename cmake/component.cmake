@@ -8,3 +8,5 @@ target_include_directories(orrelix PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR
 set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix)
 
 install(TARGETS orrelix LIBRARY DESTINATION ${ORRELIX_LIBRARY_DIR})
+install(DIRECTORY controls core dialogs gadgets platform resources toolkit DESTINATION include/orrelix
+    FILES_MATCHING PATTERN "*.h")

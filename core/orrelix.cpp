@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr char kProgID[] = "VignelServer.Orrelix";
-
 // Nothing that is thrown, for want of memory or by a desktop, reaches the host.
 template <class TAct>
 bool SucceedsIn(TAct act) noexcept {

@@ -27,6 +27,9 @@
 #include "gadgets/today_ca.h"
 #include "gadgets/tool_tip.h"
 
+// The name by which hosts create the object, and which files of this component bear.
+inline constexpr char kProgID[] = "VignelServer.Orrelix";
+
 class COrrelix {
 public:
     COrrelix() = default;

@@ -1,5 +1,6 @@
 #include "core/vignel_config.h"
 
+#include "core/config_format.h"
 #include "core/line_reader.h"
 #include "platform/files.h"
 
@@ -11,21 +12,6 @@
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-
-struct CPartMarkers {
-    std::string_view m_Begin;
-    std::string_view m_End;
-};
-
-constexpr CPartMarkers kDescriptionPart{"========== Description Part Begin ==========",
-                                        "========== Description Part End =========="};
-constexpr CPartMarkers kParameterPart{"========== Parameter Part Begin ==========",
-                                      "========== Parameter Part End =========="};
-constexpr CPartMarkers kResourcePart{"========== Resource Part Begin ==========",
-                                     "========== Resource Part End =========="};
-constexpr CPartMarkers kHtmlPart{"========== HTML Part Begin ==========",
-                                 "========== HTML Part End =========="};
-constexpr std::string_view kSegmentEnd = "===== Segment End =====";
 
 constexpr std::string_view kResourceNumber = "Resource Number";
 constexpr std::string_view kSegmentNumber = "Segment Number";

@@ -1,5 +1,7 @@
 #include "host/config_file.h"
 
+#include "core/config_format.h"
+#include "core/orrelix.h"
 #include "core/parameters.h"
 #include "host/component_path.h"
 #include "host/report.h"
@@ -11,17 +13,12 @@
 
 namespace {
 
-constexpr char kOurs[] = "VignelServer.Orrelix";
-
 // The lines between which the parts stand, in the file's order.
 constexpr std::array<std::string_view, 8> kMarkers = {
-    "========== Description Part Begin ==========", "========== Description Part End ==========",
-    "========== Parameter Part Begin ==========",   "========== Parameter Part End ==========",
-    "========== Resource Part Begin ==========",    "========== Resource Part End ==========",
-    "========== HTML Part Begin ==========",        "========== HTML Part End ==========",
+    kDescriptionPart.m_Begin, kDescriptionPart.m_End, kParameterPart.m_Begin, kParameterPart.m_End,
+    kResourcePart.m_Begin,    kResourcePart.m_End,    kHtmlPart.m_Begin,      kHtmlPart.m_End,
 };
 constexpr size_t kMarkersUpToParameters = 4;
-constexpr std::string_view kSegmentEnd = "===== Segment End =====";
 
 std::string_view TakeLine(std::string_view& text) {
     const size_t nEnd = text.find('\n');
@@ -122,7 +119,7 @@ void CConfigFile::CheckCounts(std::string_view resourcePart, std::string_view ht
 
 bool CConfigFile::IsOurs() const {
     const CString* pProgID = m_Store.m_DescriptionMap.Find("ProgID");
-    return pProgID && *pProgID == kOurs;
+    return pProgID && *pProgID == kProgID;
 }
 
 CString CConfigFile::GetEffectType() const {
@@ -143,7 +140,7 @@ std::string CConfigFile::WhyNoEffect() const {
         const std::string whose = pProgID && !pProgID->IsEmpty()
                                       ? "belongs to another component, " + std::string(pProgID->View())
                                       : "doesn't say which component it belongs to (ProgID)";
-        return whose + "; effects are those of " + kOurs;
+        return whose + "; effects are those of " + kProgID;
     }
     if (GetEffectType() == "0")
         return "no effect has been chosen for it yet";
