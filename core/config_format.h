@@ -9,11 +9,11 @@ struct CPartMarkers {
 };
 
 inline constexpr CPartMarkers kDescriptionPart{"========== Description Part Begin ==========",
-                                        "========== Description Part End =========="};
+                                               "========== Description Part End =========="};
 inline constexpr CPartMarkers kParameterPart{"========== Parameter Part Begin ==========",
-                                      "========== Parameter Part End =========="};
+                                             "========== Parameter Part End =========="};
 inline constexpr CPartMarkers kResourcePart{"========== Resource Part Begin ==========",
-                                     "========== Resource Part End =========="};
+                                            "========== Resource Part End =========="};
 inline constexpr CPartMarkers kHtmlPart{"========== HTML Part Begin ==========",
-                                 "========== HTML Part End =========="};
+                                        "========== HTML Part End =========="};
 inline constexpr std::string_view kSegmentEnd = "===== Segment End =====";

@@ -241,9 +241,10 @@ std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title
     m_nUnfit += inPage.m_nUnfit;
     m_nInvalid += inPage.m_nInvalid;
     for (int nNumber = 1;; ++nNumber) {
-        const std::string comment = std::string("vignel ") + pPosition +
-                                    (nNumber > 1 ? " " + std::to_string(nNumber) : "") + ": " +
-                                    EscapedTitle(title) + " -->";
+        std::string comment = std::string("vignel ") + pPosition;
+        if (nNumber > 1)
+            comment.append(" ").append(std::to_string(nNumber));
+        comment.append(": ").append(EscapedTitle(title)).append(" -->");
         const std::string end = m_Text.ToPage("<!-- /" + comment).m_Text;
         if (inPage.m_Text.find(end) == std::string::npos)
             return m_Text.ToPage("<!-- " + comment + "\r\n").m_Text + inPage.m_Text + end;
