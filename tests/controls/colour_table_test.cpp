@@ -56,8 +56,8 @@ TEST_F(ColourTable, EachSectionHasItsOwnAndAnUnusedOneShowsWhatIsLoaded) {
     EXPECT_EQ(Row(39), "020202|020202");
 }
 
-// Another process may write between this one's loading and its remembering.
-TEST_F(ColourTable, AColourThatAnotherProcessMixedMeanwhileStays) {
+// Whoever mixed the first one: the table in memory doesn't have it.
+TEST_F(ColourTable, AColourThatWasStoredSinceLoadingStays) {
     EXPECT_FALSE(LoadColourTable("CALBK"));
     RememberColour("CALBK", MakeColour(1, 1, 1));
     RememberColour("CALBK", MakeColour(2, 2, 2));

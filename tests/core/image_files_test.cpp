@@ -1,57 +1,85 @@
+#include "core/dhtml_gadget.h"
 #include "core/image_files.h"
 #include "tests/support/scripted_person.h"
 #include "tests/support/temporary_directory.h"
 
 #include <gtest/gtest.h>
 
-namespace fs = std::filesystem;
-
 namespace {
 
-// An image whose name is taken in the destination, twice, and one whose isn't.
-class CopyImagesTest : public testing::Test {
-protected:
-    CopyImagesTest() {
+// Images to be copied, of which one has its name taken in the destination.
+struct CSite {
+    CSite() {
         for (const char* pName : {"from", "to"})
-            fs::create_directory(m_Directory.File(pName));
-        for (const char* pName : {"a.gif", "free.gif"})
-            m_Images.Add(m_Directory.Write(std::string("from/") + pName, "new"));
-        m_Images.Add(m_Images[0]);
-        m_Directory.Write("to/a.gif", "old");
-        m_To = m_Directory.Path("to") + "\\";
+            std::filesystem::create_directory(m_Directory.File(pName));
+        for (const char* pName : {"from/free.gif", "from/taken.gif"})
+            m_Directory.Write(pName, "new");
+        m_Directory.Write("to/taken.gif", "old");
     }
 
-    std::string Copied(const char* pName) { return FileContent(m_Directory.File("to") / pName); }
+    CString Path(const char* pName) const { return *pName ? m_Directory.Path(pName) : CString(); }
+    std::string Copied(const char* pName) const { return FileContent(m_Directory.File("to") / pName); }
 
     CTemporaryDirectory m_Directory;
-    CStringArray m_Images;
-    CString m_To;
-    CScriptedPerson m_Person;
 };
 
 } // namespace
 
-TEST_F(CopyImagesTest, AsksOnceAboutATakenName) {
-    m_Person.In("Copy Resources")
-        .ShowsRows("Files with clashing names", {"a.gif | " + m_Images[0]})
-        .Clicks("OK");
-    CopyImages(m_Images, m_To, 0);
-    EXPECT_EQ(m_Images, CStringArray({m_To + "a.gif", m_To + "free.gif", m_To + "a.gif"}));
-    for (const char* pName : {"a.gif", "free.gif"})
-        EXPECT_EQ(Copied(pName), "new") << pName;
+TEST(CopyGadgetFile, CopiesAndFollowsTheCopyUnlessForcedAndReportsATakenName) {
+    const CSite site;
+    CStringArray handled;
+    const struct {
+        const char* m_pPath;
+        short m_nForce;
+        const char* m_pPathAfter;
+        const char* m_pTaken; // what is then in to/taken.gif
+        bool m_bDone = true;
+    } steps[] = {
+        {"from\\free.gif", 0, "to\\free.gif", "old"},
+        {"from\\free.gif", 0, "from\\free.gif", "old"}, // no clash with its own copy
+        {"to\\free.gif", 0, "to\\free.gif", "old"},
+        {"from\\gone.gif", 1, "from\\gone.gif", "old"},
+        {"from\\gone.gif", 0, "", "old"},
+        {"", 0, "", "old"},
+        {"from\\taken.gif", 0, "from\\taken.gif", "old", false},
+        {"from\\taken.gif", 1, "from\\taken.gif", "new"},
+        {"to\\taken.gif", 1, "to\\taken.gif", "new"},
+    };
+    for (const auto& [pPath, nForce, pPathAfter, pTaken, bDone] : steps) {
+        SCOPED_TRACE(testing::Message() << pPath << ", force " << nForce);
+        CString path = site.Path(pPath);
+        EXPECT_EQ(CopyGadgetFile(path, site.Path("to\\"), handled, nForce), bDone);
+        EXPECT_EQ(path, site.Path(pPathAfter));
+        EXPECT_EQ(site.Copied("taken.gif"), pTaken);
+        EXPECT_EQ(site.Copied("free.gif"), "new");
+    }
 }
 
-TEST_F(CopyImagesTest, LeavesWhatThePersonDidNotSettle) {
-    const CStringArray before = m_Images;
-    m_Person.In("Copy Resources").PressesEscape();
-    CopyImages(m_Images, m_To, 0);
-    EXPECT_EQ(m_Images, CStringArray({before[0], m_To + "free.gif", before[0]}));
-    EXPECT_EQ(Copied("a.gif"), "old");
-}
-
-TEST_F(CopyImagesTest, AsksNobodyWhenForced) {
-    const CStringArray before = m_Images;
-    CopyImages(m_Images, m_To, 1);
-    EXPECT_EQ(m_Images, before);
-    EXPECT_EQ(Copied("a.gif"), "new");
+TEST(CopyImages, AsksOnceAboutATakenNameUnlessForced) {
+    const struct {
+        const char* m_pAnswer; // null where nobody is asked
+        short m_nForce;
+        const char* m_pTakenPath;
+        const char* m_pFreePath;
+        const char* m_pTaken;
+    } cases[] = {
+        {"OK", 0, "to\\taken.gif", "to\\free.gif", "new"},
+        {"Escape", 0, "from\\taken.gif", "to\\free.gif", "old"},
+        {nullptr, 1, "from\\taken.gif", "from\\free.gif", "new"},
+    };
+    for (const auto& [pAnswer, nForce, pTakenPath, pFreePath, pTaken] : cases) {
+        SCOPED_TRACE(pAnswer ? pAnswer : "forced");
+        const CSite site;
+        const CString taken = site.Path("from\\taken.gif");
+        CStringArray images = {taken, site.Path("from\\free.gif"), taken};
+        CScriptedPerson person;
+        if (pAnswer) {
+            person.In("Copy Resources").ShowsRows("Files with clashing names", {"taken.gif | " + taken});
+            *pAnswer == 'O' ? person.Clicks("OK") : person.PressesEscape();
+        }
+        CopyImages(images, site.Path("to\\"), nForce);
+        EXPECT_EQ(images, CStringArray({site.Path(pTakenPath), site.Path(pFreePath), site.Path(pTakenPath)}));
+        EXPECT_EQ(site.Copied("taken.gif"), pTaken);
+        EXPECT_EQ(site.Copied("free.gif"), "new");
+    }
 }

@@ -53,6 +53,7 @@ TEST(Config, AnOkHasTheResourcesRegisteredAfresh) {
 }
 
 TEST(Config, WhereNobodyIsItIsCancelledAndATypeThatIsNoneOfOursAsksNothing) {
+    SetDesktop(nullptr);
     COrrelix orrelix;
     EXPECT_FALSE(orrelix.Config());
     for (const char* pType : {"", "10", "x"}) {

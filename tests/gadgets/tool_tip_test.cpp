@@ -1,8 +1,6 @@
 #include "core/vignel_config.h"
 #include "gadgets/tool_tip.h"
-#include "tests/support/temporary_directory.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -43,30 +41,4 @@ TEST(ToolTip, WhatIsLeftOutLeavesItsBlanks) {
         gadget.m_ImageSize.m_Border = "1";
         EXPECT_EQ(LastLine(gadget.GetHTMLBody(config, row.m_nMode, 0)), row.m_pLine);
     }
-}
-
-TEST(ToolTip, AnImageIsCopiedAndRegisteredAsTheDiskSpellsItUnlessItIsLost) {
-    CTemporaryDirectory directory;
-    directory.Write("Clock.GIF", "picture");
-    std::filesystem::create_directory(directory.File("site"));
-    CVignelConfig config;
-    CToolTip gadget;
-    gadget.m_Image = directory.Path("clock.gif");
-    gadget.m_ImagePath = "pictures,old/";
-    EXPECT_EQ(gadget.RegisterResources(config), 2);
-    EXPECT_EQ(config.GetResourceName(1), "Clock.GIF");
-    EXPECT_EQ(config.GetResourceWebPath(1), "pictures,old/");
-
-    gadget.CopyResources(directory.Path("site") + "\\", 0);
-    EXPECT_EQ(gadget.m_Image, directory.Path("site") + "\\clock.gif");
-    EXPECT_EQ(FileContent(directory.File("site/clock.gif")), "picture");
-    gadget.WriteParameters(config);
-    CToolTip again;
-    again.ReadParameters(config, "\\elsewhere\\");
-
-    // A lost image keeps its path and loses its remote directory.
-    EXPECT_EQ(again.RegisterResources(config), 1);
-    EXPECT_EQ(config.GetResourceName(0), "tooltip.js");
-    EXPECT_EQ(again.m_Image, "\\elsewhere\\clock.gif");
-    EXPECT_EQ(again.m_ImagePath, "");
 }

@@ -18,9 +18,9 @@ protected:
 } // namespace
 
 TEST_F(Edit, MakesAndChangesAnEffectByOptions) {
-    CProgramRun run = Run({"new", "2nd news.cfg", "--effect", "slide text", "--set", "m_Speed=50", "--set",
-                           "m_Text=a=b, c", "--set", "m_TitleFontFamily=Arial,Verdana"});
-    EXPECT_EQ(run.m_nExitCode, 0) << run.m_Errors;
+    const CProgramRun run = ExpectRun({"new", "2nd news.cfg", "--effect", "slide text", "--set", "m_Speed=50",
+                                       "--set", "m_Text=a=b, c", "--set", "m_TitleFontFamily=Arial,Verdana"},
+                                      0);
     EXPECT_EQ(run.m_Output, "2nd news.cfg\n");
     EXPECT_EQ(Parameter("2nd news.cfg", "DhtmlType"), "2");
     EXPECT_EQ(Parameter("2nd news.cfg", "TextShowText"), "a=b, c");
@@ -28,21 +28,19 @@ TEST_F(Edit, MakesAndChangesAnEffectByOptions) {
     EXPECT_NE(Content("2nd news.cfg").find("\r\nTitle = v2nd_news\r\n"), std::string::npos)
         << "a title has to stand in the names of scripts";
 
-    run = Run({"edit", "2nd news.cfg", "--set", "m_Speed=70"});
-    EXPECT_EQ(run.m_nExitCode, 0) << run.m_Errors;
+    ExpectRun({"edit", "2nd news.cfg", "--set", "m_Speed=70"}, 0);
     EXPECT_EQ(Parameter("2nd news.cfg", "TextShowPara"), "70,0,47,716,122,551,134,188,,");
     EXPECT_EQ(Parameter("2nd news.cfg", "TextShowText"), "a=b, c");
 
-    run = Run({"new", "2nd news.cfg", "--effect", "Slide Text"});
-    EXPECT_EQ(run.m_nExitCode, 1) << "a file that is there isn't made anew";
+    ExpectRun({"new", "2nd news.cfg", "--effect", "Slide Text"}, 1, "2nd news.cfg"); // isn't made anew
     EXPECT_EQ(Parameter("2nd news.cfg", "TextShowText"), "a=b, c");
 }
 
 TEST_F(Edit, SetsListsItemByItem) {
-    const CProgramRun run = Run({"new", "links.cfg", "--title", "links", "--effect", "Link Select Table",
-                                 "--set", "m_Texts=One, two", "--set", "m_Texts=Three", "--set",
-                                 "m_Links=http://a.example/", "--set", "m_Width=10"});
-    EXPECT_EQ(run.m_nExitCode, 0) << run.m_Errors;
+    ExpectRun({"new", "links.cfg", "--title", "links", "--effect", "Link Select Table", "--set",
+               "m_Texts=One, two", "--set", "m_Texts=Three", "--set", "m_Links=http://a.example/", "--set",
+               "m_Width=10"},
+              0);
     EXPECT_EQ(Parameter("links.cfg", "CoolLinkTextStr"), "One~@^` two,Three,");
     EXPECT_EQ(Parameter("links.cfg", "CoolLinkLinkStr"), "http://a.example/,http://www.vellumark.example/,");
     EXPECT_EQ(Parameter("links.cfg", "CoolLinkImgWidth"), "10,,");
@@ -56,8 +54,8 @@ TEST_F(Edit, SetsListsItemByItem) {
 
 TEST_F(Edit, EveryEffectListsItsFieldsAndTakesThemBack) {
     for (const CEffect& effect : kEffects) {
-        const CProgramRun fields = Run({"new", "x.cfg", "--effect", effect.m_pName, "--list-fields"});
-        ASSERT_EQ(fields.m_nExitCode, 0) << effect.m_pName << fields.m_Errors;
+        const CProgramRun fields =
+            ExpectRun({"new", "x.cfg", "--effect", effect.m_pName, "--list-fields"}, 0);
         EXPECT_FALSE(Exists("x.cfg"));
         std::vector<std::string> arguments = {"new", std::string(effect.m_pName) + ".cfg", "--effect",
                                               effect.m_pName};
@@ -66,8 +64,7 @@ TEST_F(Edit, EveryEffectListsItsFieldsAndTakesThemBack) {
             arguments.insert(arguments.end(), {"--set", line.substr(0, line.find(' ')) + "=" +
                                                             line.substr(line.find_first_of("=+") + 2)});
         }
-        const CProgramRun made = Run(arguments);
-        EXPECT_EQ(made.m_nExitCode, 0) << effect.m_pName << ": " << made.m_Errors;
+        ExpectRun(arguments, 0);
         EXPECT_EQ(Run({"edit", arguments[1], "--list-fields"}).m_Output, fields.m_Output) << effect.m_pName;
     }
 }
@@ -76,18 +73,14 @@ TEST_F(Edit, AsksBeforeItOverwritesAnImage) {
     m_Folder.Write("photo.gif", "old");
     std::filesystem::create_directory(m_Folder.File("from"));
     m_Folder.Write("from/photo.gif", "new");
-    const std::vector<std::string> arguments = {
-        "new",     "tip.cfg", "--effect",
-        "ToolTip", "--set",   "m_Image=" + std::string(m_Folder.Path("from\\photo.gif").View())};
-    const CProgramRun refused = Run(arguments);
-    EXPECT_EQ(refused.m_nExitCode, 1);
-    EXPECT_NE(refused.m_Errors.find("--overwrite"), std::string::npos) << refused.m_Errors;
+    std::vector<std::string> arguments = {"new", "tip.cfg", "--effect", "ToolTip", "--set"};
+    arguments.push_back("m_Image=" + std::string(m_Folder.Path("from\\photo.gif").View()));
+    ExpectRun(arguments, 1, "--overwrite");
     EXPECT_EQ(Content("photo.gif"), "old");
     EXPECT_FALSE(Exists("tip.cfg"));
 
-    std::vector<std::string> overwriting = arguments;
-    overwriting.push_back("--overwrite");
-    EXPECT_EQ(Run(overwriting).m_nExitCode, 0);
+    arguments.push_back("--overwrite");
+    ExpectRun(arguments, 0);
     EXPECT_EQ(Content("photo.gif"), "new");
     EXPECT_TRUE(Exists("tip.cfg"));
 }
@@ -115,10 +108,7 @@ TEST_F(Edit, SaysWhatIsWrongAndWhatToDo) {
         {{"new"}, 2, "FILE"},
     };
     for (const auto& [arguments, nExitCode, pMessage] : cases) {
-        const CProgramRun run = Run(arguments);
-        EXPECT_EQ(run.m_nExitCode, nExitCode) << testing::PrintToString(arguments);
-        EXPECT_NE(run.m_Errors.find(pMessage), std::string::npos)
-            << testing::PrintToString(arguments) << " says: " << run.m_Errors;
+        ExpectRun(arguments, nExitCode, pMessage);
         EXPECT_FALSE(Exists("x.cfg"));
     }
 }

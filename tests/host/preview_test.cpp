@@ -35,9 +35,7 @@ TEST_F(Preview, EveryExampleHasAPageWithAllItNeedsBesideIt) {
         if (name.ends_with(".cfg"))
             arguments.push_back("source/" + name);
     }
-    const CProgramRun run = Run(arguments);
-    EXPECT_EQ(run.m_nExitCode, 0) << run.m_Errors;
-    EXPECT_EQ(run.m_Errors, "");
+    ExpectRun(arguments, 0);
     EXPECT_EQ(Names("source"), sources);
 
     const std::set<std::string> names = Names("out/pages");
@@ -70,7 +68,7 @@ TEST_F(Preview, APageInACodePageThatBrowsersDontKnowIsInUtf8) {
     WriteEffect("x.cfg", "x",
                 "Gr\x81\xE1"
                 "e");
-    EXPECT_EQ(Run({"preview", "x.cfg", "--out", "out", "--code-page", "850"}).m_nExitCode, 0);
+    ExpectRun({"preview", "x.cfg", "--out", "out", "--code-page", "850"}, 0);
     EXPECT_NE(Content("out/x.html").find("<meta charset=\"utf-8\">"), std::string::npos);
     EXPECT_NE(Content("out/x.html").find("Grüße"), std::string::npos);
 }
@@ -80,8 +78,7 @@ TEST_F(Preview, AFolderInAnyScriptIsFoundWhateverTheCodePage) {
     fs::create_directories(m_Folder.File("中"));
     WriteEffect("中/x.cfg", "x", "text");
     for (const char* pCodePage : {"65001", "936", "932", "1252"}) {
-        const CProgramRun run = Run({"preview", "中/x.cfg", "--out", "户", "--code-page", pCodePage});
-        EXPECT_EQ(run.m_nExitCode, 0) << pCodePage << run.m_Errors;
+        ExpectRun({"preview", "中/x.cfg", "--out", "户", "--code-page", pCodePage}, 0);
         EXPECT_TRUE(Exists("户/animate.js") && Exists("户/Animate.js"));
         fs::remove_all(m_Folder.File("户"));
     }
@@ -100,14 +97,12 @@ TEST_F(Preview, ClashesAndFilesWithoutAPageAreReportedAndTheRestIsDone) {
     WriteEffect("c/index.cfg", "x", "text");
     m_Folder.Write("c/bad.cfg", "nothing");
 
-    CProgramRun run = Run({"preview", "a/a.cfg", "c/c.cfg", "--out", "out"});
-    EXPECT_EQ(run.m_nExitCode, 0) << "the same image twice is no clash: " << run.m_Errors;
-
-    run = Run({"preview", "a/a.cfg", "b/b.cfg", "c/a.cfg", "c/index.cfg", "c/bad.cfg", "none/x.cfg",
-               "c/c.cfg", "--out", "all", "--index"});
-    EXPECT_EQ(run.m_nExitCode, 1);
+    ExpectRun({"preview", "a/a.cfg", "c/c.cfg", "--out", "out"}, 0); // the same image twice is no clash
+    const CProgramRun run = ExpectRun({"preview", "a/a.cfg", "b/b.cfg", "c/a.cfg", "c/index.cfg", "c/bad.cfg",
+                                       "none/x.cfg", "c/c.cfg", "--out", "all", "--index"},
+                                      1, "b/photo.gif");
     for (const char* pMessage :
-         {"b/photo.gif", "c/a.cfg: would have its page where that of a/a.cfg is",
+         {"c/a.cfg: would have its page where that of a/a.cfg is",
           "c/index.cfg: would have its page where the index belongs", "c/bad.cfg: is no configuration file",
           "none/x.cfg: can't be read: No such file"})
         EXPECT_NE(run.m_Errors.find(pMessage), std::string::npos) << pMessage << "\n" << run.m_Errors;
@@ -116,12 +111,9 @@ TEST_F(Preview, ClashesAndFilesWithoutAPageAreReportedAndTheRestIsDone) {
 
     // An image that is gone is named.
     fs::remove(m_Folder.File("a/photo.gif"));
-    run = Run({"preview", "a/a.cfg", "--out", "lost"});
-    EXPECT_EQ(run.m_nExitCode, 1);
-    EXPECT_NE(run.m_Errors.find("\"photo.gif\", which is missing"), std::string::npos) << run.m_Errors;
+    ExpectRun({"preview", "a/a.cfg", "--out", "lost"}, 1, "\"photo.gif\", which is missing");
     EXPECT_TRUE(Exists("lost/a.html"));
 
-    run = Run({"preview", "a/a.cfg", "--out", "a"});
-    EXPECT_EQ(run.m_nExitCode, 1);
+    ExpectRun({"preview", "a/a.cfg", "--out", "a"}, 1, "a/a.cfg");
     EXPECT_FALSE(Exists("a/a.html"));
 }

@@ -24,15 +24,25 @@ protected:
         return RunProgram(arguments, limits);
     }
 
+    // Runs it to this exit code, with this among its errors; where nothing is to be said, nothing may be.
+    CProgramRun ExpectRun(const std::vector<std::string>& arguments, int nExitCode,
+                          const std::string& message = "", const CProgramLimits& limits = {}) const {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        const CProgramRun run = Run(arguments, limits);
+        EXPECT_EQ(run.m_nExitCode, nExitCode) << run.m_Errors;
+        EXPECT_NE(run.m_Errors.find(message), std::string::npos) << message << " isn't in: " << run.m_Errors;
+        EXPECT_EQ(run.m_Errors.empty(), message.empty()) << run.m_Errors;
+        return run;
+    }
+
     // Writes a configuration file of Animate Text with one message, as the component does.
     void WriteEffect(const std::string& name, const std::string& title, const std::string& message,
                      const std::string& scriptPath = "") const {
         COrrelix orrelix;
-        orrelix.m_Type = "1";
+        orrelix.SelectType("1");
         orrelix.SetTitle(title);
         orrelix.m_AnimateText.m_Messages = {message};
         orrelix.m_AnimateText.m_ScriptPath = scriptPath;
-        orrelix.m_pGadget = &orrelix.m_AnimateText;
         ASSERT_TRUE(orrelix.WriteConfigFile(m_Folder.Path(name)));
     }
 

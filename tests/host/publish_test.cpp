@@ -140,8 +140,7 @@ TEST_F(Publish, TitlesOfAnyKindShareAPageAndFindTheirTextsAgain) {
             WriteEffect(name, cases[i].m_Title,
                         std::string(pRound) + "[" + std::to_string(i) + "]<!-- /vignel cursor: " +
                             cases[i].m_Title + " --><!-- vignel: plain --><!-- <script>");
-            const CProgramRun run = PublishTo("site/p.html", name);
-            EXPECT_EQ(run.m_nExitCode, 0) << cases[i].m_Title << run.m_Errors;
+            EXPECT_EQ(PublishTo("site/p.html", name).m_nExitCode, 0) << cases[i].m_Title;
         }
     }
     const std::string after = Content("site/p.html");
@@ -275,22 +274,21 @@ TEST_F(Publish, WhatCantBeDoneIsSaid) {
     m_Folder.Write("elsewhere.html", Page("t"));
     m_Folder.Write("bad.cfg", "nothing");
     const struct {
-        std::vector<std::string> m_Arguments;
+        const char* m_pEffect;
+        const char* m_pPage;
+        const char* m_pSite;
         const char* m_pMessage;
     } cases[] = {
-        {{"bad.cfg", "--page", "site/p.html", "--site", "site"}, "bad.cfg: is no configuration file"},
-        {{"x.cfg", "--page", "site/sub", "--site", "site"}, "site/sub: is no file"},
-        {{"a\\b.cfg", "--page", "site/p.html", "--site", "site"}, "a\\b.cfg: has a backslash"},
-        {{"x.cfg", "--page", "site/absent.html", "--site", "site"}, "site/absent.html: can't be read"},
-        {{"x.cfg", "--page", "site/p.html", "--site", "absent"}, "absent: is no folder"},
-        {{"x.cfg", "--page", "elsewhere.html", "--site", "site"}, "elsewhere.html: doesn't lie in the site"},
+        {"bad.cfg", "site/p.html", "site", "bad.cfg: is no configuration file"},
+        {"x.cfg", "site/sub", "site", "site/sub: is no file"},
+        {"a\\b.cfg", "site/p.html", "site", "a\\b.cfg: has a backslash"},
+        {"x.cfg", "site/absent.html", "site", "site/absent.html: can't be read"},
+        {"x.cfg", "site/p.html", "absent", "absent: is no folder"},
+        {"x.cfg", "elsewhere.html", "site", "elsewhere.html: doesn't lie in the site"},
     };
     for (const auto& row : cases) {
-        std::vector<std::string> arguments = row.m_Arguments;
-        arguments.insert(arguments.begin(), "publish");
-        const CProgramRun run = Run(arguments);
-        EXPECT_EQ(run.m_nExitCode, 1);
-        EXPECT_NE(run.m_Errors.find(row.m_pMessage), std::string::npos) << run.m_Errors;
+        ExpectRun({"publish", row.m_pEffect, "--page", row.m_pPage, "--site", row.m_pSite}, 1,
+                  row.m_pMessage);
     }
     EXPECT_EQ(Content("site/p.html"), Page("t"));
     EXPECT_EQ(Content("elsewhere.html"), Page("t"));
@@ -298,9 +296,8 @@ TEST_F(Publish, WhatCantBeDoneIsSaid) {
     // Images that got lost are named, and the rest is done.
     fs::copy_file(Example("cool_link_rich.cfg"), m_Folder.File("lonely.cfg"));
     m_Folder.Write("site/p.html", Page("Museum"));
-    const CProgramRun run = PublishTo("site/p.html", "lonely.cfg");
-    EXPECT_EQ(run.m_nExitCode, 1);
-    EXPECT_NE(run.m_Errors.find("\"house.gif\", which is missing"), std::string::npos) << run.m_Errors;
+    ExpectRun({"publish", "lonely.cfg", "--page", "site/p.html", "--site", "site"}, 1,
+              "\"house.gif\", which is missing");
     EXPECT_NE(Content("site/p.html").find("Home, sweet home"), std::string::npos);
     EXPECT_TRUE(Exists("site/scripts/select.js"));
 }
@@ -315,10 +312,8 @@ TEST_F(Publish, AFullDiskLeavesTheOldPage) {
     CProgramLimits limits;
     if (!bMounted)
         limits.m_nFileSize = 100 * 1024;
-    const CProgramRun run = Run({"publish", "x.cfg", "--page", "site/p.html", "--site", "site"}, limits);
-    EXPECT_EQ(run.m_nExitCode, 1);
-    EXPECT_NE(run.m_Errors.find(bMounted ? "No space left" : "File too large"), std::string::npos)
-        << run.m_Errors;
+    const CProgramRun run = ExpectRun({"publish", "x.cfg", "--page", "site/p.html", "--site", "site"}, 1,
+                                      bMounted ? "No space left" : "File too large", limits);
     EXPECT_NE(run.m_Errors.find("site/p.html: can't be written"), std::string::npos) << run.m_Errors;
     EXPECT_EQ(Content("site/p.html"), before);
     for (const auto& entry : fs::directory_iterator(site))

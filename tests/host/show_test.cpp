@@ -36,8 +36,7 @@ TEST_F(Show, JsonHasEverythingOfTheFileInItsOrder) {
         if (entry.path().extension() != ".cfg" || entry.path().stem() == "calander_rich")
             continue;
         SCOPED_TRACE(entry.path());
-        const CProgramRun run = Run({"show", entry.path(), "--json"});
-        EXPECT_EQ(run.m_nExitCode, 0) << run.m_Errors;
+        const CProgramRun run = ExpectRun({"show", entry.path(), "--json"}, 0);
         const Json json = Json::parse(run.m_Output);
         const std::string content = FileContent(entry.path());
         EXPECT_EQ(Members(json["description"]), KeyLines(content, "Description Part"));
@@ -57,8 +56,7 @@ TEST_F(Show, JsonHasEverythingOfTheFileInItsOrder) {
 }
 
 TEST_F(Show, APersonReadsAlignedKeysAndIndentedBodies) {
-    const CProgramRun run = Run({"show", Example("animate_text_rich.cfg")});
-    EXPECT_EQ(run.m_nExitCode, 0);
+    const CProgramRun run = ExpectRun({"show", Example("animate_text_rich.cfg")}, 0);
     EXPECT_TRUE(run.m_Output.starts_with("Animate Text\n")) << run.m_Output;
     for (const char* pLine :
          {"\n  Title           headlines\n", "\n  LastUpdateTime  37622.750000000 (2003-01-01 18:00)\n",
@@ -99,34 +97,19 @@ TEST_F(Show, WhatIsNoWholeFileOfOursIsSaidPlainly) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.m_pWhat);
         m_Folder.Write("x.cfg", row.m_Content);
-        for (const char* pForm : {"--json", "x.cfg"}) {
-            std::vector<std::string> arguments = {"show", "x.cfg"};
-            if (std::string(pForm) == "--json")
-                arguments.emplace_back(pForm);
-            const CProgramRun run = Run(arguments);
-            EXPECT_EQ(run.m_nExitCode, row.m_nExitCode) << run.m_Errors;
-            EXPECT_NE(run.m_Errors.find(row.m_pMessage), std::string::npos) << run.m_Errors;
-            EXPECT_EQ(run.m_Errors.empty(), !*row.m_pMessage);
-            EXPECT_TRUE(arguments.size() == 2 || Json::accept(run.m_Output));
-        }
+        ExpectRun({"show", "x.cfg"}, row.m_nExitCode, row.m_pMessage);
+        EXPECT_TRUE(
+            Json::accept(ExpectRun({"show", "x.cfg", "--json"}, row.m_nExitCode, row.m_pMessage).m_Output));
     }
-    EXPECT_NE(Run({"show", "absent.cfg"}).m_Errors.find("absent.cfg: can't be read: No such file"),
-              std::string::npos);
+    ExpectRun({"show", "absent.cfg"}, 1, "absent.cfg: can't be read: No such file");
 }
 
 TEST_F(Show, TextsAreReadInTheGivenCodePage) {
-    const auto greeting = [&](std::vector<std::string> arguments, std::string& errors) {
-        arguments.insert(arguments.end(), {"show", Example("calander_rich.cfg"), "--json"});
-        const CProgramRun run = Run(arguments);
-        EXPECT_EQ(run.m_nExitCode, 0);
-        errors = run.m_Errors;
-        return Json::parse(run.m_Output)["parameters"]["CalanderText"].get<std::string>();
-    };
-    std::string errors;
-    EXPECT_EQ(greeting({"--code-page", "936"}, errors), "欢迎光临!");
-    EXPECT_EQ(errors, "");
-    EXPECT_NE(greeting({}, errors).find("\uFFFD"), std::string::npos);
-    EXPECT_NE(errors.find("--code-page"), std::string::npos);
+    const std::string file = Example("calander_rich.cfg");
+    const CProgramRun run = ExpectRun({"show", file, "--json", "--code-page", "936"}, 0);
+    EXPECT_EQ(Json::parse(run.m_Output)["parameters"]["CalanderText"], "欢迎光临!");
+    EXPECT_NE(ExpectRun({"show", file, "--json"}, 0, "--code-page").m_Output.find("\uFFFD"),
+              std::string::npos);
 }
 
 TEST_F(Show, ControlCharactersStayOffTheTerminal) {
@@ -141,22 +124,19 @@ TEST_F(Show, ExitCodesTellWrongUsageFromFailure) {
     const struct {
         std::vector<std::string> m_Arguments;
         int m_nExitCode;
+        const char* m_pMessage;
     } cases[] = {
-        {{}, 2},
-        {{"show"}, 2},
-        {{"sow", "x.cfg"}, 2},
-        {{"--help"}, 0},
-        {{"--version"}, 0},
-        {{"publish", "x.cfg"}, 2},
-        {{"show", "x.cfg", "--code-page", "12"}, 2},
-        {{"show", "x.cfg", "--code-page", "932"}, 0},
-        {{"show", "x.cfg", "--jsn"}, 2},
-        {{"show", "."}, 1},
+        {{}, 2, "subcommand is required"},
+        {{"show"}, 2, "FILE"},
+        {{"sow", "x.cfg"}, 2, "subcommand is required"},
+        {{"--help"}, 0, ""},
+        {{"--version"}, 0, ""},
+        {{"publish", "x.cfg"}, 2, "--page"},
+        {{"show", "x.cfg", "--code-page", "12"}, 2, "12 is no code page"},
+        {{"show", "x.cfg", "--code-page", "932"}, 0, ""},
+        {{"show", "x.cfg", "--jsn"}, 2, "--jsn"},
+        {{"show", "."}, 1, "can't be read"},
     };
-    for (const auto& row : cases) {
-        const CProgramRun run = Run(row.m_Arguments);
-        EXPECT_EQ(run.m_nExitCode, row.m_nExitCode)
-            << testing::PrintToString(row.m_Arguments) << run.m_Errors;
-        EXPECT_EQ(run.m_Errors.empty(), row.m_nExitCode == 0) << run.m_Errors;
-    }
+    for (const auto& [arguments, nExitCode, pMessage] : cases)
+        ExpectRun(arguments, nExitCode, pMessage);
 }

@@ -197,49 +197,7 @@ TEST_F(Profile, ProcessesThatWriteAtOnceLoseNothing) {
         EXPECT_EQ(GetProfileString("own", Key(nProcess)), ToText(kRounds));
 }
 
-TEST_F(Profile, AProcessThatIsKilledLeavesTheOldSettingsOrTheNew) {
-    constexpr int kKeys = 40;
-    ASSERT_TRUE(WriteProfileString("other", "key", "stays"));
-    int nLast = 0, nKilledAmid = 0, writing[2];
-    ASSERT_EQ(pipe(writing), 0);
-    for (int nRound = 0; nRound < 40; ++nRound) {
-        const pid_t nProcess = Start([&]() -> int {
-            for (int nGeneration = nLast + 1;; ++nGeneration) {
-                ChangeProfileSection("s", [&](CProfileSection& section) {
-                    for (int nKey = 0; nKey < kKeys; ++nKey)
-                        section.WriteString(Key(nKey), ToText(nGeneration));
-                });
-                if (nGeneration == nLast + 1 && write(writing[1], "!", 1) != 1)
-                    return 1;
-            }
-        });
-        char begun;
-        ASSERT_EQ(read(writing[0], &begun, 1), 1);
-        usleep(static_cast<useconds_t>(nRound * 331));
-        kill(nProcess, SIGKILL);
-        const int nStatus = WaitFor(nProcess);
-        EXPECT_TRUE(WIFSIGNALED(nStatus)) << "ended by itself: " << nStatus;
-        for (const auto& entry : fs::directory_iterator(m_User.Folder()))
-            nKilledAmid += entry.path().filename().string().starts_with(".orrelix-");
-
-        const CProfileSection section = GetProfileSection("s");
-        const CString generation = section.GetString(Key(0));
-        EXPECT_GT(ToInteger(generation), nLast) << "fell behind";
-        for (int nKey = 1; nKey < kKeys; ++nKey)
-            EXPECT_EQ(section.GetString(Key(nKey)), generation) << "half written";
-        EXPECT_EQ(GetProfileString("other", "key"), "stays");
-        nLast = ToInteger(generation);
-    }
-    close(writing[0]);
-    close(writing[1]);
-    EXPECT_GT(nKilledAmid, 0) << "no process was killed amid writing";
-
-    EXPECT_TRUE(WriteProfileString("s", "k", "v"));
-    for (const auto& entry : fs::directory_iterator(m_User.Folder()))
-        EXPECT_EQ(entry.path().stem(), "settings") << "left behind by a process that was killed";
-}
-
-TEST_F(Profile, ALockThatSomebodyKeepsIsNotWaitedForForEver) {
+TEST_F(Profile, ALockIsNotWaitedForForEverAndGoesWithAProcessThatIsKilled) {
     const CString path = (m_User.Root() / "lock").c_str();
     CFileLock second;
     {
@@ -247,5 +205,10 @@ TEST_F(Profile, ALockThatSomebodyKeepsIsNotWaitedForForEver) {
         EXPECT_TRUE(first.Acquire(path, 0));
         EXPECT_FALSE(second.Acquire(path, 20));
     }
+    const pid_t nProcess = Start([&] {
+        CFileLock killed;
+        return killed.Acquire(path, 0) ? raise(SIGKILL) : 1;
+    });
+    EXPECT_TRUE(WIFSIGNALED(WaitFor(nProcess)));
     EXPECT_TRUE(second.Acquire(path, 0));
 }

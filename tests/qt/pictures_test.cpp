@@ -7,18 +7,16 @@
 #include "controls/font_dlg.h"
 #include "controls/padding_dlg.h"
 #include "controls/url_dlg.h"
-#include "dialogs/animate_text_dlg.h"
+#include "core/orrelix.h"
 #include "dialogs/copy_resources.h"
-#include "dialogs/select_script.h"
-#include "dialogs/text_show_dlg.h"
 #include "tests/qt/windows_person.h"
 #include "tests/support/temporary_directory.h"
 #include "tests/support/user_settings.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QToolTip>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -26,119 +24,72 @@ int Depth(const QWidget* pWindow) {
     return pWindow ? 1 + Depth(pWindow->parentWidget()) : 0;
 }
 
-// What is on the screen, a window's own windows above it, without the desktop around them.
-QPixmap GrabWindows() {
+// Takes what is on the screen, a window's own windows above it, without the desktop around them.
+void TakePicture(const QString& name) {
+    QApplication::processEvents(); // let the layout settle
     QRect area;
-    QWidgetList windows;
+    std::multimap<int, QWidget*> windows;
     for (QWidget* pWindow : QApplication::topLevelWidgets()) {
         if (pWindow->isVisible()) {
             area |= pWindow->geometry();
-            windows += pWindow;
+            windows.emplace(Depth(pWindow), pWindow);
         }
     }
-    std::stable_sort(windows.begin(), windows.end(), [](const QWidget* pLeft, const QWidget* pRight) {
-        return Depth(pLeft) < Depth(pRight);
-    });
-    const qreal density = qApp->devicePixelRatio();
-    QPixmap picture(area.size() * density);
-    picture.setDevicePixelRatio(density);
+    QPixmap picture(area.size() * qApp->devicePixelRatio());
+    picture.setDevicePixelRatio(qApp->devicePixelRatio());
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    for (QWidget* pWindow : windows)
+    for (const auto& [nDepth, pWindow] : windows)
         painter.drawPixmap(pWindow->pos() - area.topLeft(), pWindow->grab());
-    return picture;
+    const QString folder = qEnvironmentVariable("ORRELIX_PICTURES");
+    EXPECT_TRUE(folder.isEmpty() || picture.save(folder + "/" + name + ".png", "PNG", 0))
+        << name.toStdString();
 }
 
 std::function<void(CDialog&)> Take(const char* pName) {
-    return [pName](CDialog&) {
-        const QString folder = qEnvironmentVariable("ORRELIX_PICTURES");
-        QApplication::processEvents(); // let the layout settle
-        const QPixmap picture = GrabWindows();
-        EXPECT_FALSE(picture.isNull()) << pName;
-        EXPECT_TRUE(folder.isEmpty() || picture.save(folder + "/" + pName + ".png", "PNG", 0)) << pName;
-    };
+    return [pName](CDialog&) { TakePicture(pName); };
 }
-
-class Pictures : public testing::Test {
-protected:
-    CUserSettings m_Settings;
-    CWindowsPerson m_Person;
-};
 
 } // namespace
 
-TEST_F(Pictures, SelectScript) {
-    m_Person.In("Select a DHTML Scripts")
-        .SelectsRow("DHTML Scripts", 1)
-        .Then(Take("select_script"))
-        .PressesEscape();
-    CSelectScriptDlg().DoModal();
-}
+TEST(Pictures, OfTheWindows) {
+    const CUserSettings settings;
+    CWindowsPerson person;
+    const CString scripts = "DHTML Scripts", clashes = "Files with clashing names";
+    person.In("Select a DHTML Scripts").SelectsRow(scripts, 1).Then(Take("select_script"));
+    person.DoubleClicks(scripts, "Animate Text").In("Animate Text").SelectsRow("Messages", 2);
+    person.Then(Take("animate_text")).OpensColours("Text Font Color:").Then(Take("animate_text_colours"));
+    person.PressesInPopup({PopupKey::Down, PopupKey::Escape}).Clicks("Font...").In("Font Properties");
+    person.DoubleClicks("Double Click to Insert into above:", 0).Picks("Font Weight:", "bold");
+    person.Then(Take("font")).Clicks("Cancel").In("Animate Text").Clicks("Cancel");
+    COrrelix().Config();
 
-TEST_F(Pictures, AnimateText) {
-    m_Person.In("Animate Text")
-        .SelectsRow("Messages", 2)
-        .Then(Take("animate_text"))
-        .OpensColours("Text Font Color:")
-        .Then(Take("animate_text_colours"))
-        .PressesInPopup({PopupKey::Down, PopupKey::Escape})
-        .Clicks("Font...");
-    m_Person.In("Font Properties")
-        .DoubleClicks("Double Click to Insert into above:", 0)
-        .Picks("Font Weight:", "bold")
-        .Then(Take("font"))
-        .Clicks("Cancel");
-    m_Person.In("Animate Text").Clicks("Cancel");
-    CAnimateText gadget;
-    CAnimateTextDlg dialog;
-    dialog.m_pGadget = &gadget;
-    dialog.DoModal();
-}
+    person.In("Slide Text").Types("Text Title:", "Spring news").Then(Take("slide_text"));
+    person.OpensColours("Text Area / Color:").PressesInPopup({PopupKey::Down, PopupKey::Right});
+    person.Then(Take("colour_popup")).PressesInPopup({PopupKey::Escape}).Clicks("Cancel");
+    COrrelix orrelix;
+    orrelix.SelectType("2");
+    orrelix.Config();
 
-TEST_F(Pictures, SlideText) {
-    m_Person.In("Slide Text")
-        .Types("Text Title:", "Spring news")
-        .Then(Take("slide_text"))
-        .OpensColours("Text Area / Color:")
-        .PressesInPopup({PopupKey::Down, PopupKey::Right, PopupKey::Right})
-        .Then(Take("colour_popup"))
-        .PressesInPopup({PopupKey::Escape})
-        .Clicks("Cancel");
-    CTextShow gadget;
-    CTextShowDlg dialog;
-    dialog.m_pGadget = &gadget;
-    dialog.DoModal();
-}
-
-TEST_F(Pictures, SmallDialogs) {
-    m_Person.In("Input an URL:").Then(Take("url")).PressesEscape();
-    m_Person.In("Padding Style").Then(Take("padding")).PressesEscape();
-    m_Person.In("Border Properties").Then(Take("border")).PressesEscape();
-    m_Person.In("Calender Font Style").Then(Take("calender_font")).PressesEscape();
     CUrlDlg url;
     url.m_Url = "http://www.example.com/";
-    url.DoModal();
-    CPaddingDlg().DoModal();
-    CBorderPropertiesDlg().DoModal();
-    CCalanderFontDlg().DoModal();
-}
+    CPaddingDlg padding;
+    CBorderPropertiesDlg border;
+    CCalanderFontDlg font;
+    for (const auto& [pName, pDialog] : std::initializer_list<std::pair<const char*, CDialog*>>{
+             {"url", &url}, {"padding", &padding}, {"border", &border}, {"calender_font", &font}}) {
+        person.In(pDialog->GetDescription().m_pTitle).Then(Take(pName)).PressesEscape();
+        pDialog->DoModal();
+    }
 
-TEST_F(Pictures, CopyResources) {
-    CTemporaryDirectory directory;
+    const CTemporaryDirectory directory;
     CString photo = directory.Write("photo.gif", "x"), logo = directory.Write("logo.gif", "x");
-    m_Person.In("Copy Resources")
-        .SelectsRow("Files with clashing names", 0)
-        .Then(Take("copy_resources"))
-        .Clicks("Browse ...");
-    m_Person.In("Browse Files").Then(Take("browse_files")).PressesEscape();
-    m_Person.In("Copy Resources")
-        .Clicks("Rename")
-        .Then(Take("rename"))
-        .CancelsRenaming("Files with clashing names")
-        .PressesEscape();
-    CCopyResourcesDlg dialog;
-    dialog.m_Destination = directory.Path() + "\\";
-    dialog.AddClash(photo);
-    dialog.AddClash(logo);
-    dialog.DoModal();
+    person.In("Copy Resources").SelectsRow(clashes, 0).Then(Take("copy_resources")).Clicks("Browse ...");
+    person.In("Browse Files").Then(Take("browse_files")).PressesEscape().In("Copy Resources");
+    person.Clicks("Rename").Then(Take("rename")).CancelsRenaming(clashes).PressesEscape();
+    CCopyResourcesDlg copy;
+    copy.m_Destination = directory.Path() + "\\";
+    copy.AddClash(photo);
+    copy.AddClash(logo);
+    copy.DoModal();
 }

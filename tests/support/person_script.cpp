@@ -1,18 +1,8 @@
 #include "tests/support/person_script.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 
 namespace {
-
-const std::vector<ControlKind> kBoxes = {ControlKind::Edit, ControlKind::ComboBox};
-const std::vector<ControlKind> kLists = {ControlKind::ListBox, ControlKind::ListCtrl};
-const std::vector<ControlKind> kRows = {ControlKind::ListBox, ControlKind::ListCtrl, ControlKind::ComboBox};
-const std::vector<ControlKind> kTexts = {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static,
-                                         ControlKind::Button};
-const std::vector<ControlKind> kAll = {ControlKind::Static,   ControlKind::Edit,    ControlKind::Button,
-                                       ControlKind::ComboBox, ControlKind::ListBox, ControlKind::ListCtrl,
-                                       ControlKind::Slider};
 
 bool IsCalled(const CControlDescription& control, const CString& name) {
     return name == WithoutMnemonic(control.m_pLabel) || name == WithoutMnemonic(control.m_pCaption) ||
@@ -75,8 +65,7 @@ CPersonScript& CPersonScript::AddAct(const CString& words, std::function<void(CD
     return Add({.m_Words = words, .m_Act = std::move(act)});
 }
 
-CPersonScript& CPersonScript::AddLook(const CString& verb, const CString& name,
-                                      std::vector<ControlKind> kinds, Act act) {
+CPersonScript& CPersonScript::AddLook(const CString& verb, const CString& name, Kinds kinds, Act act) {
     const CString words = verb + " " + name;
     return AddAct(words, [this, name, kinds, act, words](CDialog& dialog, CPersonHands& hands) {
         const CControlDescription* pControl = FindByName(dialog.GetDescription(), name, kinds);
@@ -88,8 +77,7 @@ CPersonScript& CPersonScript::AddLook(const CString& verb, const CString& name,
     });
 }
 
-CPersonScript& CPersonScript::AddAct(const CString& verb, const CString& name, std::vector<ControlKind> kinds,
-                                     Act act) {
+CPersonScript& CPersonScript::AddAct(const CString& verb, const CString& name, Kinds kinds, Act act) {
     return AddLook(verb, name, std::move(kinds),
                    [this, verb, name, act](const CTarget& target, CPersonHands& hands) {
                        if (hands.GetPopup())
@@ -99,31 +87,6 @@ CPersonScript& CPersonScript::AddAct(const CString& verb, const CString& name, s
                        else
                            act(target, hands);
                    });
-}
-
-CPersonScript& CPersonScript::Types(const CString& name, const CString& text) {
-    return AddAct("types into", name, kBoxes,
-                  [text](const CTarget& target, CPersonHands& hands) { hands.Type(target, text); });
-}
-
-CPersonScript& CPersonScript::Turns(const CString& name, int nSteps) {
-    return AddAct("turns", name, {ControlKind::Spin},
-                  [nSteps](const CTarget& target, CPersonHands& hands) { hands.Turn(target, nSteps); });
-}
-
-CPersonScript& CPersonScript::Clicks(const CString& name) {
-    return AddAct("clicks", name, {ControlKind::Button},
-                  [](const CTarget& target, CPersonHands& hands) { hands.Click(target); });
-}
-
-CPersonScript& CPersonScript::SelectsRows(const CString& name, std::vector<int> rows) {
-    return AddAct("selects a row of", name, kLists,
-                  [rows](const CTarget& target, CPersonHands& hands) { hands.SelectRows(target, rows); });
-}
-
-CPersonScript& CPersonScript::DoubleClicks(const CString& name, int nRow) {
-    return AddAct("double-clicks in", name, {ControlKind::ListBox},
-                  [nRow](const CTarget& target, CPersonHands& hands) { hands.DoubleClick(target, nRow); });
 }
 
 CPersonScript& CPersonScript::DoubleClicks(const CString& name, const CString& row) {
@@ -140,37 +103,12 @@ CPersonScript& CPersonScript::Picks(const CString& name, const CString& choice) 
                   });
 }
 
-CPersonScript& CPersonScript::ClosesList(const CString& name) {
-    return AddAct("closes the list of", name, {ControlKind::ComboBox},
-                  [](const CTarget& target, CPersonHands& hands) { hands.CloseList(target); });
-}
-
-CPersonScript& CPersonScript::Moves(const CString& name, int nPos) {
-    return AddAct("moves", name, {ControlKind::Slider},
-                  [nPos](const CTarget& target, CPersonHands& hands) { hands.Move(target, nPos); });
-}
-
-CPersonScript& CPersonScript::Renames(const CString& name, const CString& text) {
-    return AddAct("renames in", name, {ControlKind::ListCtrl},
-                  [text](const CTarget& target, CPersonHands& hands) { hands.Rename(target, text); });
-}
-
-CPersonScript& CPersonScript::CancelsRenaming(const CString& name) {
-    return AddAct("cancels the renaming in", name, {ControlKind::ListCtrl},
-                  [](const CTarget& target, CPersonHands& hands) { hands.Rename(target, {}); });
-}
-
 CPersonScript& CPersonScript::PressesEscape() {
     return AddAct("presses Escape", [](CDialog& dialog, CPersonHands& hands) { hands.PressEscape(dialog); });
 }
 
 CPersonScript& CPersonScript::PressesEnter() {
     return AddAct("presses Enter", [](CDialog& dialog, CPersonHands& hands) { hands.PressEnter(dialog); });
-}
-
-CPersonScript& CPersonScript::OpensColours(const CString& name) {
-    return AddAct("opens the colours of", name, {ControlKind::OwnerDrawnButton},
-                  [](const CTarget& target, CPersonHands& hands) { hands.Click(target); });
 }
 
 CPersonScript& CPersonScript::AddPopupAct(const CString& words,
@@ -228,39 +166,6 @@ CPersonScript& CPersonScript::MixesColour(CColour colour) {
 
 CPersonScript& CPersonScript::CancelsColour() {
     return Add({.m_Kind = Kind::Colour, .m_Words = "cancels the colour dialog"});
-}
-
-CPersonScript& CPersonScript::Shows(const CString& name, const CString& text) {
-    return AddLook("reads", name, kTexts, [name, text](const CTarget& target, CPersonHands& hands) {
-        EXPECT_EQ(hands.TextOf(target), text) << name;
-    });
-}
-
-CPersonScript& CPersonScript::ShowsPosition(const CString& name, int nPos) {
-    return AddLook("looks at", name, {ControlKind::Slider},
-                   [name, nPos](const CTarget& target, CPersonHands& hands) {
-                       EXPECT_EQ(hands.PositionOf(target), nPos) << name;
-                   });
-}
-
-CPersonScript& CPersonScript::ShowsRows(const CString& name, std::vector<CString> rows) {
-    return AddLook("reads the rows of", name, kRows,
-                   [name, rows](const CTarget& target, CPersonHands& hands) {
-                       EXPECT_EQ(hands.RowsOf(target), rows) << name;
-                   });
-}
-
-CPersonScript& CPersonScript::ShowsSelected(const CString& name, std::vector<int> rows) {
-    return AddLook("looks at the selection of", name, kRows,
-                   [name, rows](const CTarget& target, CPersonHands& hands) {
-                       EXPECT_EQ(hands.SelectedRowsOf(target), rows) << name;
-                   });
-}
-
-CPersonScript& CPersonScript::ShowsEnabled(const CString& name, bool bEnabled) {
-    return AddLook("looks at", name, kAll, [name, bEnabled](const CTarget& target, CPersonHands& hands) {
-        EXPECT_EQ(hands.IsEnabled(target), bEnabled) << name;
-    });
 }
 
 CPersonScript& CPersonScript::Then(std::function<void(CDialog&)> action) {

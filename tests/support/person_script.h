@@ -15,6 +15,7 @@
 
 #include <deque>
 #include <functional>
+#include <gtest/gtest.h>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -72,23 +73,45 @@ public:
     // The steps that follow happen in the dialog with this title.
     CPersonScript& In(const CString& title);
 
-    CPersonScript& Types(const CString& name, const CString& text);
-    CPersonScript& Turns(const CString& name, int nSteps);
-    CPersonScript& Clicks(const CString& name);
+    CPersonScript& Types(const CString& name, const CString& text) {
+        return Do("types into", name, {ControlKind::Edit, ControlKind::ComboBox}, &CPersonHands::Type, text);
+    }
+    CPersonScript& Turns(const CString& name, int nSteps) {
+        return Do("turns", name, {ControlKind::Spin}, &CPersonHands::Turn, nSteps);
+    }
+    CPersonScript& Clicks(const CString& name) {
+        return Do("clicks", name, {ControlKind::Button}, &CPersonHands::Click);
+    }
     CPersonScript& SelectsRow(const CString& name, int nRow) { return SelectsRows(name, {nRow}); }
-    CPersonScript& SelectsRows(const CString& name, std::vector<int> rows);
-    CPersonScript& DoubleClicks(const CString& name, int nRow);
+    CPersonScript& SelectsRows(const CString& name, const std::vector<int>& rows) {
+        return Do("selects a row of", name, {ControlKind::ListBox, ControlKind::ListCtrl},
+                  &CPersonHands::SelectRows, rows);
+    }
+    CPersonScript& DoubleClicks(const CString& name, int nRow) {
+        return Do("double-clicks in", name, {ControlKind::ListBox}, &CPersonHands::DoubleClick, nRow);
+    }
     CPersonScript& DoubleClicks(const CString& name, const CString& row);
     CPersonScript& Picks(const CString& name, const CString& choice);
-    CPersonScript& ClosesList(const CString& name);
-    CPersonScript& Moves(const CString& name, int nPos);
-    CPersonScript& Renames(const CString& name, const CString& text);
-    CPersonScript& CancelsRenaming(const CString& name);
+    CPersonScript& ClosesList(const CString& name) {
+        return Do("closes the list of", name, {ControlKind::ComboBox}, &CPersonHands::CloseList);
+    }
+    CPersonScript& Moves(const CString& name, int nPos) {
+        return Do("moves", name, {ControlKind::Slider}, &CPersonHands::Move, nPos);
+    }
+    CPersonScript& Renames(const CString& name, const CString& text) {
+        return Do("renames in", name, {ControlKind::ListCtrl}, &CPersonHands::Rename, text);
+    }
+    CPersonScript& CancelsRenaming(const CString& name) {
+        return Do("cancels the renaming in", name, {ControlKind::ListCtrl}, &CPersonHands::Rename,
+                  std::nullopt);
+    }
     CPersonScript& PressesEscape();
     CPersonScript& PressesEnter();
 
     // The colour button beside the edit box of this name, and what happens in its popup.
-    CPersonScript& OpensColours(const CString& name);
+    CPersonScript& OpensColours(const CString& name) {
+        return Do("opens the colours of", name, {ControlKind::OwnerDrawnButton}, &CPersonHands::Click);
+    }
     CPersonScript& PicksColour(const CString& colourName);
     CPersonScript& PressesInPopup(std::initializer_list<PopupKey> keys);
 
@@ -100,11 +123,21 @@ public:
     CPersonScript& CancelsColour();
 
     // What the person sees.
-    CPersonScript& Shows(const CString& name, const CString& text);
-    CPersonScript& ShowsPosition(const CString& name, int nPos);
-    CPersonScript& ShowsRows(const CString& name, std::vector<CString> rows);
-    CPersonScript& ShowsSelected(const CString& name, std::vector<int> rows);
-    CPersonScript& ShowsEnabled(const CString& name, bool bEnabled = true);
+    CPersonScript& Shows(const CString& name, const CString& text) {
+        return Sees("reads", name, kTexts, &CPersonHands::TextOf, text);
+    }
+    CPersonScript& ShowsPosition(const CString& name, int nPos) {
+        return Sees("looks at", name, {ControlKind::Slider}, &CPersonHands::PositionOf, nPos);
+    }
+    CPersonScript& ShowsRows(const CString& name, const std::vector<CString>& rows) {
+        return Sees("reads the rows of", name, kRows, &CPersonHands::RowsOf, rows);
+    }
+    CPersonScript& ShowsSelected(const CString& name, const std::vector<int>& rows) {
+        return Sees("looks at the selection of", name, kRows, &CPersonHands::SelectedRowsOf, rows);
+    }
+    CPersonScript& ShowsEnabled(const CString& name, bool bEnabled = true) {
+        return Sees("looks at", name, kAll, &CPersonHands::IsEnabled, bEnabled);
+    }
     CPersonScript& ShowsDisabled(const CString& name) { return ShowsEnabled(name, false); }
 
     // Anything else, done when the steps before have been.
@@ -139,12 +172,37 @@ private:
         std::optional<CColour> m_Colour = {};
     };
 
+    using Kinds = std::vector<ControlKind>;
+    static inline const Kinds kRows = {ControlKind::ListBox, ControlKind::ListCtrl, ControlKind::ComboBox};
+    static inline const Kinds kTexts = {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static,
+                                        ControlKind::Button};
+    static inline const Kinds kAll = {ControlKind::Static,   ControlKind::Edit,    ControlKind::Button,
+                                      ControlKind::ComboBox, ControlKind::ListBox, ControlKind::ListCtrl,
+                                      ControlKind::Slider};
+
     using Act = std::function<void(const CTarget&, CPersonHands&)>;
     CPersonScript& Add(CStep step);
     CPersonScript& AddAct(const CString& words, std::function<void(CDialog&, CPersonHands&)> act);
     // An act upon a control that must be there, of one of these kinds, and enabled.
-    CPersonScript& AddAct(const CString& verb, const CString& name, std::vector<ControlKind> kinds, Act act);
-    CPersonScript& AddLook(const CString& verb, const CString& name, std::vector<ControlKind> kinds, Act act);
+    CPersonScript& AddAct(const CString& verb, const CString& name, Kinds kinds, Act act);
+    CPersonScript& AddLook(const CString& verb, const CString& name, Kinds kinds, Act act);
+    // What the hands do, and what is seen, without more.
+    template <class... T>
+    CPersonScript& Do(const char* pVerb, const CString& name, const Kinds& kinds,
+                      void (CPersonHands::*act)(const CTarget&, T...), std::type_identity_t<T>... given) {
+        return AddAct(pVerb, name, kinds,
+                      [act, ... given = std::decay_t<T>(given)](const CTarget& target, CPersonHands& hands) {
+                          (hands.*act)(target, given...);
+                      });
+    }
+    template <class T>
+    CPersonScript& Sees(const char* pVerb, const CString& name, const Kinds& kinds,
+                        T (CPersonHands::*look)(const CTarget&), const std::type_identity_t<T>& expected) {
+        return AddLook(pVerb, name, kinds,
+                       [look, name, expected](const CTarget& target, CPersonHands& hands) {
+                           EXPECT_EQ((hands.*look)(target), expected) << name;
+                       });
+    }
     CPersonScript& AddPopupAct(const CString& words, std::function<void(CPopupWindow&, CPersonHands&)> act);
     std::optional<CStep> Take(Kind kind, const CString& what);
     void Fail(const CString& message);

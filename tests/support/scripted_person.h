@@ -15,10 +15,6 @@ public:
     CScriptedPerson() { SetDesktop(this); }
     ~CScriptedPerson() override { SetDesktop(nullptr); }
 
-    // The families that the system has.
-    CStringArray m_FontFamilies = {"Verdana", "Arial", "Courier New"};
-    // Where each owner-drawn button stands.
-    CRect m_ButtonRect = {100, 100, 160, 120};
     CRect m_Screen = {0, 0, 1024, 768};
 
     void RunDialog(CDialog& dialog) override;
@@ -27,12 +23,12 @@ public:
     bool RunColourDialog(CColour& colour) override;
     void OpenPopup(CPopupWindow& popup) override;
     void ClosePopup(CPopupWindow& popup) override;
-    CRect GetScreenRect(const COwnerDrawnButton&) const override { return m_ButtonRect; }
+    CRect GetScreenRect(const COwnerDrawnButton&) const override { return {100, 100, 160, 120}; }
     CRect GetScreenAround(const CRect&) const override { return m_Screen; }
     CThemeMetrics GetMetrics() const override { return {{2, 2}, {16, 16}}; }
     CSize MeasureText(const CString& text) const override;
     CColour GetSystemColour(SystemColour colour) const override;
-    CStringArray GetFontFamilies() const override { return m_FontFamilies; }
+    CStringArray GetFontFamilies() const override { return {"Verdana", "Arial", "Courier New"}; }
 
     void Type(const CTarget& target, const CString& text) override;
     void Turn(const CTarget& target, int nSteps) override;
