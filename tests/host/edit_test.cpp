@@ -45,6 +45,9 @@ TEST_F(Edit, SetsListsItemByItem) {
     EXPECT_EQ(Parameter("links.cfg", "CoolLinkLinkStr"), "http://a.example/,http://www.vellumark.example/,");
     EXPECT_EQ(Parameter("links.cfg", "CoolLinkImgWidth"), "10,,");
     EXPECT_TRUE(Exists("select.js"));
+    ExpectRun({"edit", "links.cfg", "--set", "m_Links=http://b.example/"}, 0);
+    EXPECT_EQ(Parameter("links.cfg", "CoolLinkTextStr"), "One~@^` two,Three,")
+        << "one link takes no texts away";
 
     const CProgramRun fields = Run({"edit", "links.cfg", "--list-fields"});
     EXPECT_NE(fields.m_Output.find("m_Texts                  + One, two\n"), std::string::npos)
@@ -85,6 +88,30 @@ TEST_F(Edit, AsksBeforeItOverwritesAnImage) {
     EXPECT_TRUE(Exists("tip.cfg"));
 }
 
+TEST_F(Edit, AnImageIsNamedAsTheSystemDoesAndNeverForgotten) {
+    std::filesystem::create_directory(m_Folder.File("page"));
+    m_Folder.Write("photo.gif", "photo");
+    ExpectRun({"new", "page/tip.cfg", "--effect", "ToolTip", "--set", "m_Image=photo.gif"}, 0);
+    EXPECT_EQ(Content("page/photo.gif"), "photo");
+    const std::string before = Content("page/tip.cfg");
+    std::filesystem::remove(m_Folder.File("page/photo.gif"));
+    ExpectRun({"edit", "page/tip.cfg", "--set", "m_DelayTime=1"}, 1, "photo.gif, which is missing");
+    EXPECT_EQ(Content("page/tip.cfg"), before);
+    ExpectRun({"edit", "page/tip.cfg", "--set", "m_Image="}, 0);
+}
+
+TEST_F(Edit, ACopyThatFailsIsNamed) {
+    std::filesystem::create_directory(m_Folder.File("Calander2.js"));
+    ExpectRun({"new", "x.cfg", "--effect", "Calender"}, 1, "Calander2.js: the page needs it");
+}
+
+TEST_F(Edit, TextsAreThoseOfTheCodePage) {
+    ExpectRun({"--code-page", "936", "new", "x.cfg", "--effect", "Slide Text", "--set", "m_Text=你好"}, 0);
+    EXPECT_EQ(Parameter("x.cfg", "TextShowText"), "\xC4\xE3\xBA\xC3");
+    const CProgramRun fields = ExpectRun({"--code-page", "936", "edit", "x.cfg", "--list-fields"}, 0);
+    EXPECT_NE(fields.m_Output.find("= 你好\n"), std::string::npos) << fields.m_Output;
+}
+
 TEST_F(Edit, SaysWhatIsWrongAndWhatToDo) {
     m_Folder.Write("damaged.cfg", "nothing of ours");
     const struct {
@@ -95,17 +122,23 @@ TEST_F(Edit, SaysWhatIsWrongAndWhatToDo) {
         {{"new", "x.cfg"}, 1, "there is no screen to show dialogs on"},
         {{"new", "x.cfg"}, 1, "--effect: \"Animate Text\""},
         {{"edit", Example("text_show_plain.cfg")}, 1, "--list-fields"},
-        {{"new", "x.cfg", "--effect", "Marquee"}, 1, "is no effect"},
-        {{"new", "x.cfg", "--effect", "Slide Text", "--set", "m_Sped=1"}, 1, "no field m_Sped"},
-        {{"new", "x.cfg", "--effect", "Slide Text", "--set", "m_Speed"}, 1, "NAME=VALUE"},
+        {{"new", "x.cfg", "--effect", "Marquee"}, 2, "is no effect"},
+        {{"new", "x.cfg", "--effect", "Slide Text", "--set", "m_Sped=1"}, 2, "no field m_Sped"},
+        {{"new", "x.cfg", "--effect", "Slide Text", "--set", "m_Speed"}, 2, "NAME=VALUE"},
         {{"new", "x.cfg", "--effect", "Slide Text", "--set", "m_Speed=1", "--set", "m_Speed=2"},
-         1,
+         2,
          "set it once"},
-        {{"new", "x.cfg", "--set", "m_Speed=1"}, 1, "name one with --effect"},
+        {{"new", "x.cfg", "--set", "m_Speed=1"}, 2, "name one with --effect"},
         {{"new", "no/such/x.cfg", "--effect", "Slide Text"}, 1, "can't be written"},
         {{"edit", "damaged.cfg", "--set", "m_Speed=1"}, 1, "damaged.cfg"},
         {{"edit", "missing.cfg", "--set", "m_Speed=1"}, 1, "missing.cfg"},
         {{"new"}, 2, "FILE"},
+        {{"edit", ""}, 2, "FILE"},
+        {{"new", "x.cfg", "--effect", "Slide Text", "--title", "a\nb"}, 2, "--title"},
+        {{"--code-page", "1252", "new", "x.cfg", "--effect", "Slide Text", "--set", "m_Text=你"}, 2, "1252"},
+        {{"new", "x.cfg", "--effect", "ToolTip", "--set", "m_Image=/gone.gif"},
+         1,
+         "/gone.gif, which is missing"},
     };
     for (const auto& [arguments, nExitCode, pMessage] : cases) {
         ExpectRun(arguments, nExitCode, pMessage);

@@ -86,6 +86,9 @@ TEST_F(Publish, BothSegmentsGoToTheirPlacesAndNothingElseChanges) {
 
 TEST_F(Publish, AHeadIsFoundWithoutItsTagsAndNeverInCommentsOrScripts) {
     const std::string mark = "<!-- vignel: shop -->";
+    std::string emptyComments;
+    for (int i = 0; i < 500'000; ++i)
+        emptyComments += "<!-->";
     const struct {
         std::string m_Page;
         std::string m_BeforeScript; // what stands right before the script; empty for a failure
@@ -94,6 +97,8 @@ TEST_F(Publish, AHeadIsFoundWithoutItsTagsAndNeverInCommentsOrScripts) {
         {"<title></head></title><meta content='</head>'><body>" + mark, "<meta content='</head>'>"},
         {"<html lang=en>\n<head>" + mark, "<head>"},
         {"<html>" + mark, "<html>"},
+        {"<head></head><!-- Vignel rules: ours --><!-->" + mark, "<head>"},
+        {"<head></head>" + emptyComments + mark, "<head>"},
         {"<p>" + mark, ""},
         {"<head></head>", ""},
         {"<head></head><!-- vignel: Shop -->", ""},
@@ -213,9 +218,11 @@ TEST_F(Publish, FilesGoWhereTheirWebPathsSayAndNeverOutOfTheSite) {
         fs::remove_all(m_Folder.File("site"));
         fs::create_directories(m_Folder.File("site/real"));
         fs::create_directories(m_Folder.File("site/sub/taken"));
+        fs::create_directories(m_Folder.File("site/sub/dangling"));
         fs::create_directory_symlink("../real", m_Folder.File("site/sub/inside"));
         fs::create_directory_symlink("../../out", m_Folder.File("site/sub/outside"));
         fs::create_symlink("../../../out/animate.js", m_Folder.File("site/sub/taken/animate.js"));
+        fs::create_symlink("../../../out/none.js", m_Folder.File("site/sub/dangling/animate.js"));
         m_Folder.Write("site/sub/p.html", Page("t"));
     };
     fs::create_directories(m_Folder.File("out"));
@@ -234,6 +241,7 @@ TEST_F(Publish, FilesGoWhereTheirWebPathsSayAndNeverOutOfTheSite) {
         {"inside/", "site/real/animate.js"},
         {"outside/", ""},
         {"taken/", ""},
+        {"dangling/", ""},
         {"../../out/", ""},
         {"..\\..\\out\\", ""},
         {"%2e%2e/%2E%2E/out/", ""},
@@ -335,6 +343,6 @@ TEST_F(Publish, AProcessKilledInTheMidstOfWritingLeavesTheOldPageAndTheNextSweep
     }
     EXPECT_EQ(Run(publish).m_nExitCode, 0);
     EXPECT_NE(Content("site/p.html").find("message"), std::string::npos);
-    for (const auto& entry : fs::directory_iterator(m_Folder.File("site")))
+    for (const auto& entry : fs::recursive_directory_iterator(m_Folder.File("site")))
         EXPECT_FALSE(entry.path().filename().string().starts_with(".orrelix-")) << entry.path();
 }

@@ -73,6 +73,11 @@ TEST(Files, ABackslashWithinACharacterBelongsToTheName) {
     const CTemporaryDirectory directory;
     std::ofstream(directory.File("\x95\\.txt")) << "x";
     EXPECT_TRUE(FileExists(directory.Path() + "\\\x95\\.txt"));
+    // A name that ends in the first half of a character doesn't take the separator behind it along.
+    const CString inside = FromSystemPath(directory.File("\x95/a").string());
+    fs::create_directory(directory.File("\x95"));
+    directory.Write("\x95/a", "");
+    EXPECT_TRUE(FileExists(inside)) << inside;
 }
 
 TEST(Files, PatternsListFilesSortedWithoutRegardToCase) {
