@@ -52,6 +52,14 @@ TEST(Config, AnOkHasTheResourcesRegisteredAfresh) {
     EXPECT_NE(orrelix.GetResourceLocalPath(0), "\\elsewhere\\");
 }
 
+TEST(Config, WhatIsThrownInADialogDoesNotReachTheHost) {
+    COrrelix orrelix;
+    CScriptedPerson person;
+    person.In(kSelect).Then([](CDialog&) { throw std::bad_alloc(); });
+    EXPECT_FALSE(orrelix.Config());
+    EXPECT_EQ(orrelix.m_Type, "0");
+}
+
 TEST(Config, WhereNobodyIsItIsCancelledAndATypeThatIsNoneOfOursAsksNothing) {
     SetDesktop(nullptr);
     COrrelix orrelix;
