@@ -336,7 +336,7 @@ TEST_F(Publish, AProcessKilledInTheMidstOfWritingLeavesTheOldPageAndTheNextSweep
     const std::vector<std::string> publish = {"publish", "x.cfg", "--page", "site/p.html", "--site", "site"};
     CProgramLimits limits;
     limits.m_bKilledBeyond = true;
-    for (size_t nWritten : {0, 1, 100 << 10, 1 << 20, 4 << 20}) {
+    for (size_t nWritten : {0U, 1U, 100U << 10, 1U << 20, 4U << 20}) {
         limits.m_nFileSize = nWritten;
         EXPECT_TRUE(Run(publish, limits).m_bKilled) << nWritten;
         EXPECT_TRUE(Content("site/p.html") == before) << nWritten;
