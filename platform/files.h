@@ -12,6 +12,7 @@
 #include "platform/string.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -45,12 +46,17 @@ bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling = S
 // While one of these lives, looking for names that aren't on the disk as they are spelled lists each
 // directory once, and not again for each name. For runs over many files on one thread: what other processes
 // add meanwhile, under another case than it is looked for, may not be seen.
+struct CDirectoryListing;
+
 class CListedDirectories {
 public:
     CListedDirectories();
     ~CListedDirectories();
     CListedDirectories(const CListedDirectories&) = delete;
     CListedDirectories& operator=(const CListedDirectories&) = delete;
+
+private:
+    std::unique_ptr<CDirectoryListing> m_pListing; // null: an outer one is at work
 };
 
 // A file read from its start to its end. A pipe or a device is none.

@@ -19,6 +19,18 @@
 
 namespace fs = std::filesystem;
 
+// The names of directories by their lower-case form; of several, the first in byte order.
+struct CDirectoryListing {
+    using CNames = std::unordered_map<std::string, std::string>;
+
+    // Directories by their path with "/" at its end.
+    std::unordered_map<std::string, CNames> m_Directories;
+
+    std::optional<std::string> Find(const std::string& directory, const std::string& lowerName);
+    // Tells of a file that may be new.
+    void Note(const std::string& path);
+};
+
 namespace {
 
 constexpr size_t kBlock = 256 * 1024;
@@ -53,44 +65,26 @@ std::string LowerCase(std::string_view name) {
     return std::string(CString(name).MakeLower().View());
 }
 
-// A directory's names by their lower-case form; of several, the first in byte order.
-using CNames = std::unordered_map<std::string, std::string>;
-
-void AddName(CNames& names, std::string_view name) {
+void AddName(CDirectoryListing::CNames& names, std::string_view name) {
     const auto [entry, bNew] = names.try_emplace(LowerCase(name), name);
     if (!bNew && name < entry->second)
         entry->second = name;
 }
 
-CNames NamesOf(const std::string& directory) {
-    CNames names;
-    ForEachName(directory, [&](const char* pName) { AddName(names, pName); });
-    return names;
-}
+// What lives for the thread is a mere pointer: a destructor at the thread's end would keep the library loaded.
+thread_local CDirectoryListing* t_pListing = nullptr;
 
-// By the directory's path with "/" at its end; while a CListedDirectories lives.
-thread_local std::unordered_map<std::string, CNames> t_listed;
-thread_local int t_nListing = 0;
-
-// The directory's path ends in "/", or is empty.
+// The directory's path ends in "/", or is empty. Of several names, the first in byte order.
 std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
-    CNames fresh;
-    const CNames* pNames = &fresh;
-    if (t_nListing == 0)
-        fresh = NamesOf(directory);
-    else if (const auto listed = t_listed.find(directory); listed != t_listed.end())
-        pNames = &listed->second;
-    else
-        pNames = &t_listed.emplace(directory, NamesOf(directory)).first->second;
-    const auto found = pNames->find(LowerCase(name));
-    return found == pNames->end() ? std::nullopt : std::optional(found->second);
-}
-
-// Tells the listed directories of a new file.
-void NoteNewFile(const std::string& path) {
-    const size_t nName = path.rfind('/') + 1;
-    if (const auto listed = t_listed.find(path.substr(0, nName)); listed != t_listed.end())
-        AddName(listed->second, std::string_view(path).substr(nName));
+    const std::string wanted = LowerCase(name);
+    if (t_pListing)
+        return t_pListing->Find(directory, wanted);
+    std::optional<std::string> found;
+    ForEachName(directory, [&](const char* pName) {
+        if (LowerCase(pName) == wanted && (!found || pName < *found))
+            found = pName;
+    });
+    return found;
 }
 
 // The path as the disk spells it, or nothing when no spelling of it exists.
@@ -258,13 +252,30 @@ CStringArray FindFiles(const CString& directory, const CString& pattern) {
     return names;
 }
 
-CListedDirectories::CListedDirectories() {
-    ++t_nListing;
+std::optional<std::string> CDirectoryListing::Find(const std::string& directory,
+                                                   const std::string& lowerName) {
+    const auto [listed, bNew] = m_Directories.try_emplace(directory);
+    if (bNew)
+        ForEachName(directory, [&](const char* pName) { AddName(listed->second, pName); });
+    const auto found = listed->second.find(lowerName);
+    return found == listed->second.end() ? std::nullopt : std::optional(found->second);
+}
+
+void CDirectoryListing::Note(const std::string& path) {
+    const size_t nName = path.rfind('/') + 1;
+    if (const auto listed = m_Directories.find(path.substr(0, nName)); listed != m_Directories.end())
+        AddName(listed->second, std::string_view(path).substr(nName));
+}
+
+CListedDirectories::CListedDirectories()
+    : m_pListing(t_pListing ? nullptr : std::make_unique<CDirectoryListing>()) {
+    if (m_pListing)
+        t_pListing = m_pListing.get();
 }
 
 CListedDirectories::~CListedDirectories() {
-    if (--t_nListing == 0)
-        t_listed.clear();
+    if (m_pListing)
+        t_pListing = nullptr;
 }
 
 bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling) {
@@ -418,7 +429,8 @@ bool COutputFile::Commit(bool bDurable) {
         m_bFailed = rename(m_Temporary.c_str(), m_Target.c_str()) != 0;
         if (!m_bFailed) {
             m_Temporary.clear();
-            NoteNewFile(m_Target);
+            if (t_pListing)
+                t_pListing->Note(m_Target);
         }
     }
     Discard();
