@@ -51,8 +51,10 @@ if(ORRELIX_HOST)
             cmake_path(GET test STEM name)
             add_test(NAME browser.${name} COMMAND ${NODE_PROGRAM} --test ${test}
                 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/tests/browser)
-            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser RUN_SERIAL ON TIMEOUT 300
-                ENVIRONMENT "ORRELIX_PAGES=${browser_pages};ORRELIX_PROGRAM=$<TARGET_FILE:orrelix_program>;CHROMIUM=${CHROMIUM_PROGRAM}")
+            set(environment ORRELIX_PAGES=${browser_pages} ORRELIX_PROGRAM=$<TARGET_FILE:orrelix_program>
+                CHROMIUM=${CHROMIUM_PROGRAM})
+            set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser
+                RUN_SERIAL ON TIMEOUT 300 ENVIRONMENT "${environment}")
         endforeach()
     else()
         message(WARNING "Browser tests are left out: they need node, chromium and 'npm ci' in tests/browser")

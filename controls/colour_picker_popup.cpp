@@ -81,8 +81,8 @@ CRect CColourPickerPopup::RectOf(int nIndex) const {
     return {nLeft, nTop, nLeft + m_nBoxSize, nTop + m_nBoxSize};
 }
 
-// The margin is taken off the point for the box as for the cells: the box is reached by the margin later than
-// it is drawn, and left as much later.
+// The margin is taken off the point for the custom box as for the cells, so the box's hit area lies by the
+// margin right of and below where it is drawn.
 int CColourPickerPopup::HitTest(CPoint point) const {
     point.x -= m_nMargin;
     point.y -= m_nMargin;

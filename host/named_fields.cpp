@@ -36,11 +36,6 @@ CString ValueOf(const CString& given, bool bFileName) {
     return bOfSystem ? ComponentPath(std::string(given.View())) : given;
 }
 
-// The lists that say by themselves how many items there are.
-bool CountsItems(const std::string& name) {
-    return name == "m_Texts" || name == "m_Messages" || name == "m_Colors";
-}
-
 class CFieldSetter : public CParameterExchange {
 public:
     // nItems is the length of the lists, or below 0 for the one that they have.
@@ -103,10 +98,9 @@ std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
         if (field->m_bList)
             nItems = std::max(nItems, static_cast<CStringArray::Index>(given.size()));
     }
-    for (const CNamedField& field : fields) {
-        if (nItems >= 0 && CountsItems(field.m_Name) && !values.contains(field.m_Name))
-            nItems = std::max(nItems, static_cast<CStringArray::Index>(field.m_Values.size()));
-    }
+    const auto texts = FindField(fields, "m_Texts"); // of effects that have several lists
+    if (nItems >= 0 && texts != fields.end() && !values.contains(texts->m_Name))
+        nItems = std::max(nItems, static_cast<CStringArray::Index>(texts->m_Values.size()));
     CFieldSetter setter(values, nItems);
     gadget.ExchangeParameters(setter);
     return {};

@@ -211,10 +211,10 @@ bool IsLeftover(const char* pName) {
 } // namespace
 
 CString FromSystemPath(std::string_view path) {
+    const bool bTrailBytes = HasTrailBytes();
     CString result;
     for (size_t i = 0; i < path.size(); ++i) {
-        const bool bMayBeSwallowed =
-            HasTrailBytes() && i > 0 && static_cast<unsigned char>(path[i - 1]) >= 0x80;
+        const bool bMayBeSwallowed = bTrailBytes && i > 0 && static_cast<unsigned char>(path[i - 1]) >= 0x80;
         if (path[i] == '/')
             result += bMayBeSwallowed ? "/.\\" : "\\";
         else

@@ -45,8 +45,8 @@ public:
 
     void SetAt(CString key, TValue value) { ValueOf(std::move(key)) = std::move(value); }
 
-    // Has the memory fetched that the key's place in the index needs, while the caller does something else:
-    // for who adds so many keys that waiting for it is what takes the time.
+    // Prefetches the key's slot of the index. With very many keys, waiting for that memory is what SetAt and
+    // operator[] spend their time on.
     void Announce(std::string_view key) const {
 #ifdef __GNUC__
         if (!m_Index.empty())
