@@ -255,10 +255,11 @@ CStringArray FindFiles(const CString& directory, const CString& pattern) {
 std::optional<std::string> CDirectoryListing::Find(const std::string& directory,
                                                    const std::string& lowerName) {
     const auto [listed, bNew] = m_Directories.try_emplace(directory);
+    CNames& names = listed->second;
     if (bNew)
-        ForEachName(directory, [&](const char* pName) { AddName(listed->second, pName); });
-    const auto found = listed->second.find(lowerName);
-    return found == listed->second.end() ? std::nullopt : std::optional(found->second);
+        ForEachName(directory, [&names](const char* pName) { AddName(names, pName); });
+    const auto found = names.find(lowerName);
+    return found == names.end() ? std::nullopt : std::optional(found->second);
 }
 
 void CDirectoryListing::Note(const std::string& path) {
