@@ -11,6 +11,8 @@
 #include <cstring>
 #include <memory>
 
+namespace orrelix {
+
 namespace {
 
 // The text of an effect beside copying as many bytes into memory of their own.
@@ -140,3 +142,5 @@ const int s_nRegistered = [] {
 }();
 
 } // namespace
+
+} // namespace orrelix

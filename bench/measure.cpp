@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cstdio>
 
+namespace orrelix {
+
 std::string Number(long nNumber) {
     char text[24];
     snprintf(text, sizeof text, "%07ld", nNumber);
@@ -29,3 +31,5 @@ void MeasureBeside(benchmark::State& state, size_t nBytes, const std::function<v
     state.counters["fastest_ms"] = 1000 * workSeconds;
     state.SetBytesProcessed(static_cast<int64_t>(nBytes) * state.iterations());
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+namespace orrelix {
+
 // Seven digits.
 std::string Number(long nNumber);
 
@@ -16,3 +18,5 @@ double Seconds(const std::function<void()>& work);
 // time the work takes. nBytes is what the work handles.
 void MeasureBeside(benchmark::State& state, size_t nBytes, const std::function<void()>& yardstick,
                    const std::function<void()>& work);
+
+} // namespace orrelix

@@ -14,6 +14,8 @@
 #include <memory>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -180,7 +182,10 @@ const int s_nRegistered = [] {
 
 } // namespace
 
+} // namespace orrelix
+
 int main(int nArguments, char** pArguments) {
+    using namespace orrelix;
     if (nArguments == 3) {
         CVignelConfig config;
         const double seconds = Seconds([&] {

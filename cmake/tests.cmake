@@ -22,8 +22,8 @@ foreach(folder platform core gadgets toolkit controls dialogs)
     orrelix_test_program(${folder})
 endforeach()
 
-if(TARGET orrelix_windows)
-    include(cmake/windows_tests.cmake)
+if(TARGET orrelix_qt)
+    include(cmake/qt_tests.cmake)
 endif()
 
 find_program(NODE_PROGRAM node)

@@ -2,9 +2,11 @@
 
 #include "resources/border_description.h"
 
+namespace orrelix {
+
 using Id = BorderId;
 
-CBorderPropertiesDlg::CBorderPropertiesDlg() : CColourDialog(BorderDescription()) {
+CBorderPropertiesDlg::CBorderPropertiesDlg() : CDialogWithColours(BorderDescription()) {
     AddColour(Id::Color, m_BorderColor, "CALANDER");
 }
 
@@ -20,3 +22,5 @@ void CBorderPropertiesDlg::OnInitDialog() {
     SetSpin(Id::Width, m_BorderWidth);
     SetUpPickers();
 }
+
+} // namespace orrelix

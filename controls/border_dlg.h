@@ -2,9 +2,11 @@
 // reads them back if it ended in IDOK.
 #pragma once
 
-#include "controls/colour_dialog.h"
+#include "controls/dialog_with_colours.h"
 
-class CBorderPropertiesDlg : public CColourDialog {
+namespace orrelix {
+
+class CBorderPropertiesDlg : public CDialogWithColours {
 public:
     CBorderPropertiesDlg();
 
@@ -16,3 +18,5 @@ protected:
     void OnInitDialog() override;
     void DoDataExchange(CDataExchange& exchange) override;
 };
+
+} // namespace orrelix

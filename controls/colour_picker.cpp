@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 CColourPicker::CColourPicker(CDialog& parent)
     : m_BackColour(GetDesktop().GetSystemColour(SystemColour::ButtonFace)),
       m_TextColour(GetDesktop().GetSystemColour(SystemColour::ButtonText)), m_Parent(parent) {}
@@ -126,3 +128,5 @@ void CColourPicker::OnColourMessage(ColourMessage message, CColour colour) {
 void CColourPicker::Tell(ColourMessage message, CColour colour) {
     m_Parent.SendMessage(message, colour, GetDlgCtrlID());
 }
+
+} // namespace orrelix

@@ -19,6 +19,8 @@
 #include "controls/colour_picker_popup.h"
 #include "toolkit/button.h"
 
+namespace orrelix {
+
 class CDialog;
 
 class CColourPicker : public COwnerDrawnButton, private CColourPopupParent {
@@ -71,3 +73,5 @@ private:
     CDialog& m_Parent;
     CColourPickerPopup* m_pPopup = nullptr; // while m_bPopupOpen; it deletes itself
 };
+
+} // namespace orrelix

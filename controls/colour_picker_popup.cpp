@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 // A cell's coloured inside has at least this side.
@@ -229,3 +231,5 @@ void CColourPickerPopup::End(ColourMessage message) {
         m_pParent->OnColourMessage(message, m_crColour);
     GetDesktop().ClosePopup(*this);
 }
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 #include "controls/colour_table.h"
 #include "toolkit/popup_window.h"
 
+namespace orrelix {
+
 // What the popup tells the button and the button the dialog, each with a colour.
 enum ColourMessage : int {
     COLOUR_CHANGED = 2025,             // another colour is under the pointer
@@ -96,3 +98,5 @@ private:
     bool m_bChildDialogOpen = false;
     bool m_bEnded = false;
 };
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include "controls/hex_colour.h"
 #include "platform/profile.h"
 
+namespace orrelix {
+
 namespace {
 
 constexpr int kRows = static_cast<int>(std::tuple_size_v<CColourTable>);
@@ -125,3 +127,5 @@ void RememberColour(const CString& sectionWord, CColour colour) {
         }
     });
 }
+
+} // namespace orrelix

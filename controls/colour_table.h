@@ -10,6 +10,8 @@
 
 #include <array>
 
+namespace orrelix {
+
 struct CTableColour {
     CColour m_Colour;
     CString m_Name; // at most 255 bytes
@@ -28,3 +30,5 @@ bool LoadColourTable(const CString& sectionWord);
 // use moves its colours up, out of row 2 at last, and one that isn't takes the whole table. A section that
 // can't be written forgets the colour with the process.
 void RememberColour(const CString& sectionWord, CColour colour);
+
+} // namespace orrelix

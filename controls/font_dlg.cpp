@@ -4,6 +4,8 @@
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
 
+namespace orrelix {
+
 using Id = FontId;
 
 CFontDlg::CFontDlg(const CDialogDescription& description) : CDialog(description) {
@@ -56,3 +58,5 @@ void CCalanderFontDlg::DoDataExchange(CDataExchange& exchange) {
     CFontDlg::DoDataExchange(exchange);
     exchange.Text(Id::Align, m_TextAlign);
 }
+
+} // namespace orrelix

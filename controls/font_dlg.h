@@ -4,6 +4,8 @@
 
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 // What the two have in common: the list of the system's font families, of which a double click puts one into
 // the box of font faces, so that the box grows into a CSS family list.
 class CFontDlg : public CDialog {
@@ -49,3 +51,5 @@ public:
 protected:
     void DoDataExchange(CDataExchange& exchange) override;
 };
+
+} // namespace orrelix

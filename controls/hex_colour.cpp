@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+namespace orrelix {
+
 CString HexText(CColour colour) {
     constexpr std::string_view digits = "0123456789abcdef";
     CString text;
@@ -19,3 +21,5 @@ std::optional<CColour> ParseHexColour(std::string_view text) {
     std::from_chars(text.data(), text.data() + text.size(), nNumber, 16);
     return MakeColour(nNumber >> 16, nNumber >> 8 & 0xff, nNumber & 0xff);
 }
+
+} // namespace orrelix

@@ -2,6 +2,8 @@
 
 #include "resources/padding_description.h"
 
+namespace orrelix {
+
 using Id = PaddingId;
 
 CPaddingDlg::CPaddingDlg() : CDialog(PaddingDescription()) {}
@@ -20,3 +22,5 @@ void CPaddingDlg::OnInitDialog() {
     SetSpin(Id::Top, m_PaddingTop);
     SetSpin(Id::Bottom, m_PaddingBottom);
 }
+
+} // namespace orrelix

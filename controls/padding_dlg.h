@@ -4,6 +4,8 @@
 
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 class CPaddingDlg : public CDialog {
 public:
     CPaddingDlg();
@@ -19,3 +21,5 @@ protected:
     void OnInitDialog() override;
     void DoDataExchange(CDataExchange& exchange) override;
 };
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 using Id = UrlId;
@@ -72,3 +74,5 @@ void CUrlDlg::OnTypeListClosed() {
     m_Url = PrefixOf(m_Type) + m_Url;
     UpdateData(false);
 }
+
+} // namespace orrelix

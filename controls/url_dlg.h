@@ -3,6 +3,8 @@
 
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 class CUrlDlg : public CDialog {
 public:
     CUrlDlg();
@@ -19,3 +21,5 @@ private:
 
     CString m_LastType; // the kind before the latest change
 };
+
+} // namespace orrelix

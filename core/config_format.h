@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+namespace orrelix {
+
 struct CPartMarkers {
     std::string_view m_Begin;
     std::string_view m_End;
@@ -17,3 +19,5 @@ inline constexpr CPartMarkers kResourcePart{"========== Resource Part Begin ====
 inline constexpr CPartMarkers kHtmlPart{"========== HTML Part Begin ==========",
                                         "========== HTML Part End =========="};
 inline constexpr std::string_view kSegmentEnd = "===== Segment End =====";
+
+} // namespace orrelix

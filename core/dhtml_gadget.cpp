@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 bool CDhtmlGadget::ReadFields(const CVignelConfig& config, const CString& directory) {
     CParameterReader reader(config, directory);
     ExchangeParameters(reader);
@@ -73,3 +75,5 @@ bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& han
     path = destination + name;
     return true;
 }
+
+} // namespace orrelix

@@ -12,6 +12,8 @@
 #include "platform/module.h"
 #include "platform/string.h"
 
+namespace orrelix {
+
 // How generated text refers to script and image files. Hosts may give any other number: such text refers to
 // no script.
 enum EHtmlMode : short {
@@ -86,3 +88,5 @@ void RegisterScript(CVignelConfig& config, const char* pName, const CString& web
 // of the copy; where the file doesn't exist it becomes empty; with `force` not 0 the file is copied over
 // whatever is there and `path` stays.
 bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force);
+
+} // namespace orrelix

@@ -23,6 +23,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 class CHtmlText {
 public:
     // Texts and whole numbers joined, the numbers in decimal.
@@ -85,3 +87,5 @@ CString MakeHtml(TWrite write) {
     assert(html.m_pWrite == html.m_pEnd);
     return CString(std::move(text));
 }
+
+} // namespace orrelix

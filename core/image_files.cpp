@@ -8,6 +8,8 @@
 #include <string>
 #include <unordered_set>
 
+namespace orrelix {
+
 namespace {
 
 // Copies those that the user needn't be asked about, and hands the others to the dialog.
@@ -65,3 +67,5 @@ void CopyImages(std::span<CString> images, const CString& directory, short force
     if (dialog.m_nClashes > 0)
         dialog.DoModal();
 }
+
+} // namespace orrelix

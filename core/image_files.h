@@ -8,6 +8,8 @@
 
 #include <span>
 
+namespace orrelix {
+
 // The size of an image, in pixels as decimal text; empty where none was given.
 struct CCoolLinkImage {
     CString m_Height;
@@ -38,3 +40,5 @@ void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& 
 // would land on a file of the same name is asked about, unless `force` isn't 0: then all are copied over what
 // is there, and the paths stay.
 void CopyImages(std::span<CString> images, const CString& directory, short force);
+
+} // namespace orrelix

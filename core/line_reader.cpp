@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+namespace orrelix {
+
 namespace {
 
 // Large enough that the system's calls don't count, small enough to stay in the processor's cache.
@@ -53,3 +55,5 @@ bool CLineReader::ReadMore() {
     m_nEnd += nRead;
     return nRead > 0;
 }
+
+} // namespace orrelix

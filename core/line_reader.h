@@ -9,6 +9,8 @@
 #include <memory>
 #include <string_view>
 
+namespace orrelix {
+
 class CInputFile;
 
 class CLineReader {
@@ -32,3 +34,5 @@ private:
     size_t m_nEnd = 0;
     std::string_view m_Line;
 };
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
 
+namespace orrelix {
+
 namespace {
 
 // Nothing that is thrown, for want of memory or by a desktop, reaches the host.
@@ -111,3 +113,5 @@ bool COrrelix::Write(const CString& path, short force) {
     m_bResourcesRegistered = true;
     return m_Config.WriteFile(path);
 }
+
+} // namespace orrelix

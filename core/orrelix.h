@@ -27,6 +27,8 @@
 #include "gadgets/today_ca.h"
 #include "gadgets/tool_tip.h"
 
+namespace orrelix {
+
 // The name by which hosts create the object, and which files of this component bear.
 inline constexpr char kProgID[] = "VignelServer.Orrelix";
 
@@ -132,3 +134,5 @@ private:
     bool Run(TGadget& gadget);
     CVignelConfig& Registered();
 };
+
+} // namespace orrelix

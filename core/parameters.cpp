@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 constexpr std::string_view kCommaMask = "~@^`";
@@ -125,3 +127,5 @@ void CParameterWriter::DoItems(const char* pKey, const CParameterColumn& column)
     }
     m_Config.SetParameter(pKey, WithoutLineBreaks(std::move(value)));
 }
+
+} // namespace orrelix

@@ -18,6 +18,8 @@
 #include <string_view>
 #include <vector>
 
+namespace orrelix {
+
 class CVignelConfig;
 
 // Item nIndex, counted from 0, of a comma list, with its masks undone. Empty behind the last item. Time in
@@ -149,3 +151,5 @@ protected:
 private:
     CVignelConfig& m_Config;
 };
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <optional>
 
+namespace orrelix {
+
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
@@ -67,7 +69,7 @@ void ReadKeys(CLineReader& lines, const CPartMarkers& markers, CMapStringToStrin
     };
     while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
         if (const auto pair = SplitKeyLine(lines.Line())) {
-            map.Announce(pair->m_Key);
+            map.Prefetch(pair->m_Key);
             store();
             waiting.emplace(pair->m_Key, pair->m_Value);
         }
@@ -320,3 +322,5 @@ CString FileNameOfPath(const CString& path) {
 CString DirectoryOfPath(const CString& path) {
     return path.Left(path.ReverseFind('\\'));
 }
+
+} // namespace orrelix

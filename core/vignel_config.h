@@ -12,6 +12,8 @@
 #include "platform/string.h"
 #include "platform/string_map.h"
 
+namespace orrelix {
+
 struct VignelResource {
     CString m_Name;      // the file's name
     CString m_LocalPath; // the directory on the user's machine where it lies
@@ -89,3 +91,5 @@ CString FileNameOfPath(const CString& path);
 
 // The text before the last backslash, without it; empty when there is none.
 CString DirectoryOfPath(const CString& path);
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include "toolkit/list_box.h"
 #include "toolkit/slider_ctrl.h"
 
+namespace orrelix {
+
 namespace {
 
 using Id = AnimateTextId;
@@ -29,7 +31,7 @@ void MoveRow(CListBox& list, int nFrom, int nTo) {
 
 } // namespace
 
-CAnimateTextDlg::CAnimateTextDlg() : CColourDialog(AnimateTextDescription()) {
+CAnimateTextDlg::CAnimateTextDlg() : CDialogWithColours(AnimateTextDescription()) {
     AddColour(Id::FadeColor, m_Copy.m_FadeColor, "ANIBK");
     AddColour(Id::TextColor, m_Copy.m_TextColor, "ANIFont");
     AddColour(Id::BackColor, m_Copy.m_BackColor, "ANIFont");
@@ -188,3 +190,5 @@ void CAnimateTextDlg::OnOK() {
     *m_pGadget = m_Copy;
     EndDialog(IDOK);
 }
+
+} // namespace orrelix

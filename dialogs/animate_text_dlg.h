@@ -1,12 +1,14 @@
 // The dialog of Animate Text.
 #pragma once
 
-#include "controls/colour_dialog.h"
+#include "controls/dialog_with_colours.h"
 #include "gadgets/animate_text.h"
+
+namespace orrelix {
 
 class CListBox;
 
-class CAnimateTextDlg : public CColourDialog {
+class CAnimateTextDlg : public CDialogWithColours {
 public:
     CAnimateTextDlg();
 
@@ -33,3 +35,5 @@ private:
     CString m_EditText;
     int m_nEditIndex = -1; // the row that "Modify" replaces; only a selection by the person sets it
 };
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include "toolkit/desktop.h"
 #include "toolkit/list_ctrl.h"
 
+namespace orrelix {
+
 CCopyResourcesDlg::CCopyResourcesDlg() : CDialog(CopyResourcesDescription()) {
     using Id = CopyResourcesId;
     SetHandlers<CCopyResourcesDlg>({
@@ -106,3 +108,5 @@ void CBrowseFilesDlg::ListFiles() {
     }
     list.SetImageList(icons);
 }
+
+} // namespace orrelix

@@ -18,6 +18,8 @@
 
 #include <vector>
 
+namespace orrelix {
+
 class CCopyResourcesDlg : public CDialog {
 public:
     CCopyResourcesDlg();
@@ -57,3 +59,5 @@ private:
     CString m_Directory;
     CString m_FileTypes;
 };
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
 
+namespace orrelix {
+
 CSelectScriptDlg::CSelectScriptDlg() : CDialog(SelectScriptDescription()) {
     using Id = SelectScriptId;
     for (const CEffect& effect : kEffects)
@@ -53,3 +55,5 @@ void CSelectScriptDlg::OnCancel() {
     m_Names.RemoveAll();
     EndDialog(IDCANCEL);
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 #include "platform/array.h"
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 class CSelectScriptDlg : public CDialog {
 public:
     CSelectScriptDlg();
@@ -23,3 +25,5 @@ private:
     CStringArray m_Descriptions;
     CString m_DescriptionText;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 #include "resources/text_show_description.h"
 #include "toolkit/slider_ctrl.h"
 
+namespace orrelix {
+
 namespace {
 
 using Id = TextShowId;
@@ -13,7 +15,7 @@ constexpr char kNoTitle[] = "&nbsp;"; // how the page shows an empty title
 
 } // namespace
 
-CTextShowDlg::CTextShowDlg() : CColourDialog(TextShowDescription()) {
+CTextShowDlg::CTextShowDlg() : CDialogWithColours(TextShowDescription()) {
     AddColour(Id::TextColor, m_Copy.m_TextColor, kSection);
     AddColour(Id::TitleColor, m_Copy.m_TitleColor, kSection);
     SetHandlers<CTextShowDlg>({
@@ -76,3 +78,5 @@ void CTextShowDlg::OnOK() {
     *m_pGadget = m_Copy;
     EndDialog(IDOK);
 }
+
+} // namespace orrelix

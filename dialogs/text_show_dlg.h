@@ -1,10 +1,12 @@
 // The dialog of Slide Text.
 #pragma once
 
-#include "controls/colour_dialog.h"
+#include "controls/dialog_with_colours.h"
 #include "gadgets/text_show.h"
 
-class CTextShowDlg : public CColourDialog {
+namespace orrelix {
+
+class CTextShowDlg : public CDialogWithColours {
 public:
     CTextShowDlg();
 
@@ -21,3 +23,5 @@ private:
 
     CTextShow m_Copy; // what the dialog edits
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "gadgets/animate_text.h"
 
+namespace orrelix {
+
 void CAnimateText::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("AnimateTextPara",
                     {FIELD(m_ScrollSize), FIELD(m_FadeColor), FIELD(m_TextColor), FIELD(m_Height),
@@ -59,3 +61,5 @@ short CAnimateText::RegisterResources(CVignelConfig& config) {
     RegisterScript(config, "Animate.js", m_ScriptPath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include "core/dhtml_gadget.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 class CAnimateText : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
@@ -39,3 +41,5 @@ private:
     void WriteScript(CHtmlText& html) const;
     void WriteBox(CHtmlText& html) const;
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "gadgets/calander.h"
 
+namespace orrelix {
+
 void CCalander::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields(
         "CalanderPara",
@@ -69,3 +71,5 @@ short CCalander::RegisterResources(CVignelConfig& config) {
     RegisterScript(config, "Calander2.js", m_ClassWebPath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include "core/dhtml_gadget.h"
 
+namespace orrelix {
+
 class CCalander : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
@@ -57,3 +59,5 @@ public:
 private:
     void WriteCalendar(CHtmlText& html) const;
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "gadgets/cool_link.h"
 
+namespace orrelix {
+
 void CCoolLink::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("CoolLinkActivePara",
                     {FIELD(m_OverBorderColor), FIELD(m_OverBackColor), FIELD(m_OverBorderWidth),
@@ -135,3 +137,5 @@ short CCoolLink::RegisterResources(CVignelConfig& config) {
     RegisterImages(config, m_Images, m_ImagePath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

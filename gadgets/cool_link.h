@@ -6,6 +6,8 @@
 #include "core/image_files.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 class CCoolLink : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
@@ -77,3 +79,5 @@ private:
     void WriteStyle(CHtmlText& html, const CString& prefix) const;
     void WriteBox(CHtmlText& html, const CString& prefix, const CString& imageDirectory) const;
 };
+
+} // namespace orrelix

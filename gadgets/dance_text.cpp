@@ -1,5 +1,7 @@
 #include "gadgets/dance_text.h"
 
+namespace orrelix {
+
 void CDanceText::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("DanceTextPara",
                     {FIELD(m_Delay), FIELD(m_TextDecoration), FIELD(m_FontSize), FIELD(m_FontStyle),
@@ -64,3 +66,5 @@ short CDanceText::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
     return 0;
 }
+
+} // namespace orrelix

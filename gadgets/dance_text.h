@@ -4,6 +4,8 @@
 #include "core/dhtml_gadget.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 class CDanceText : public CDhtmlGadget {
 public:
     // The same for every mode and position. The store's title is part of all names in the script and has to
@@ -33,3 +35,5 @@ private:
     void WriteColors(CHtmlText& html, const CString& title) const;
     void WriteDance(CHtmlText& html, const CString& title) const;
 };
+
+} // namespace orrelix

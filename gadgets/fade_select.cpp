@@ -1,5 +1,7 @@
 #include "gadgets/fade_select.h"
 
+namespace orrelix {
+
 void CFadeSelect::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("FadeSelectActivePara",
                     {FIELD(m_OverBorderColor), FIELD(m_OverBackColor), FIELD(m_OverBorderWidth),
@@ -133,3 +135,5 @@ short CFadeSelect::RegisterResources(CVignelConfig& config) {
     RegisterImages(config, m_Images, m_ImagePath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

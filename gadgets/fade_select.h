@@ -6,6 +6,8 @@
 #include "core/image_files.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 // The font of an item. Empty strings give empty CSS values; the colour reaches the page without "#".
 struct CFadeSelectFont {
     CString m_Family;
@@ -99,3 +101,5 @@ private:
     void WriteItem(CHtmlText& html, CStringArray::Index i, const CString& imageDirectory) const;
     CString GetBox(CVignelConfig& config, short mode);
 };
+
+} // namespace orrelix

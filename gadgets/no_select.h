@@ -3,6 +3,8 @@
 
 #include "core/dhtml_gadget.h"
 
+namespace orrelix {
+
 class CNoSelect : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig&, short, short) override { return "Not Select DHTML Script\r\n"; }
@@ -15,3 +17,5 @@ public:
     void WriteParameters(CVignelConfig&) override {}
     short GetHTMLSegmentNumber() override { return 1; }
 };
+
+} // namespace orrelix

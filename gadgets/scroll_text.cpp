@@ -1,5 +1,7 @@
 #include "gadgets/scroll_text.h"
 
+namespace orrelix {
+
 void CScrollText::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("ScrollTextGeneralPara",
                     {FIELD(m_ScriptPath), FIELD(m_ClickCursor), FIELD(m_ClickColor), FIELD(m_ClickFontSize),
@@ -129,3 +131,5 @@ short CScrollText::RegisterResources(CVignelConfig& config) {
     RegisterScript(config, "scrolltext.js", m_ScriptPath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include "core/dhtml_gadget.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 class CScrollText : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
@@ -65,3 +67,5 @@ private:
     void WriteStyle(CHtmlText& html) const;
     void WriteVariables(CHtmlText& html) const;
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "gadgets/text_show.h"
 
+namespace orrelix {
+
 void CTextShow::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("TextShowPara",
                     {FIELD(m_Speed), FIELD(m_TableBorder), FIELD(m_TableHeight), FIELD(m_TableWidth),
@@ -85,3 +87,5 @@ short CTextShow::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
     return 0;
 }
+
+} // namespace orrelix

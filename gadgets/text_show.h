@@ -4,6 +4,8 @@
 
 #include "core/dhtml_gadget.h"
 
+namespace orrelix {
+
 class CTextShow : public CDhtmlGadget {
 public:
     // The same for every mode and position.
@@ -42,3 +44,5 @@ private:
     void WriteTitleCell(CHtmlText& html) const;
     void WriteTextCell(CHtmlText& html) const;
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "gadgets/today_ca.h"
 
+namespace orrelix {
+
 namespace {
 
 constexpr CStringArray::Index kTitles = 7;
@@ -192,3 +194,5 @@ short CTodayCa::RegisterResources(CVignelConfig& config) {
     RegisterScript(config, "todayca.js", m_ClassWebPath);
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

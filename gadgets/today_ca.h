@@ -4,6 +4,8 @@
 
 #include "core/dhtml_gadget.h"
 
+namespace orrelix {
+
 // The style of one kind of column, in the row of titles or in the rows of days.
 struct CTodayCaStyle {
     CString m_BoxColor; // background of the cell
@@ -92,3 +94,5 @@ private:
     void WriteLastRow(CHtmlText& html) const;
     void WriteScript(CHtmlText& html) const;
 };
+
+} // namespace orrelix

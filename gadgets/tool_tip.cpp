@@ -1,5 +1,7 @@
 #include "gadgets/tool_tip.h"
 
+namespace orrelix {
+
 void CToolTip::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("ToolTipPara", {FIELD(m_TipBorderColor), FIELD(m_TipBackColor), FIELD(m_TipBorder),
                                     FIELD(m_TipBorderWidth), FIELD(m_TipBorderStyle), FIELD(m_ScriptPath),
@@ -70,3 +72,5 @@ short CToolTip::RegisterResources(CVignelConfig& config) {
         m_ImagePath.Empty();
     return config.GetResourceCount();
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include "core/image_files.h"
 #include "resources/addresses.h"
 
+namespace orrelix {
+
 class CToolTip : public CDhtmlGadget {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
@@ -45,3 +47,5 @@ public:
 private:
     void WriteTip(CHtmlText& html, const CString& imageDirectory) const;
 };
+
+} // namespace orrelix

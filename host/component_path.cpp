@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <system_error>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 CString ComponentPath(const fs::path& path) {
@@ -46,3 +48,5 @@ bool SameContent(const CString& left, const CString& right) {
 std::string SystemReason() {
     return errno ? std::generic_category().message(errno) : "the system gives no reason";
 }
+
+} // namespace orrelix

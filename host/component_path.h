@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+namespace orrelix {
+
 // The path for the component. Throws CFileError when one of its names holds a backslash, for which the
 // component has no spelling.
 CString ComponentPath(const std::filesystem::path& path);
@@ -24,3 +26,5 @@ bool SameContent(const CString& left, const CString& right);
 
 // What the system says about the operation that failed last, such as "No space left on device".
 std::string SystemReason();
+
+} // namespace orrelix

@@ -15,6 +15,8 @@
 #include <iomanip>
 #include <iostream>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -147,7 +149,7 @@ void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
     if (HasLostFiles(orrelix, options, report) && bByOptions)
         return;
-    if (!options.m_bOverwrite && !FindWindows() && WouldOverwrite(orrelix, directory, report))
+    if (!options.m_bOverwrite && !FindDesktop() && WouldOverwrite(orrelix, directory, report))
         return;
     orrelix.SetLastUpdateTime(Now());
     if (!orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
@@ -159,7 +161,7 @@ void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
 // Runs the dialogs. False when there is nobody to show them to, or who cancelled.
 bool RunDialogs(COrrelix& orrelix, const CEditOptions& options, const std::string& otherWay,
                 CReport& report) {
-    if (!FindWindows()) {
+    if (!FindDesktop()) {
         report.Error(options.m_File.string(),
                      "there is no screen to show dialogs on; without one, " + otherWay);
         return false;
@@ -229,3 +231,5 @@ void EditEffect(const CEditOptions& options, CReport& report) {
     if (bChanged)
         Write(orrelix, options, report);
 }
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 struct CEditOptions {
     std::filesystem::path m_File;
     std::string m_Title;             // for new; empty for one made from the file's name
@@ -21,3 +23,5 @@ void NewEffect(const CEditOptions& options, CReport& report);
 
 // Changes one. Without m_Sets the effect's dialog runs.
 void EditEffect(const CEditOptions& options, CReport& report);
+
+} // namespace orrelix

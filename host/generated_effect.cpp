@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <set>
 
+namespace orrelix {
+
 namespace {
 
 constexpr char kCompatibilityScript[] = "orrelix-compat.js";
@@ -87,8 +89,8 @@ void AddCompatibilityScript(CGeneratedEffect& effect) {
 
 } // namespace
 
-CConfigFile OpenEffect(const std::filesystem::path& path, COrrelix& orrelix) {
-    CConfigFile file(path);
+CConfigCheck OpenEffect(const std::filesystem::path& path, COrrelix& orrelix) {
+    CConfigCheck file(path);
     const std::string problem = file.WhyNoEffect();
     if (!problem.empty())
         throw CFileError(path, problem);
@@ -99,7 +101,7 @@ CConfigFile OpenEffect(const std::filesystem::path& path, COrrelix& orrelix) {
 
 CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode) {
     COrrelix orrelix;
-    const CConfigFile file = OpenEffect(path, orrelix);
+    const CConfigCheck file = OpenEffect(path, orrelix);
     CGeneratedEffect effect;
     effect.m_Title = orrelix.GetTitle();
     effect.m_pEffect = file.GetEffect();
@@ -114,3 +116,5 @@ CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mod
         AddCompatibilityScript(effect);
     return effect;
 }
+
+} // namespace orrelix

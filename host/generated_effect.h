@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/orrelix.h"
-#include "host/config_file.h"
+#include "host/config_check.h"
 #include "platform/string.h"
 
 #include <filesystem>
 #include <string>
 #include <vector>
+
+namespace orrelix {
 
 // A file that a page needs.
 struct CEffectFile {
@@ -28,8 +30,10 @@ struct CGeneratedEffect {
 };
 
 // Reads the file into the component. Throws CFileError when no effect comes from it.
-CConfigFile OpenEffect(const std::filesystem::path& path, COrrelix& orrelix);
+CConfigCheck OpenEffect(const std::filesystem::path& path, COrrelix& orrelix);
 
 // The text of a preview refers to files beside the page. Throws CFileError when no effect comes from the
 // file.
 CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode);
+
+} // namespace orrelix

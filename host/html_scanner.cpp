@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace orrelix {
+
 namespace {
 
 constexpr size_t kNowhere = std::string_view::npos;
@@ -144,3 +146,5 @@ std::string_view FindAttribute(std::string_view attributes, std::string_view nam
     }
     return {};
 }
+
+} // namespace orrelix

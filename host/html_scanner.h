@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 struct CHtmlPiece {
     enum EKind { kTag, kEndTag, kComment };
 
@@ -42,3 +44,5 @@ private:
 
 // The value of an attribute in the text of a tag; empty when it isn't there.
 std::string_view FindAttribute(std::string_view attributes, std::string_view name);
+
+} // namespace orrelix

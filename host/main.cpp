@@ -14,6 +14,8 @@
 #include <memory>
 #include <string>
 
+namespace orrelix {
+
 namespace {
 
 // One command of the program: its arguments, and what it does with them.
@@ -150,11 +152,13 @@ int RunProgram(int nArguments, char** ppArguments) {
 
 } // namespace
 
+} // namespace orrelix
+
 int main(int nArguments, char** ppArguments) {
     try {
-        return RunProgram(nArguments, ppArguments);
+        return orrelix::RunProgram(nArguments, ppArguments);
     } catch (const std::exception& error) {
         std::cerr << "orrelix: " << error.what() << '\n';
-        return kFailure;
+        return orrelix::kFailure;
     }
 }

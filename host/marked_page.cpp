@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace orrelix {
+
 namespace {
 
 struct CRange {
@@ -250,3 +252,5 @@ std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title
             return m_Text.ToPage("<!-- " + comment + "\r\n").m_Text + inPage.m_Text + end;
     }
 }
+
+} // namespace orrelix

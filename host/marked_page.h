@@ -19,6 +19,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 class CMarkedPage {
 public:
     CMarkedPage(std::string page, int nCodePage) : m_Text(std::move(page), nCodePage) {}
@@ -41,3 +43,5 @@ private:
     size_t m_nUnfit = 0;
     size_t m_nInvalid = 0;
 };
+
+} // namespace orrelix

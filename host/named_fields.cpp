@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 class CFieldLister : public CParameterExchange {
@@ -105,3 +107,5 @@ std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
     gadget.ExchangeParameters(setter);
     return {};
 }
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 struct CNamedField {
     std::string m_Name;
     bool m_bList;
@@ -25,3 +27,5 @@ using CFieldValues = std::map<std::string, std::vector<CString>>;
 // it was. A file may be named as the system does. Nothing is set, and the result says why, when a name
 // is none of the gadget's or a field that is no list is given several values; else the result is empty.
 std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values);
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <charconv>
 
+namespace orrelix {
+
 namespace {
 
 constexpr struct {
@@ -154,3 +156,5 @@ bool CPageText::Equals(std::string_view part, std::string_view text) const {
     const std::string theirs = ConvertText(part, m_Encoding, "UTF-8").m_Text;
     return theirs == ours || WithoutReferences(theirs, true) == ours;
 }
+
+} // namespace orrelix

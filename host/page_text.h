@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 class CPageText {
 public:
     // Finds out the encoding: by a byte order mark, or else by the charset that the page declares.
@@ -40,3 +42,5 @@ private:
     std::string m_CodePageEncoding;
     size_t m_nUnitSize = 1;
 };
+
+} // namespace orrelix

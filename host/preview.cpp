@@ -8,6 +8,8 @@
 
 #include <iostream>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -87,3 +89,5 @@ void Preview(const CPreviewOptions& options, CReport& report) {
         return report.Error(options.m_Out.string(), "is no folder that pages can be written to");
     CPreviewRun(options, report).Run();
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <vector>
 
+namespace orrelix {
+
 struct CPreviewOptions {
     std::vector<std::filesystem::path> m_Files; // configuration files
     std::filesystem::path m_Out;                // the folder for the pages, made if need be
@@ -16,3 +18,5 @@ struct CPreviewOptions {
 // Writes a page for each file, with the scripts and images that it needs beside it, and prints the paths of
 // the pages. A file that gives no page is reported, and the others are done.
 void Preview(const CPreviewOptions& options, CReport& report);
+
+} // namespace orrelix

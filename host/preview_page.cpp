@@ -2,6 +2,8 @@
 
 #include "host/text_encoding.h"
 
+namespace orrelix {
+
 namespace {
 
 // All names are the frame's own, so that it and the effect leave each other alone. Effects were made for
@@ -234,3 +236,5 @@ std::string IndexPage(const std::vector<CPreviewPage>& pages, int nCodePage) {
         return text + "</main>\n</body>\n</html>\n";
     });
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 struct CPreviewPage {
     std::string m_Name;   // the page's file
     std::string m_Source; // the configuration file
@@ -17,3 +19,5 @@ std::string EffectPage(const CPreviewPage& page, int nCodePage);
 
 // A page that shows all of them, live.
 std::string IndexPage(const std::vector<CPreviewPage>& pages, int nCodePage);
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 
 #include <iostream>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -69,3 +71,5 @@ void Publish(const CPublishOptions& options, CReport& report) {
     if (*after == before || WritePage(pagePath, before, *after, pageName, report))
         std::cout << pageName << '\n';
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+namespace orrelix {
+
 struct CPublishOptions {
     std::filesystem::path m_File; // the configuration file
     std::filesystem::path m_Page;
@@ -16,3 +18,5 @@ struct CPublishOptions {
 // for it, nothing is written; a file that can't be put to its place is reported, and the rest is done. The
 // page is replaced as a whole or not at all.
 void Publish(const CPublishOptions& options, CReport& report);
+
+} // namespace orrelix

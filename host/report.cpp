@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <iostream>
 
+namespace orrelix {
+
 void CReport::Error(const std::string& subject, const std::string& text) {
     m_nExitCode = std::max(m_nExitCode, kFailure);
     std::cerr << "orrelix: " << Printable(subject) << ": " << Printable(text) << '\n';
@@ -43,3 +45,5 @@ std::string Printable(const std::string& text) {
 std::string Counted(size_t nCount, const std::string& noun) {
     return std::to_string(nCount) + " " + noun + (nCount == 1 ? "" : "s");
 }
+
+} // namespace orrelix

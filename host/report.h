@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace orrelix {
+
 // The program's exit codes; scripts count on them.
 inline constexpr int kSuccess = 0;
 inline constexpr int kFailure = 1;
@@ -47,3 +49,5 @@ std::string Printable(const std::string& text);
 
 // "1 character", "2 characters".
 std::string Counted(size_t nCount, const std::string& noun);
+
+} // namespace orrelix

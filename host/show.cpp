@@ -1,6 +1,6 @@
 #include "host/show.h"
 
-#include "host/config_file.h"
+#include "host/config_check.h"
 #include "host/text_encoding.h"
 
 #include <algorithm>
@@ -10,6 +10,8 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
+namespace orrelix {
+
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -17,7 +19,7 @@ using Json = nlohmann::ordered_json;
 // A file's texts in UTF-8.
 class CReadableFile {
 public:
-    CReadableFile(const CShowOptions& options, const CConfigFile& file)
+    CReadableFile(const CShowOptions& options, const CConfigCheck& file)
         : m_Name(options.m_File.string()), m_File(file), m_Encoding(EncodingOfCodePage(options.m_nCodePage)) {
     }
 
@@ -38,7 +40,7 @@ private:
     std::string Heading() const;
 
     std::string m_Name;
-    const CConfigFile& m_File;
+    const CConfigCheck& m_File;
     std::string m_Encoding;
     size_t m_nInvalid = 0;
 };
@@ -163,7 +165,7 @@ void CReadableFile::Print(std::ostream& out) {
 
 void Show(const CShowOptions& options, CReport& report) {
     const std::string name = options.m_File.string();
-    const CConfigFile file(options.m_File);
+    const CConfigCheck file(options.m_File);
     CReadableFile readable(options, file);
     if (options.m_bJson)
         std::cout << readable.ToJson().dump(2) << '\n';
@@ -179,3 +181,5 @@ void Show(const CShowOptions& options, CReport& report) {
         report.Error(name, problem);
     report.WarnOfInvalidBytes(name, readable.GetInvalidCount());
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+namespace orrelix {
+
 struct CShowOptions {
     std::filesystem::path m_File;
     bool m_bJson; // for programs, else for people
@@ -14,3 +16,5 @@ struct CShowOptions {
 // Prints the file in UTF-8. A file that is damaged or holds no effect is shown as far as it goes, and
 // reported.
 void Show(const CShowOptions& options, CReport& report);
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 #include <system_error>
 #include <vector>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -180,3 +182,5 @@ void CFileCopies::Run() {
             m_Report.Error(target.string(), "can't be written: " + SystemReason());
     }
 }
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 #include <map>
 #include <string>
 
+namespace orrelix {
+
 class CSite {
 public:
     // The folder has to exist.
@@ -49,3 +51,5 @@ private:
     CReport& m_Report;
     std::map<std::filesystem::path, CString> m_Sources; // by target
 };
+
+} // namespace orrelix

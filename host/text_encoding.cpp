@@ -9,6 +9,8 @@
 #include <stdexcept>
 #include <vector>
 
+namespace orrelix {
+
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
@@ -227,3 +229,5 @@ CConvertedText ConvertText(std::string_view text, const std::string& from, const
     encoder.Finish(result.m_Text);
     return result;
 }
+
+} // namespace orrelix

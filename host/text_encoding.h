@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 // The encoding of a code page, such as "CP936" of 936; empty when this system can't convert it.
 std::string EncodingOfCodePage(int nCodePage);
 
@@ -23,3 +25,5 @@ struct CConvertedText {
 };
 
 CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to);
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace orrelix {
+
 template <class TItem>
 class CArray {
 public:
@@ -54,3 +56,5 @@ template <class... TItem>
 void GrowTo(std::ptrdiff_t nSize, CArray<TItem>&... lists) {
     ((lists.GetSize() < nSize ? lists.SetSize(nSize) : void()), ...);
 }
+
+} // namespace orrelix

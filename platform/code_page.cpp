@@ -1,5 +1,7 @@
 #include "platform/code_page.h"
 
+namespace orrelix {
+
 namespace {
 
 struct CByteRange {
@@ -74,3 +76,5 @@ bool IsTwoByteCharacter(unsigned char first, unsigned char second) {
     return (lead[0].Contains(first) || lead[1].Contains(first)) &&
            (trail[0].Contains(second) || trail[1].Contains(second) || trail[2].Contains(second));
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 // single-byte pages have no such bytes; pages 932, 936, 949 and 950 do.
 #pragma once
 
+namespace orrelix {
+
 // Selects the page for the whole process: 65001 (UTF-8, in force at start), 932, 936, 949, 950, or a
 // single-byte page (437, 737, 775, 850 to 869, 874, 1250 to 1258, 20866, 21866, 28591 to 28605). False for
 // any other number, which changes nothing.
@@ -22,3 +24,5 @@ bool HasTrailBytes();
 // Whether the two bytes form one character of the page in force. A lead byte that no valid trail byte follows
 // stands alone, so damaged text loses no separator.
 bool IsTwoByteCharacter(unsigned char first, unsigned char second);
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 
 #include "platform/string.h"
 
+namespace orrelix {
+
 class CFileLock {
 public:
     CFileLock() = default;
@@ -23,3 +25,5 @@ public:
 private:
     int m_nFile = -1;
 };
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <thread>
 #include <unistd.h>
 
+namespace orrelix {
+
 CFileLock::~CFileLock() {
     if (m_nFile >= 0)
         close(m_nFile);
@@ -28,3 +30,5 @@ bool CFileLock::Acquire(const CString& path, int nMilliseconds) {
     }
     return m_nFile >= 0;
 }
+
+} // namespace orrelix

@@ -16,6 +16,8 @@
 #include <string>
 #include <string_view>
 
+namespace orrelix {
+
 // The component's form of a path of the system's. Behind a byte that may be the first half of a character a
 // backslash could be its second half, so there a step of its own stands in front of it, "/.", which changes no
 // path.
@@ -117,3 +119,5 @@ private:
     std::string m_Temporary; // empty when the target is written directly
     std::string m_Pending;
 };
+
+} // namespace orrelix

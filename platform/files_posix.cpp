@@ -17,6 +17,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 // The names of directories by their lower-case form; of several, the first in byte order.
@@ -437,3 +439,5 @@ bool COutputFile::Commit(bool bDurable) {
     Discard();
     return !m_bFailed;
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include "platform/string.h"
 
+namespace orrelix {
+
 // The directory of the library that holds this code, with backslashes and none at its end. The script files
 // that pages need lie there. Empty when the system can't tell.
 CString GetModuleDirectory();
@@ -17,3 +19,5 @@ void* LoadNeighbour(const char* pLibrary, const char* pFunction);
 
 // A number that stands for the loaded library within this process: the address at which it begins.
 long GetModuleInstance();
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include <optional>
 #include <stdlib.h>
 
+namespace orrelix {
+
 namespace {
 
 Dl_info ThisModule() {
@@ -53,3 +55,5 @@ void* LoadNeighbour(const char* pLibrary, const char* pFunction) {
 long GetModuleInstance() {
     return reinterpret_cast<long>(ThisModule().dli_fbase);
 }
+
+} // namespace orrelix

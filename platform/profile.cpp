@@ -8,6 +8,8 @@
 #include <optional>
 #include <utility>
 
+namespace orrelix {
+
 namespace {
 
 constexpr const char* kFileName = "/settings.ini";
@@ -186,3 +188,5 @@ bool ChangeProfileSection(const CString& section, const std::function<void(CProf
     file.Write(open.FileText());
     return file.Commit();
 }
+
+} // namespace orrelix

@@ -17,6 +17,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 // One section, as the file holds it.
 class CProfileSection {
 public:
@@ -56,3 +58,5 @@ CProfileSection GetProfileSection(const CString& section);
 // nothing; no other process writes in between. False when it could not be stored; when no process may write
 // there, or another one keeps the store for over two seconds, `change` isn't called at all.
 bool ChangeProfileSection(const CString& section, const std::function<void(CProfileSection&)>& change);
+
+} // namespace orrelix

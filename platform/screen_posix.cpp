@@ -8,6 +8,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace {
 
 std::string Setting(const char* pName) {
@@ -57,3 +59,5 @@ bool HasScreen() {
     return !Setting("QT_QPA_PLATFORM").empty() || AnswersX11(Setting("DISPLAY")) ||
            (!wayland.empty() && AnswersWayland(wayland));
 }
+
+} // namespace orrelix

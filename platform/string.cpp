@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
+namespace orrelix {
+
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
@@ -139,3 +141,5 @@ CString& CString::MakeLower() {
         m_Text[nPosition] = LowerCase(m_Text[nPosition]);
     return *this;
 }
+
+} // namespace orrelix

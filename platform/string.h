@@ -14,6 +14,8 @@
 #include <string_view>
 #include <utility>
 
+namespace orrelix {
+
 class CString {
 public:
     using Position = std::ptrdiff_t;
@@ -107,3 +109,5 @@ int ToInteger(std::string_view text);
 
 // Decimal digits.
 CString ToText(long long nNumber);
+
+} // namespace orrelix

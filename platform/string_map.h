@@ -19,6 +19,8 @@
 #include <utility>
 #include <vector>
 
+namespace orrelix {
+
 template <class TValue>
 class CStringMap {
 public:
@@ -47,7 +49,7 @@ public:
 
     // Prefetches the key's slot of the index. With very many keys, waiting for that memory is what SetAt and
     // operator[] spend their time on.
-    void Announce(std::string_view key) const {
+    void Prefetch(std::string_view key) const {
 #ifdef __GNUC__
         if (!m_Index.empty())
             __builtin_prefetch(&m_Index[FirstSlotOf(HashOf(key))], 1);
@@ -142,3 +144,5 @@ private:
 };
 
 using CMapStringToString = CStringMap<CString>;
+
+} // namespace orrelix

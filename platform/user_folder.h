@@ -3,6 +3,8 @@
 
 #include "platform/string.h"
 
+namespace orrelix {
+
 constexpr const char* kCompanyWord = "Brindlefen";
 constexpr const char* kApplicationTitle = "Vellumark Orrelix";
 
@@ -10,3 +12,5 @@ constexpr const char* kApplicationTitle = "Vellumark Orrelix";
 // the user's configuration folder; as the system spells it, without a separator at its end. Empty when the
 // user has no configuration folder or, with bCreate, when the folder can't be made.
 CString GetUserFolder(bool bCreate);
+
+} // namespace orrelix

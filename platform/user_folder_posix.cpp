@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace {
 
 std::string Environment(const char* pName) {
@@ -49,3 +51,5 @@ CString GetUserFolder(bool bCreate) {
     folder += std::string("/") + kCompanyWord + "/" + kApplicationTitle;
     return bCreate && !MakeFolders(folder) ? CString() : CString(folder);
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include "qt/text.h"
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 namespace {
 
 // The control of this kind that goes with the edit box, or null.
@@ -64,3 +66,5 @@ CAdapterPtr MakeAdapter(const CControlDescription& description, CDialog& dialog,
     pAdapter->ShowControl();
     return pAdapter;
 }
+
+} // namespace orrelix

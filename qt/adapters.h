@@ -12,6 +12,8 @@
 #include "toolkit/spin_button_ctrl.h"
 #include "toolkit/static.h"
 
+namespace orrelix {
+
 using CAdapterPtr = std::unique_ptr<CControlAdapter>;
 
 CAdapterPtr MakeStaticAdapter(CStatic& text, const CControlDescription& description, CStage& stage,
@@ -29,3 +31,5 @@ CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent)
 CAdapterPtr MakeComboBoxAdapter(CComboBox& combo, CStage& stage, QWidget& parent);
 CAdapterPtr MakeSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
                               QWidget& parent);
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <clocale>
 #include <string>
 
+namespace orrelix {
+
 namespace {
 
 // Where no plugin fits the screen, Qt ends the process, and the host with it.
@@ -47,3 +49,5 @@ bool EnsureApplication() {
     return qobject_cast<QApplication*>(QCoreApplication::instance()) &&
            QCoreApplication::instance()->thread() == QThread::currentThread();
 }
+
+} // namespace orrelix

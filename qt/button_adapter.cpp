@@ -4,6 +4,8 @@
 
 #include <QPushButton>
 
+namespace orrelix {
+
 namespace {
 
 class CButtonAdapter : public CControlAdapter {
@@ -73,3 +75,5 @@ CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& descri
 CAdapterPtr MakeOwnerDrawnButtonAdapter(COwnerDrawnButton& button, CStage& stage, QWidget& parent) {
     return std::make_unique<COwnerDrawnButtonAdapter>(button, stage, parent);
 }
+
+} // namespace orrelix

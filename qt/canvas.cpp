@@ -4,6 +4,8 @@
 
 #include <QStyleOptionFocusRect>
 
+namespace orrelix {
+
 namespace {
 
 QPalette::ColorRole RoleOf(SystemColour colour) {
@@ -118,3 +120,5 @@ void CQtCanvas::DrawFocusRect(const CRect& rect) {
     m_Painter.setBrush(Qt::NoBrush);
     m_Painter.drawRect(ToQt(rect).adjusted(0, 0, -1, -1));
 }
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QWidget>
 
+namespace orrelix {
+
 QColor ToQt(CColour colour);
 CColour FromQt(const QColor& colour);
 QRect ToQt(const CRect& rect);
@@ -36,3 +38,5 @@ private:
     QWidget& m_Widget;
     QPainter m_Painter;
 };
+
+} // namespace orrelix

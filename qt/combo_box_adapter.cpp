@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QListView>
 
+namespace orrelix {
+
 namespace {
 
 class CComboBoxRows : public CRowsModel {
@@ -123,3 +125,5 @@ private:
 CAdapterPtr MakeComboBoxAdapter(CComboBox& combo, CStage& stage, QWidget& parent) {
     return std::make_unique<CComboBoxAdapter>(combo, stage, parent);
 }
+
+} // namespace orrelix

@@ -2,6 +2,8 @@
 
 #include "qt/text.h"
 
+namespace orrelix {
+
 CControlAdapter::CControlAdapter(CControl& control, CStage& stage) : m_Control(control), m_Stage(stage) {
     m_Control.SetObserver(this);
 }
@@ -39,3 +41,5 @@ void CControlAdapter::ShowText(QLineEdit& box) {
     box.setText(text);
     box.setCursorPosition(box.hasFocus() ? static_cast<int>(qMax<qsizetype>(0, text.size() - nBehind)) : 0);
 }
+
+} // namespace orrelix

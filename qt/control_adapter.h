@@ -17,6 +17,8 @@
 #include <functional>
 #include <memory>
 
+namespace orrelix {
+
 class CDialog;
 
 // The window, as its adapters see it.
@@ -89,3 +91,5 @@ private:
 // control that another one's widget shows too, as a spin control is shown by its edit box.
 std::unique_ptr<CControlAdapter> MakeAdapter(const CControlDescription& description, CDialog& dialog,
                                              CStage& stage, QWidget& parent);
+
+} // namespace orrelix

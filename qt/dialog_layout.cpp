@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 using Kind = CDialogItem::Kind;
@@ -284,3 +286,5 @@ private:
 void LayOutDialog(const CDialogDescription& description, QWidget& window, const CPlaceControl& place) {
     CDialogLayout(window, place).Fill(description.m_Content);
 }
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+namespace orrelix {
+
 struct CPlacedControl {
     QWidget* m_pWidget = nullptr; // that has the focus; null: another control's widget shows this one too
     QWidget* m_pPlaced = nullptr; // that stands in the layout
@@ -18,3 +20,5 @@ using CPlaceControl = std::function<CPlacedControl(const CControlDescription&, Q
 // as a child of `parent`. The keyboard's way through the window is the order of the description too, but for
 // the closing buttons, which it takes as they stand.
 void LayOutDialog(const CDialogDescription& description, QWidget& window, const CPlaceControl& place);
+
+} // namespace orrelix

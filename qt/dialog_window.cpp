@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QScrollArea>
 
+namespace orrelix {
+
 namespace {
 
 constexpr int kWindowFrame = 48; // roughly what title bar and edges take
@@ -91,3 +93,5 @@ void CDialogWindow::showEvent(QShowEvent* pEvent) {
         pFirst = pFirst->nextInFocusChain();
     pFirst->setFocus(Qt::TabFocusReason);
 }
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 #include <exception>
 #include <vector>
 
+namespace orrelix {
+
 class CDialogWindow : public QDialog, private CDialogObserver, private CStage {
 public:
     // The dialog must outlive the window.
@@ -38,3 +40,5 @@ private:
     std::vector<std::unique_ptr<CControlAdapter>> m_Adapters;
     std::exception_ptr m_pFailure;
 };
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <QPlainTextEdit>
 
+namespace orrelix {
+
 namespace {
 
 // What a box has room for, in characters: a colour or a number; an address.
@@ -107,3 +109,5 @@ CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description,
         return std::make_unique<CTextAreaAdapter>(edit, stage, parent);
     return std::make_unique<CLineAdapter>(edit, description, bShort, stage, parent);
 }
+
+} // namespace orrelix

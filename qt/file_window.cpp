@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+namespace orrelix {
+
 namespace {
 
 QStringList NameFilters(const CFileDialog& dialog) {
@@ -58,3 +60,5 @@ bool CFileWindow::TakeOver() {
     m_Dialog.PersonChooses(m_Key, PathFromQt(files.first()));
     return true;
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <QFileDialog>
 
+namespace orrelix {
+
 class CFileWindow : public QFileDialog {
 public:
     // The dialog must outlive the window.
@@ -19,3 +21,5 @@ private:
     CFileDialog& m_Dialog;
     CPersonKey m_Key;
 };
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <QListView>
 
+namespace orrelix {
+
 namespace {
 
 class CListBoxRows : public CRowsModel {
@@ -89,3 +91,5 @@ private:
 CAdapterPtr MakeListBoxAdapter(CListBox& list, CStage& stage, QWidget& parent) {
     return std::make_unique<CListBoxAdapter>(list, stage, parent);
 }
+
+} // namespace orrelix

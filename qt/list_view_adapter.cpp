@@ -10,6 +10,8 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+namespace orrelix {
+
 namespace {
 
 class CListCtrlRows : public CRowsModel {
@@ -250,3 +252,5 @@ CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent)
         return std::make_unique<CListViewAdapter<CReportView>>(list, stage, parent);
     return std::make_unique<CListViewAdapter<CFileView>>(list, stage, parent);
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QThread>
 
+namespace orrelix {
+
 bool IsWindowThread() {
     return QThread::currentThread() == qApp->thread();
 }
@@ -19,3 +21,5 @@ QWidget* WindowInUse() {
     QWidget* pModal = QApplication::activeModalWidget();
     return pModal ? pModal : QApplication::activeWindow();
 }
+
+} // namespace orrelix

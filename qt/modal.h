@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+namespace orrelix {
+
 // Whether the calling thread is the one that windows belong to. No other may even make one.
 bool IsWindowThread();
 
@@ -14,3 +16,5 @@ int RunModal(QDialog& window);
 // Where a new window belongs: the window that the person is in, which may be the host's; null when there is
 // none.
 QWidget* WindowInUse();
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include <QAbstractSpinBox>
 #include <QStyleOptionSpinBox>
 
+namespace orrelix {
+
 namespace {
 
 // A box with arrows for any text: what a number is and where it ends is the controls' matter.
@@ -63,7 +65,7 @@ public:
 
 private:
     // The position shows as the edit box's text; what is left to show is which arrows work.
-    class CSpinEar : public ::CControlObserver {
+    class CSpinEar : public orrelix::CControlObserver {
     public:
         explicit CSpinEar(QWidget& box) : m_Box(box) {}
         void OnControlChanged(ControlChange, int, int) override { m_Box.update(); }
@@ -82,3 +84,5 @@ private:
 CAdapterPtr MakeNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent) {
     return std::make_unique<CNumberAdapter>(edit, spin, stage, parent);
 }
+
+} // namespace orrelix

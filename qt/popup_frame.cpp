@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QToolTip>
 
+namespace orrelix {
+
 namespace {
 
 CPoint PointOf(const QMouseEvent& event) {
@@ -135,3 +137,5 @@ void CPopupFrame::keyPressEvent(QKeyEvent* pEvent) {
 void CPopupFrame::hideEvent(QHideEvent*) {
     Deactivate();
 }
+
+} // namespace orrelix

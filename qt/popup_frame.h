@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <functional>
 
+namespace orrelix {
+
 class CPopupFrame : public QWidget, private CPopupWindow::CObserver {
 public:
     // Opens at the popup's place. What the popup throws goes to `fail`, from within a handler of exceptions.
@@ -45,3 +47,5 @@ private:
     bool m_bClosing = false;
     int m_nEvents = 0;
 };
+
+} // namespace orrelix

@@ -16,6 +16,8 @@
 #include <QScreen>
 #include <QStyle>
 
+namespace orrelix {
+
 namespace {
 
 constexpr int kEdge = 2; // the two lines of CQtCanvas::DrawEdge
@@ -165,3 +167,5 @@ CStringArray CQtDesktop::GetFontFamilies() const {
         families.Add(FromQt(name));
     return families;
 }
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+namespace orrelix {
+
 class CDialogWindow;
 class CPopupFrame;
 
@@ -35,3 +37,5 @@ private:
     std::vector<QPointer<CDialogWindow>> m_Windows; // the running ones, the innermost last
     QPointer<CPopupFrame> m_pPopup;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <QWheelEvent>
 
+namespace orrelix {
+
 template <class TWidget>
 class CQuietWheel : public TWidget {
 public:
@@ -19,3 +21,5 @@ protected:
             pEvent->ignore();
     }
 };
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "qt/rows_model.h"
 
+namespace orrelix {
+
 void CRowsModel::RowsInserted(int nFirst, int nCount) {
     if (nCount <= 0)
         return;
@@ -39,3 +41,5 @@ QVariant CRowsModel::data(const QModelIndex& index, int nRole) const {
         text.replace("\n", QStringLiteral(" \u21B5 "));
     return text;
 }
+
+} // namespace orrelix

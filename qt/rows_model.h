@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace orrelix {
+
 class CRowsModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
@@ -28,3 +30,5 @@ protected:
 private:
     int m_nRows = 0; // that the views have been told of
 };
+
+} // namespace orrelix

@@ -8,6 +8,8 @@
 #include <QToolTip>
 #include <functional>
 
+namespace orrelix {
+
 template <class TView>
 class CRowsView : public TView {
 public:
@@ -130,3 +132,5 @@ private:
     bool m_bChosen = false;
     int m_nDoubleClicked = -1;
 };
+
+} // namespace orrelix

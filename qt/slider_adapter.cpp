@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QSlider>
 
+namespace orrelix {
+
 namespace {
 
 class CSliderWidget : public CQuietWheel<QSlider> {
@@ -58,3 +60,5 @@ CAdapterPtr MakeSliderAdapter(CSliderCtrl& slider, const CControlDescription& de
                               QWidget& parent) {
     return std::make_unique<CSliderAdapter>(slider, description, stage, parent);
 }
+
+} // namespace orrelix

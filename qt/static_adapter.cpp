@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+namespace orrelix {
+
 namespace {
 
 // Wraps its text, and keeps the height of a few lines free where the program is going to set the text.
@@ -46,3 +48,5 @@ CAdapterPtr MakeStaticAdapter(CStatic& text, const CControlDescription& descript
                               QWidget& parent) {
     return std::make_unique<CStaticAdapter>(text, description, stage, parent);
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <QStringDecoder>
 #include <QStringEncoder>
 
+namespace orrelix {
+
 namespace {
 
 constexpr char16_t kFirstEscape = 0xDC00; // and the byte
@@ -99,3 +101,5 @@ CString PathFromQt(QString path) {
 QString CaptionToQt(const char* pDescribed, const CString& shown) {
     return WithoutMnemonic(pDescribed) == shown ? ToQt(pDescribed) : ToQt(shown).replace('&', "&&");
 }
+
+} // namespace orrelix

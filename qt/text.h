@@ -5,6 +5,8 @@
 
 #include <QString>
 
+namespace orrelix {
+
 // A byte that is no character in UTF-8 becomes a lone surrogate, which FromQt turns back into the byte, so
 // that no text loses a byte by being shown and edited.
 QString ToQt(const CString& text);
@@ -22,3 +24,5 @@ CString PathFromQt(QString path);
 // A caption as Qt wants it: the description's, with its mnemonic, as long as the control still shows it; else
 // the control's own text, in which "&" is a plain character.
 QString CaptionToQt(const char* pDescribed, const CString& shown);
+
+} // namespace orrelix

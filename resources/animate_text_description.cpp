@@ -1,5 +1,7 @@
 #include "resources/animate_text_description.h"
 
+namespace orrelix {
+
 namespace {
 
 using namespace describe;
@@ -43,3 +45,5 @@ const CDialogDescription& AnimateTextDescription() {
                 Edit(Id::ScriptPath, "Specify animate.&js Remote Directory:"), OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include "toolkit/dialog_description.h"
 
+namespace orrelix {
+
 struct AnimateTextId {
     enum : int {
         EditText = 100,
@@ -28,3 +30,5 @@ struct AnimateTextId {
     };
 };
 const CDialogDescription& AnimateTextDescription();
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/border_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& BorderDescription() {
     using namespace describe;
     using Id = BorderId;
@@ -11,3 +13,5 @@ const CDialogDescription& BorderDescription() {
                                      Number(Id::Width, "Border &Width:", 0, 5000), OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/copy_resources_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& CopyResourcesDescription() {
     using namespace describe;
     using Id = CopyResourcesId;
@@ -24,3 +26,5 @@ const CDialogDescription& BrowseFilesDescription() {
                 ListView(Id::Files, "", STYLE_SORTED, "Files Existing in the Destination Directory")})};
     return description;
 }
+
+} // namespace orrelix

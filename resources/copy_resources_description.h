@@ -3,6 +3,8 @@
 
 #include "toolkit/dialog_description.h"
 
+namespace orrelix {
+
 struct CopyResourcesId {
     enum : int { Destination = 100, Clashes, Browse, Rename, Explanation };
 };
@@ -12,3 +14,5 @@ struct BrowseFilesId {
     enum : int { Heading = 100, Files };
 };
 const CDialogDescription& BrowseFilesDescription();
+
+} // namespace orrelix

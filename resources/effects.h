@@ -2,6 +2,8 @@
 // and people know the texts as they are.
 #pragma once
 
+namespace orrelix {
+
 struct CEffect {
     const char* m_pName;
     const char* m_pDescription;
@@ -19,3 +21,5 @@ inline constexpr CEffect kEffects[] = {
     {"Cool Calender", "DHTML Cool Calender is an HTML perpetual calandar"},
     {"Color Link", "DHTML Color Link can show a Url with multilpe colors "},
 };
+
+} // namespace orrelix

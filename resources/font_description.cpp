@@ -1,5 +1,7 @@
 #include "resources/font_description.h"
 
+namespace orrelix {
+
 namespace {
 
 using namespace describe;
@@ -40,3 +42,5 @@ const CDialogDescription& CalanderFontDescription() {
                 Edit(Id::Face, "Specify the &Font:"), Families(), OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/padding_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& PaddingDescription() {
     using namespace describe;
     using Id = PaddingId;
@@ -10,3 +12,5 @@ const CDialogDescription& PaddingDescription() {
                 OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/select_script_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& SelectScriptDescription() {
     using namespace describe;
     using Id = SelectScriptId;
@@ -9,3 +11,5 @@ const CDialogDescription& SelectScriptDescription() {
                 Text(Id::Description, "", STYLE_NONE, "Description"), OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -3,7 +3,11 @@
 
 #include "toolkit/dialog_description.h"
 
+namespace orrelix {
+
 struct SelectScriptId {
     enum : int { Names = 100, Description };
 };
 const CDialogDescription& SelectScriptDescription();
+
+} // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/text_show_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& TextShowDescription() {
     using namespace describe;
     using Id = TextShowId;
@@ -21,3 +23,5 @@ const CDialogDescription& TextShowDescription() {
                 OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

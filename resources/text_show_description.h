@@ -3,6 +3,8 @@
 
 #include "toolkit/dialog_description.h"
 
+namespace orrelix {
+
 struct TextShowId {
     enum : int {
         TableWidth = 100,
@@ -22,3 +24,5 @@ struct TextShowId {
     };
 };
 const CDialogDescription& TextShowDescription();
+
+} // namespace orrelix

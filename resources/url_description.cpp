@@ -1,5 +1,7 @@
 #include "resources/url_description.h"
 
+namespace orrelix {
+
 const CDialogDescription& UrlDescription() {
     using namespace describe;
     using Id = UrlId;
@@ -13,3 +15,5 @@ const CDialogDescription& UrlDescription() {
                 OkAndCancel()})};
     return description;
 }
+
+} // namespace orrelix

@@ -3,7 +3,11 @@
 
 #include "toolkit/dialog_description.h"
 
+namespace orrelix {
+
 struct UrlId {
     enum : int { Type = 100, Url };
 };
 const CDialogDescription& UrlDescription();
+
+} // namespace orrelix

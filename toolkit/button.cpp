@@ -1,6 +1,10 @@
 #include "toolkit/button.h"
 
+namespace orrelix {
+
 void CButton::PersonClicks(CPersonKey) {
     if (IsWindowEnabled())
         OnClick();
 }
+
+} // namespace orrelix

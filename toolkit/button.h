@@ -4,6 +4,8 @@
 #include "toolkit/control.h"
 #include "toolkit/drawing.h"
 
+namespace orrelix {
+
 class CButton : public CControl {
 public:
     // Notifies Clicked, or whatever else OnClick does. A disabled button takes nothing.
@@ -24,3 +26,5 @@ public:
     // ControlChange::Appearance, Enabled and Text.
     virtual void Draw(CCanvas& canvas, const CRect& rect, bool bPressed, bool bFocused) const = 0;
 };
+
+} // namespace orrelix

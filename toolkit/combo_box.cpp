@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 void CComboBox::OnCreate(const CControlDescription& description) {
     m_Rows.RemoveAll();
     m_nCurSel = -1;
@@ -73,3 +75,5 @@ void CComboBox::Show(int nRow, const CString& text) {
     }
     CControl::SetWindowText(text);
 }
+
+} // namespace orrelix

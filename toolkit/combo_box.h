@@ -7,6 +7,8 @@
 #include "platform/array.h"
 #include "toolkit/control.h"
 
+namespace orrelix {
+
 class CComboBox : public CControl {
 public:
     bool HasEditPart() const { return m_bEditPart; }
@@ -46,3 +48,5 @@ private:
     bool m_bSorted = false;
     bool m_bEditPart = true;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 void CControl::Create(const CControlDescription& description, CNotificationTarget* pTarget) {
     m_nId = description.m_nId;
     m_Text = WithoutMnemonic(description.m_pCaption);
@@ -49,3 +51,5 @@ bool SortsBefore(const CString& left, const CString& right) {
     return std::lexicographical_compare(first.begin(), first.end(), second.begin(), second.end(),
                                         [&](char a, char b) { return folded(a) < folded(b); });
 }
+
+} // namespace orrelix

@@ -13,6 +13,8 @@
 
 #include "platform/string.h"
 
+namespace orrelix {
+
 struct CControlDescription;
 
 // The permit to act as the person at the screen.
@@ -111,3 +113,5 @@ private:
 
 // The order of sorted lists: case of A to Z plays no part, other bytes count as they are.
 bool SortsBefore(const CString& left, const CString& right);
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include "toolkit/combo_box.h"
 #include "toolkit/dialog.h"
 
+namespace orrelix {
+
 void CDataExchange::Text(int nId, CString& value) {
     CControl& control = m_Dialog.Item<CControl>(nId);
     if (m_bSave)
@@ -18,3 +20,5 @@ void CDataExchange::Index(int nId, int& nValue) {
     else
         box.SetCurSel(nValue);
 }
+
+} // namespace orrelix

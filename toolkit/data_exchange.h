@@ -4,6 +4,8 @@
 
 #include "platform/string.h"
 
+namespace orrelix {
+
 class CDialog;
 
 class CDataExchange {
@@ -21,3 +23,5 @@ private:
     CDialog& m_Dialog;
     bool m_bSave;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 #include "toolkit/dialog.h"
 #include "toolkit/popup_window.h"
 
+namespace orrelix {
+
 namespace {
 
 // Where nobody is there to answer: every dialog is closed at once, nothing is chosen.
@@ -31,7 +33,7 @@ CDesktop* g_pDesktop = nullptr; // null until one is set
 } // namespace
 
 CDesktop& GetDesktop() {
-    CDesktop* pDesktop = g_pDesktop ? g_pDesktop : FindWindows();
+    CDesktop* pDesktop = g_pDesktop ? g_pDesktop : FindDesktop();
     return pDesktop ? *pDesktop : g_nobody;
 }
 
@@ -42,3 +44,5 @@ void SetDesktop(CDesktop* pDesktop) {
 int AfxMessageBox(const CString& text, MessageBoxKind kind) {
     return GetDesktop().ShowMessageBox(text, kind);
 }
+
+} // namespace orrelix

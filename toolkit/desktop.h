@@ -15,6 +15,8 @@
 #include "toolkit/control.h"
 #include "toolkit/drawing.h"
 
+namespace orrelix {
+
 class CDialog;
 class CFileDialog;
 class COwnerDrawnButton;
@@ -77,3 +79,5 @@ void SetDesktop(CDesktop* pDesktop);
 
 // A message box with one "OK", or the kind that is named.
 int AfxMessageBox(const CString& text, MessageBoxKind kind = MessageBoxKind::Ok);
+
+} // namespace orrelix

@@ -3,10 +3,14 @@
 #include "platform/module.h"
 #include "platform/screen.h"
 
-CDesktop* FindWindows() {
-    static CFindWindowsFunction* pFindWindows = nullptr;
-    if (!pFindWindows && HasScreen())
-        pFindWindows =
-            reinterpret_cast<CFindWindowsFunction*>(LoadNeighbour(kWindowsLibrary, kWindowsFunction));
-    return pFindWindows ? pFindWindows() : nullptr;
+namespace orrelix {
+
+CDesktop* FindDesktop() {
+    static CFindDesktopFunction* pFindDesktop = nullptr;
+    if (!pFindDesktop && HasScreen())
+        pFindDesktop =
+            reinterpret_cast<CFindDesktopFunction*>(LoadNeighbour(kDesktopLibrary, kDesktopFunction));
+    return pFindDesktop ? pFindDesktop() : nullptr;
 }
+
+} // namespace orrelix

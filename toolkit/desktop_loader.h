@@ -2,13 +2,17 @@
 // first wanted and there is a screen. The component itself stays free of any window system.
 #pragma once
 
+namespace orrelix {
+
 class CDesktop;
 
 // The desktop with real windows, null when there is no screen, no such library, or no way to show windows on
 // the calling thread. It isn't ours to delete. Ask again each time: what the process can show may change.
-CDesktop* FindWindows();
+CDesktop* FindDesktop();
 
 // The library's one function, with C linkage. It gives the desktop or null and throws nothing.
-using CFindWindowsFunction = CDesktop*();
-constexpr const char* kWindowsLibrary = "VignelOrrelixQt";
-constexpr const char* kWindowsFunction = "OrrelixWindows";
+using CFindDesktopFunction = CDesktop*();
+constexpr const char* kDesktopLibrary = "VignelOrrelixQt";
+constexpr const char* kDesktopFunction = "OrrelixDesktop";
+
+} // namespace orrelix

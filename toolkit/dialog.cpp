@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace orrelix {
+
 namespace {
 
 std::unique_ptr<CControl> MakeControl(ControlKind kind) {
@@ -156,3 +158,5 @@ void CDialog::OnNotify(int nId, Notification notification) {
     else if (nId == IDCANCEL && notification == Notification::Clicked)
         OnCancel();
 }
+
+} // namespace orrelix

@@ -29,6 +29,8 @@
 #include <memory>
 #include <utility>
 
+namespace orrelix {
+
 class COwnerDrawnButton;
 
 // Set by the desktop's window, to be told of its dialog.
@@ -144,3 +146,5 @@ private:
     bool m_bEnabled = true;
     int m_nResult = IDCANCEL;
 };
+
+} // namespace orrelix

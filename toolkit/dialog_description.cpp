@@ -3,6 +3,8 @@
 #include <cctype>
 #include <utility>
 
+namespace orrelix {
+
 namespace {
 
 using Visit = std::function<void(const CControlDescription&, const char*)>;
@@ -163,3 +165,5 @@ CDialogItem OkAndCancel() {
 }
 
 } // namespace describe
+
+} // namespace orrelix

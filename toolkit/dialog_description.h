@@ -20,6 +20,8 @@
 #include <functional>
 #include <vector>
 
+namespace orrelix {
+
 // The ids that close a dialog, and the results of DoModal.
 constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;
@@ -132,3 +134,5 @@ CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pT
 CDialogItem OkAndCancel();
 
 } // namespace describe
+
+} // namespace orrelix

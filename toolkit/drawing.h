@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+namespace orrelix {
+
 // Red in the low byte, green in the next and blue in the third.
 using CColour = std::uint32_t;
 
@@ -98,3 +100,5 @@ public:
 protected:
     ~CCanvas() = default;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 void CEdit::OnCreate(const CControlDescription& description) {
     m_bMultiLine = description.Has(STYLE_MULTI_LINE);
     m_bDigits = description.Has(STYLE_DIGITS);
@@ -40,3 +42,5 @@ CString CEdit::Accepted(const CString& text) const {
     const std::string_view line = text.View().substr(0, text.View().find_first_of("\r\n"));
     return m_bDigits ? WithDigitsAlone(line) : CString(line);
 }
+
+} // namespace orrelix

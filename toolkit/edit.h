@@ -3,6 +3,8 @@
 
 #include "toolkit/control.h"
 
+namespace orrelix {
+
 class CEdit : public CControl {
 public:
     bool IsMultiLine() const { return m_bMultiLine; }
@@ -22,3 +24,5 @@ private:
     bool m_bMultiLine = false;
     bool m_bDigits = false;
 };
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 CStringArray Split(std::string_view text, char separator) {
@@ -40,3 +42,5 @@ void CFileDialog::AddEdit(const CString& label, const CString& text) {
     m_AddedEdit.Create({.m_Kind = ControlKind::Edit}, this);
     m_AddedEdit.SetWindowText(text);
 }
+
+} // namespace orrelix

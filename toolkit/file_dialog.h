@@ -14,6 +14,8 @@
 #include <utility>
 #include <vector>
 
+namespace orrelix {
+
 class CFileDialog : private CNotificationTarget {
 public:
     // fileName is where the dialog starts, a path, a bare name or empty. filter is a list of names and
@@ -56,3 +58,5 @@ private:
     CString m_AddedLabel;
     CEdit m_AddedEdit;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 void CListBox::OnCreate(const CControlDescription& description) {
     m_Rows.RemoveAll();
     m_nCurSel = -1;
@@ -68,3 +70,5 @@ void CListBox::PersonDoubleClicks(CPersonKey key, int nRow) {
         PersonSelects(key, nRow);
     NotifyDialog(Notification::DoubleClicked);
 }
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 #include "platform/array.h"
 #include "toolkit/control.h"
 
+namespace orrelix {
+
 class CListBox : public CControl {
 public:
     int GetCount() const { return static_cast<int>(m_Rows.GetSize()); }
@@ -40,3 +42,5 @@ private:
     int m_nCurSel = -1;
     bool m_bSorted = false;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 // Where a marked row stands after a row was put in, or taken out, at nRow.
@@ -179,3 +181,5 @@ void CListCtrl::PersonEndsLabelEdit(CPersonKey, const CString& text, bool bCance
     m_LabelEdit.m_bCancelled = bCancelled;
     NotifyDialog(Notification::LabelEditEnded);
 }
+
+} // namespace orrelix

@@ -11,6 +11,8 @@
 
 #include <vector>
 
+namespace orrelix {
+
 class CListCtrl : public CControl {
 public:
     struct CColumn {
@@ -102,3 +104,5 @@ private:
     bool m_bSorted = false;
     bool m_bEditLabels = false;
 };
+
+} // namespace orrelix

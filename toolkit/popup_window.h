@@ -15,6 +15,8 @@
 
 #include <vector>
 
+namespace orrelix {
+
 enum class PopupKey { Up, Down, Left, Right, Escape, Return, Space };
 
 struct CToolTipText {
@@ -61,3 +63,5 @@ protected:
 private:
     CObserver* m_pObserver = nullptr;
 };
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 void CSliderCtrl::OnCreate(const CControlDescription& description) {
     m_nLower = description.m_nLower;
     m_nUpper = description.m_nUpper;
@@ -32,3 +34,5 @@ void CSliderCtrl::PersonMoves(CPersonKey, int nPos) {
     if (IsWindowEnabled())
         SetPos(nPos);
 }
+
+} // namespace orrelix

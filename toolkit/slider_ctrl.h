@@ -3,6 +3,8 @@
 
 #include "toolkit/control.h"
 
+namespace orrelix {
+
 class CSliderCtrl : public CControl {
 public:
     // Clips the position to the range.
@@ -30,3 +32,5 @@ private:
     int m_nTicks = 1;
     int m_nPos = 0;
 };
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
+namespace orrelix {
+
 void CSpinButtonCtrl::OnCreate(const CControlDescription& description) {
     m_nLower = description.m_nLower;
     m_nUpper = description.m_nUpper;
@@ -50,3 +52,5 @@ int CSpinButtonCtrl::NumberInBuddy() const {
     const int nNumber = ToInteger(text);
     return bNumber && Clipped(nNumber) == nNumber ? nNumber : m_nPos;
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 
 #include "toolkit/edit.h"
 
+namespace orrelix {
+
 class CSpinButtonCtrl : public CControl {
 public:
     // Not owned. Null takes the buddy away.
@@ -38,3 +40,5 @@ private:
     int m_nUpper = 100;
     int m_nPos = 0;
 };
+
+} // namespace orrelix

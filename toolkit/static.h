@@ -3,4 +3,8 @@
 
 #include "toolkit/control.h"
 
+namespace orrelix {
+
 class CStatic : public CControl {};
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 class BorderDlg : public testing::Test {
@@ -67,3 +69,5 @@ TEST_F(BorderDlg, AMixedColourIsRememberedAndACancelledOneIsNot) {
     m_Person.OpensColours("Border Color").PicksColour("010203").Clicks("OK");
     EXPECT_EQ(Run("solid", "112233", "3"), "3 solid #010203");
 }
+
+} // namespace orrelix

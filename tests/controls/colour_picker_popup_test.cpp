@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 constexpr int kNone = CColourPickerPopup::kNone;
@@ -191,3 +193,5 @@ TEST(ColourPickerPopup, TheColourOfTheStartIsChosen) {
     EXPECT_EQ(CPersonAtPopup("ffd701").m_pPopup->GetChosenSel(), kBox);
     EXPECT_EQ(CPersonAtPopup("ffd701", "").m_pPopup->GetChosenSel(), kNone);
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 constexpr int kEdit = 100;
@@ -108,3 +110,5 @@ TEST(ColourPicker, TheButtonHasRoomForColourAndArrow) {
     EXPECT_EQ(dialog.m_Picker.Measure({60, 99}), (CSize{60, 20}));
     EXPECT_EQ(dialog.m_Picker.Measure({3, 3}), (CSize{22, 20}));
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 class ColourTable : public testing::Test {
@@ -85,3 +87,5 @@ TEST_F(ColourTable, DamagedRowsKeepWhatTheTableHolds) {
     RememberColour("", MakeColour(9, 9, 9));
     EXPECT_EQ(Row(39), "090909|090909") << "for this process, where nothing can be stored";
 }
+
+} // namespace orrelix

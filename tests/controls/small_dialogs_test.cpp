@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 TEST(UrlDlg, TheKindFollowsFromHowTheAddressBegins) {
     const struct {
         const char* m_pUrl;
@@ -128,3 +130,5 @@ TEST(PaddingDlg, SpinControlsWriteWhatTheyHoldAndTypedTextPasses) {
     EXPECT_EQ(dialog.m_PaddingTop, "5000");
     EXPECT_EQ(dialog.m_PaddingBottom, "1em");
 }
+
+} // namespace orrelix

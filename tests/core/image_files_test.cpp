@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 // Images to be copied, of which one has its name taken in the destination.
@@ -83,3 +85,5 @@ TEST(CopyImages, AsksOnceAboutATakenNameUnlessForced) {
         EXPECT_EQ(site.Copied("free.gif"), "new");
     }
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 std::string FileOfType(const std::string& progId, const std::string& parameters) {
@@ -89,3 +91,5 @@ TEST(Orrelix, WritesTheFileAnewWithThePreviewForm) {
     EXPECT_GT(config.m_Segments[0].m_Body.Find("src=\"preview/animate.js\""), 0);
     EXPECT_FALSE(orrelix.WriteConfigFile(directory.Path("no\\such.cfg")));
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 struct CRecord {
@@ -136,3 +138,5 @@ TEST(Parameters, HoldNoLineBreaks) {
     EXPECT_EQ(config.GetParameter("Texts", ""), "x<br>y,");
     EXPECT_EQ(fields.m_Speed, "1\r\n2") << "the field stays";
 }
+
+} // namespace orrelix

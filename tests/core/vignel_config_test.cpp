@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+namespace orrelix {
+
 namespace {
 
 // A file with the given lines in the four parts.
@@ -264,3 +266,5 @@ TEST(Paths, EndAtTheirLastBackslash) {
         EXPECT_EQ(FileNameOfPath(pPath), pName) << pPath;
     }
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 class AnimateTextDlg : public testing::Test {
@@ -134,3 +136,5 @@ TEST_F(AnimateTextDlg, ItsComplaintsChangeNothing) {
     m_Steps.ShowsRows("Messages", {"one", "two", "three"}).Clicks("OK");
     EXPECT_EQ(Run(), IDOK);
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 const CString kSelect = "Select a DHTML Scripts";
@@ -69,3 +71,5 @@ TEST(Config, WhereNobodyIsItIsCancelledAndATypeThatIsNoneOfOursAsksNothing) {
         EXPECT_TRUE(orrelix.Config()) << pType;
     }
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 // Two folders: where the images are, and where files of their names are already.
@@ -121,3 +123,5 @@ TEST(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     }
 }
+
+} // namespace orrelix

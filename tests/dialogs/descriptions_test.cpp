@@ -12,6 +12,8 @@
 #include <map>
 #include <set>
 
+namespace orrelix {
+
 namespace {
 
 class Descriptions : public testing::TestWithParam<const CDialogDescription& (*)()> {
@@ -65,3 +67,5 @@ INSTANTIATE_TEST_SUITE_P(All, Descriptions,
                                          BrowseFilesDescription, AnimateTextDescription, TextShowDescription,
                                          FontPropertiesDescription, CalanderFontDescription, UrlDescription,
                                          BorderDescription, PaddingDescription));
+
+} // namespace orrelix

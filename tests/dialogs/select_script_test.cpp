@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 const std::vector<CString> kNames = {"Animate Text",      "Slide Text",    "Calender",
@@ -44,3 +46,5 @@ TEST(SelectScript, ASecondRunBeginsAfresh) {
     person.ShowsRows("DHTML Scripts", kNames).ShowsSelected("DHTML Scripts", {}).PressesEscape();
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 int RunOn(CTextShow& gadget) {
@@ -93,3 +95,5 @@ TEST(TextShowDlg, LinesComeUpAsLinesAndEachFontGoesToItsOwnFields) {
     EXPECT_EQ(gadget.m_TextFontStyle, "");
     EXPECT_EQ(gadget.m_TextFontSize, "10");
 }
+
+} // namespace orrelix

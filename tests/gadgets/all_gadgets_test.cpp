@@ -2,12 +2,14 @@
 #include "core/orrelix.h"
 #include "platform/files.h"
 #include "tests/support/expected_text.h"
-#include "tests/support/named_fields.h"
+#include "tests/support/field_namer.h"
 #include "tests/support/temporary_directory.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+
+namespace orrelix {
 
 namespace fs = std::filesystem;
 
@@ -69,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(All, Gadget, testing::ValuesIn(kEffects),
 } // namespace
 
 TEST_P(Gadget, HasEveryFieldAtItsPlaces) {
-    CNamedFields names(",>");
+    CFieldNamer names(",>");
     Effect().ExchangeParameters(names);
     Config().SetTitle("TiTle");
     std::string text;
@@ -82,7 +84,7 @@ TEST_P(Gadget, HasEveryFieldAtItsPlaces) {
 }
 
 TEST_P(Gadget, ReadsBackWhatItWrites) {
-    CNamedFields names;
+    CFieldNamer names;
     Effect().ExchangeParameters(names);
     Effect().WriteParameters(Config());
     COrrelix again;
@@ -135,3 +137,5 @@ TEST_P(Gadget, LaysItsScriptsBesideThePageInBothSpellings) {
     const auto nFiles = std::distance(fs::directory_iterator(page.File("")), fs::directory_iterator());
     EXPECT_EQ(nFiles, static_cast<std::ptrdiff_t>(GetParam().m_Files.size()));
 }
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -79,3 +81,5 @@ TEST_P(Example, WrittenAgainHasTheSameBytes) {
 
 INSTANTIATE_TEST_SUITE_P(Gadgets, Example, testing::ValuesIn(ExampleNames()),
                          [](const auto& example) { return example.param; });
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 std::span<CString> ImagesOf(CToolTip& tip) {
@@ -57,3 +59,5 @@ TYPED_TEST(Images, AreRegisteredAsTheDiskSpellsThemCopiedAndFoundAgainUnlessThey
     EXPECT_EQ(ImagesOf(again).front(), kTip ? "\\pages\\photo.gif" : "");
     EXPECT_EQ(again.m_ImagePath, kTip ? "" : "images/");
 }
+
+} // namespace orrelix

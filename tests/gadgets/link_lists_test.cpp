@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 // Two items, and what count each may keep of them.
@@ -58,3 +60,5 @@ TEST(CoolLink, FormsTheBorderThatNoParameterHolds) {
     link.ReadParameters(config, "");
     EXPECT_EQ(link.m_OptionBorder, "3 dotted #112233");
 }
+
+} // namespace orrelix

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 // A browser would take a comma behind the last for one colour more.
 TEST(DanceText, AListOfColorsHasNoCommaBehindTheLastInTheScriptAlone) {
     const struct {
@@ -40,3 +42,5 @@ TEST(TextShow, LineBreaksBecomeTagsInItsFieldTooAndSingleOnesInTheFileAlone) {
     EXPECT_EQ(gadget.m_Text, "first, second<br>third\nfourth");
     EXPECT_EQ(config.GetParameter("TextShowText", ""), "first, second<br>third<br>fourth");
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 CString LastLine(const CString& body) {
@@ -42,3 +44,5 @@ TEST(ToolTip, WhatIsLeftOutLeavesItsBlanks) {
         EXPECT_EQ(LastLine(gadget.GetHTMLBody(config, row.m_nMode, 0)), row.m_pLine);
     }
 }
+
+} // namespace orrelix

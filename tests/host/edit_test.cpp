@@ -3,6 +3,8 @@
 
 #include <sstream>
 
+namespace orrelix {
+
 namespace {
 
 class Edit : public ProgramTest {
@@ -145,3 +147,5 @@ TEST_F(Edit, SaysWhatIsWrongAndWhatToDo) {
         EXPECT_FALSE(Exists("x.cfg"));
     }
 }
+
+} // namespace orrelix

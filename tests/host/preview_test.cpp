@@ -2,6 +2,8 @@
 
 #include <set>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -117,3 +119,5 @@ TEST_F(Preview, ClashesAndFilesWithoutAPageAreReportedAndTheRestIsDone) {
     ExpectRun({"preview", "a/a.cfg", "--out", "a"}, 1, "a/a.cfg");
     EXPECT_FALSE(Exists("a/a.html"));
 }
+
+} // namespace orrelix

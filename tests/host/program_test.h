@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+namespace orrelix {
+
 class ProgramTest : public testing::Test {
 protected:
     // Nobody is there to answer a dialog of the program.
@@ -54,3 +56,5 @@ protected:
 
     CTemporaryDirectory m_Folder;
 };
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <sys/mount.h>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -346,3 +348,5 @@ TEST_F(Publish, AProcessKilledInTheMidstOfWritingLeavesTheOldPageAndTheNextSweep
     for (const auto& entry : fs::recursive_directory_iterator(m_Folder.File("site")))
         EXPECT_FALSE(entry.path().filename().string().starts_with(".orrelix-")) << entry.path();
 }
+
+} // namespace orrelix

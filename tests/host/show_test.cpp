@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+namespace orrelix {
+
 using Json = nlohmann::ordered_json;
 
 namespace {
@@ -140,3 +142,5 @@ TEST_F(Show, ExitCodesTellWrongUsageFromFailure) {
     for (const auto& [arguments, nExitCode, pMessage] : cases)
         ExpectRun(arguments, nExitCode, pMessage);
 }
+
+} // namespace orrelix

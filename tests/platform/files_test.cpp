@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -220,3 +222,5 @@ TEST(Files, AReplacedLinkStaysALink) {
         EXPECT_EQ(FileContent(directory.File(pReal)), "new");
     }
 }
+
+} // namespace orrelix

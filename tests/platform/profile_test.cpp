@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -212,3 +214,5 @@ TEST_F(Profile, ALockIsNotWaitedForForEverAndGoesWithAProcessThatIsKilled) {
     EXPECT_TRUE(WIFSIGNALED(WaitFor(nProcess)));
     EXPECT_TRUE(second.Acquire(path, 0));
 }
+
+} // namespace orrelix

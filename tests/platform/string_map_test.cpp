@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
+namespace orrelix {
+
 namespace {
 
 std::string Keys(const CMapStringToString& map) {
@@ -51,3 +53,5 @@ TEST(StringMap, FindsEveryKeyOfManyAndNoOther) {
     EXPECT_EQ(map.Find("key0"), nullptr);
     EXPECT_EQ(map.GetCount(), 5000u);
 }
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 // In page 936 "\x95\x5C" is one character whose second byte looks like a backslash, "\x91\x7C" one whose
 // second looks like a bar, "\x81\x41" one whose second looks like an A. In page 949, 0x5C follows no lead
 // byte.
@@ -111,3 +113,5 @@ TEST(String, NumbersReadAsTheirLeadingDigits) {
     for (const auto& [pText, nNumber] : cases)
         EXPECT_EQ(ToInteger(pText), nNumber) << pText;
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 class Hosts : public testing::Test {
@@ -47,3 +49,5 @@ TEST_F(Hosts, OneGoesOnWithoutAScreenOrWithOneThatNobodyServes) {
                       {{"QT_QPA_PLATFORM", none}, {"DISPLAY", display}, {"WAYLAND_DISPLAY", wayland}}),
                   1);
 }
+
+} // namespace orrelix

@@ -9,7 +9,7 @@
 #include "controls/url_dlg.h"
 #include "core/orrelix.h"
 #include "dialogs/copy_resources.h"
-#include "tests/qt/windows_person.h"
+#include "tests/qt/qt_person.h"
 #include "tests/support/temporary_directory.h"
 #include "tests/support/user_settings.h"
 
@@ -17,6 +17,8 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 #include <map>
+
+namespace orrelix {
 
 namespace {
 
@@ -54,7 +56,7 @@ std::function<void(CDialog&)> Take(const char* pName) {
 
 TEST(Pictures, OfTheWindows) {
     const CUserSettings settings;
-    CWindowsPerson person;
+    CQtPerson person;
     const CString scripts = "DHTML Scripts", clashes = "Files with clashing names";
     person.In("Select a DHTML Scripts").SelectsRow(scripts, 1).Then(Take("select_script"));
     person.DoubleClicks(scripts, "Animate Text").In("Animate Text").SelectsRow("Messages", 2);
@@ -93,3 +95,5 @@ TEST(Pictures, OfTheWindows) {
     copy.AddClash(logo);
     copy.DoModal();
 }
+
+} // namespace orrelix

@@ -1,11 +1,13 @@
 // A person's steps lead to the same file through real windows as without any.
 #include "core/orrelix.h"
-#include "tests/qt/windows_person.h"
+#include "tests/qt/qt_person.h"
 #include "tests/support/scripted_person.h"
 #include "tests/support/temporary_directory.h"
 #include "tests/support/user_settings.h"
 
 #include <gtest/gtest.h>
+
+namespace orrelix {
 
 namespace {
 
@@ -68,9 +70,11 @@ TEST_P(SameRoad, LeadsToTheSameFile) {
         CScriptedPerson person;
         withoutWindows = FileMadeBy(person, GetParam());
     }
-    CWindowsPerson person;
+    CQtPerson person;
     EXPECT_EQ(FileMadeBy(person, GetParam()), withoutWindows);
     EXPECT_NE(withoutWindows, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Effects, SameRoad, testing::Values(MakeSlideText, MakeAnimateText));
+
+} // namespace orrelix

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 TEST(Texts, NoByteIsLostByBeingShown) {
     const std::string texts[] = {"",
                                  "plain",
@@ -31,3 +33,5 @@ TEST(Texts, LinesAndPathsAndCaptions) {
     EXPECT_EQ(CaptionToQt("Move &Up", "Move Up"), "Move &Up");
     EXPECT_EQ(CaptionToQt("Move &Up", "Up & away"), "Up && away");
 }
+
+} // namespace orrelix

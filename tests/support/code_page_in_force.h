@@ -3,6 +3,8 @@
 
 #include "platform/code_page.h"
 
+namespace orrelix {
+
 class CCodePageInForce {
 public:
     explicit CCodePageInForce(int nCodePage) : m_nOld(GetCodePage()) { SetCodePage(nCodePage); }
@@ -13,3 +15,5 @@ public:
 private:
     int m_nOld;
 };
+
+} // namespace orrelix

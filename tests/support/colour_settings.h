@@ -5,6 +5,8 @@
 #include "controls/colour_table.h"
 #include "tests/support/user_settings.h"
 
+namespace orrelix {
+
 class CColourSettings : public CUserSettings {
 public:
     ~CColourSettings() { GetColourTable() = m_Table; }
@@ -12,3 +14,5 @@ public:
 private:
     const CColourTable m_Table = GetColourTable();
 };
+
+} // namespace orrelix

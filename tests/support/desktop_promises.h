@@ -17,6 +17,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+namespace orrelix {
+
 class DesktopPromises : public testing::TestWithParam<std::unique_ptr<CPersonScript> (*)()> {
 protected:
     std::unique_ptr<CPersonScript> m_Script = GetParam()();
@@ -271,3 +273,5 @@ TEST_P(DesktopPromises, ADialogThatRunsAgainBeginsAfresh) {
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
 }
+
+} // namespace orrelix

@@ -11,6 +11,8 @@
 #include "toolkit/popup_window.h"
 #include "toolkit/slider_ctrl.h"
 
+namespace orrelix {
+
 namespace promises {
 
 struct Id {
@@ -189,3 +191,5 @@ protected:
 };
 
 } // namespace promises
+
+} // namespace orrelix

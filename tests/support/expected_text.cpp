@@ -4,6 +4,8 @@
 #include <fstream>
 #include <sstream>
 
+namespace orrelix {
+
 testing::AssertionResult EqualsExpected(const std::filesystem::path& file, std::string_view text) {
     std::ostringstream content;
     content << std::ifstream(file, std::ios::binary).rdbuf();
@@ -23,3 +25,5 @@ testing::AssertionResult EqualsExpected(const std::filesystem::path& file, std::
            << "\n  text:     " << testing::PrintToString(std::string(text.substr(nFrom, 120)))
            << "\n  the text is in " << newFile;
 }
+
+} // namespace orrelix

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace orrelix {
+
 namespace {
 
 bool IsCalled(const CControlDescription& control, const CString& name) {
@@ -226,3 +228,5 @@ void CPersonScript::Fail(const CString& message) {
         ADD_FAILURE() << message;
     m_bLost = true;
 }
+
+} // namespace orrelix

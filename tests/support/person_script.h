@@ -21,6 +21,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 class CFileDialog;
 
 // A control as a step found it on the screen.
@@ -215,3 +217,5 @@ private:
 // The control of one of these kinds that the name means, or null: see the head of this file.
 const CControlDescription* FindByName(const CDialogDescription& description, const CString& name,
                                       const std::vector<ControlKind>& kinds);
+
+} // namespace orrelix

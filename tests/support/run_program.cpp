@@ -7,6 +7,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace orrelix {
+
 namespace {
 
 std::string ContentOf(FILE* pFile) {
@@ -57,3 +59,5 @@ CProgramRun RunProgram(const std::vector<std::string>& arguments, const CProgram
     run.m_Errors = ContentOf(pErrors);
     return run;
 }
+
+} // namespace orrelix

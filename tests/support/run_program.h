@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace orrelix {
+
 struct CProgramRun {
     int m_nExitCode = -1; // -1 when a signal ended it
     bool m_bKilled = false;
@@ -20,3 +22,5 @@ struct CProgramLimits {
 
 // Runs a program to its end. The first of the arguments is the program's path.
 CProgramRun RunProgram(const std::vector<std::string>& arguments, const CProgramLimits& limits = {});
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 template <class TControl>
@@ -168,3 +170,5 @@ std::vector<int> CScriptedPerson::SelectedRowsOf(const CTarget& target) {
         rows.push_back(nRow);
     return rows;
 }
+
+} // namespace orrelix

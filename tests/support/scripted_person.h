@@ -10,6 +10,8 @@
 #include "tests/support/person_script.h"
 #include "toolkit/desktop.h"
 
+namespace orrelix {
+
 class CScriptedPerson : public CDesktop, public CPersonHands, public CPersonScript {
 public:
     CScriptedPerson() { SetDesktop(this); }
@@ -54,3 +56,5 @@ public:
 private:
     CPopupWindow* m_pPopup = nullptr;
 };
+
+} // namespace orrelix

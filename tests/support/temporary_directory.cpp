@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+namespace orrelix {
+
 CTemporaryDirectory::CTemporaryDirectory() {
     std::string name = (std::filesystem::temp_directory_path() / "orrelix-test-XXXXXX").string();
     if (!mkdtemp(name.data()))
@@ -37,3 +39,5 @@ std::string FileContent(const std::filesystem::path& path) {
     EXPECT_TRUE(file.good()) << path << " can't be read";
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <string>
 
+namespace orrelix {
+
 class CTemporaryDirectory {
 public:
     CTemporaryDirectory();
@@ -29,3 +31,5 @@ CString HostPath(const std::filesystem::path& path);
 
 // The bytes of a file; a test that names no file fails.
 std::string FileContent(const std::filesystem::path& path);
+
+} // namespace orrelix

@@ -7,6 +7,8 @@
 
 #include <stdlib.h>
 
+namespace orrelix {
+
 class CUserSettings {
 public:
     CUserSettings() { setenv("XDG_CONFIG_HOME", m_Directory.File("").c_str(), 1); }
@@ -21,3 +23,5 @@ public:
 private:
     CTemporaryDirectory m_Directory;
 };
+
+} // namespace orrelix

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+namespace orrelix {
+
 namespace {
 
 template <class TControl>
@@ -202,3 +204,5 @@ TEST(FileDialog, ItsFilterIsPairsOfNamesAndPatterns) {
     EXPECT_EQ(dialog.GetFilters()[0].m_Patterns, CStringArray({"*.gif", "*.jpg", "*.jpeg"}));
     EXPECT_TRUE(CFileDialog("", "|").GetFilters().empty());
 }
+
+} // namespace orrelix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest-spi.h>
 
+namespace orrelix {
+
 INSTANTIATE_TEST_SUITE_P(ScriptedPerson, DesktopPromises,
                          testing::Values([]() -> std::unique_ptr<CPersonScript> {
                              return std::make_unique<CScriptedPerson>();
@@ -53,3 +55,5 @@ TEST(Desktop, WhereNobodyIsEveryDialogEndsInCancel) {
     EXPECT_EQ(AfxMessageBox("?", MessageBoxKind::OkCancel), IDCANCEL);
     EXPECT_TRUE(GetDesktop().GetFontFamilies().IsEmpty());
 }
+
+} // namespace orrelix

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+namespace orrelix {
+
 class CKeyboard : public QObject {
 public:
     CKeyboard() : m_Keys(qEnvironmentVariable("ORRELIX_TEST_KEYS").split(' ', Qt::SkipEmptyParts)) {
@@ -37,5 +39,7 @@ class CKeyboardPlugin : public QGenericPlugin {
 public:
     QObject* create(const QString&, const QString&) override { return new CKeyboard; }
 };
+
+} // namespace orrelix
 
 #include "keyboard.moc"

@@ -1,4 +1,4 @@
-#include "host/config_file.h"
+#include "host/config_check.h"
 
 #include "core/config_format.h"
 #include "core/orrelix.h"
@@ -10,6 +10,8 @@
 #include <array>
 #include <iterator>
 #include <unordered_set>
+
+namespace orrelix {
 
 namespace {
 
@@ -55,7 +57,7 @@ long CountLines(std::string_view part, TMatches matches) {
 
 } // namespace
 
-CConfigFile::CConfigFile(const std::filesystem::path& path) {
+CConfigCheck::CConfigCheck(const std::filesystem::path& path) {
     std::string content;
     if (!ReadFileContent(path, content))
         throw CFileError(path, "can't be read: " + SystemReason());
@@ -64,7 +66,7 @@ CConfigFile::CConfigFile(const std::filesystem::path& path) {
     Inspect(content);
 }
 
-void CConfigFile::Inspect(std::string_view content) {
+void CConfigCheck::Inspect(std::string_view content) {
     // What stands behind each marker that is there, up to the next one.
     std::array<std::string_view, kMarkers.size()> parts;
     const char* pPartBegin = content.data();
@@ -95,7 +97,7 @@ void CConfigFile::Inspect(std::string_view content) {
     }
 }
 
-void CConfigFile::CheckCounts(std::string_view resourcePart, std::string_view htmlPart) {
+void CConfigCheck::CheckCounts(std::string_view resourcePart, std::string_view htmlPart) {
     const struct {
         const char* m_pNoun;
         long m_nPromised;
@@ -117,22 +119,22 @@ void CConfigFile::CheckCounts(std::string_view resourcePart, std::string_view ht
     }
 }
 
-bool CConfigFile::IsOurs() const {
+bool CConfigCheck::IsOurs() const {
     const CString* pProgID = m_Store.m_DescriptionMap.Find("ProgID");
     return pProgID && *pProgID == kProgID;
 }
 
-CString CConfigFile::GetEffectType() const {
+CString CConfigCheck::GetEffectType() const {
     return GetListItem(m_Store.GetParameter("DhtmlType", ""), 0);
 }
 
-const CEffect* CConfigFile::GetEffect() const {
+const CEffect* CConfigCheck::GetEffect() const {
     const CString type = GetEffectType();
     const bool bKnown = IsOurs() && type.GetLength() == 1 && type[0] >= '1' && type[0] <= '9';
     return bKnown ? &kEffects[type[0] - '1'] : nullptr;
 }
 
-std::string CConfigFile::WhyNoEffect() const {
+std::string CConfigCheck::WhyNoEffect() const {
     if (m_nMarkers < kMarkersUpToParameters)
         return m_Damage.front();
     if (!IsOurs()) {
@@ -149,3 +151,5 @@ std::string CConfigFile::WhyNoEffect() const {
                "\")";
     return {};
 }
+
+} // namespace orrelix

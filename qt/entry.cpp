@@ -3,9 +3,11 @@
 #include "qt/qt_desktop.h"
 #include "toolkit/desktop_loader.h"
 
-extern "C" CFindWindowsFunction OrrelixWindows;
+namespace orrelix {
 
-CDesktop* OrrelixWindows() {
+extern "C" CFindDesktopFunction OrrelixDesktop;
+
+CDesktop* OrrelixDesktop() {
     try {
         if (!EnsureApplication())
             return nullptr;
@@ -16,3 +18,5 @@ CDesktop* OrrelixWindows() {
         return nullptr;
     }
 }
+
+} // namespace orrelix

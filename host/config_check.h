@@ -12,10 +12,12 @@
 #include <string>
 #include <vector>
 
-class CConfigFile {
+namespace orrelix {
+
+class CConfigCheck {
 public:
     // Throws CFileError when the file can't be read.
-    explicit CConfigFile(const std::filesystem::path& path);
+    explicit CConfigCheck(const std::filesystem::path& path);
 
     // The values and lists.
     CVignelConfig m_Store;
@@ -46,3 +48,5 @@ private:
 
     size_t m_nMarkers = 0; // how many of the eight lines that begin and end parts are there
 };
+
+} // namespace orrelix

@@ -1,13 +1,15 @@
-#include "controls/colour_dialog.h"
+#include "controls/dialog_with_colours.h"
 
-void CColourDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
+namespace orrelix {
+
+void CDialogWithColours::AddColour(int nEdit, CString& colour, const char* pSection) {
     CColourBox& box = m_Boxes.emplace_back(*this, colour, pSection);
     Attach(PickerOf(nEdit), box.m_Picker);
     SetHandler(nEdit, Notification::Changed, [this, &box] { OnColourTyped(box); });
     SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColourPicked(); });
 }
 
-void CColourDialog::SetUpPickers() {
+void CDialogWithColours::SetUpPickers() {
     for (CColourBox& box : m_Boxes) {
         box.m_Picker.SetUp(box.m_pSection);
         if (box.m_Colour.IsEmpty())
@@ -16,16 +18,18 @@ void CColourDialog::SetUpPickers() {
     }
 }
 
-void CColourDialog::OnColourTyped(CColourBox& box) {
+void CDialogWithColours::OnColourTyped(CColourBox& box) {
     UpdateData(true);
     box.m_Picker.SetHexColour(box.m_Colour);
 }
 
 // Every box takes its picker's colour, not only the one that was used: a box with a half-typed colour falls
 // back to its last whole one.
-void CColourDialog::OnColourPicked() {
+void CDialogWithColours::OnColourPicked() {
     UpdateData(true);
     for (CColourBox& box : m_Boxes)
         box.m_Colour = box.m_Picker.GetHexColour();
     UpdateData(false);
 }
+
+} // namespace orrelix

@@ -1,4 +1,4 @@
-#include "tests/qt/windows_person.h"
+#include "tests/qt/qt_person.h"
 
 #include "qt/application.h"
 #include "qt/text.h"
@@ -18,6 +18,8 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+namespace orrelix {
 
 namespace {
 
@@ -82,23 +84,23 @@ void ClickRow(QAbstractItemView& view, int nRow, Qt::KeyboardModifiers modifiers
     QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
 }
 
-CWindowsPerson::CWindowsPerson() {
+CQtPerson::CQtPerson() {
     StartQt();
     SetDesktop(this);
 }
 
-CDialogWindow& CWindowsPerson::Window() {
+CDialogWindow& CQtPerson::Window() {
     return dynamic_cast<CDialogWindow&>(*QApplication::activeModalWidget());
 }
 
-QWidget& CWindowsPerson::WidgetOf(const CTarget& target) {
+QWidget& CQtPerson::WidgetOf(const CTarget& target) {
     const CControlDescription& control = target.m_Description;
     const CControl* pShown =
         control.m_Kind == ControlKind::Spin ? target.m_Dialog.FindItem(control.m_nBuddy) : &target.m_Control;
     return *Window().WidgetOf(*pShown);
 }
 
-void CWindowsPerson::RunDialog(CDialog& dialog) {
+void CQtPerson::RunDialog(CDialog& dialog) {
     struct CRunning { // also when a handler throws
         std::vector<CDialog*>& m_Dialogs;
         ~CRunning() { m_Dialogs.pop_back(); }
@@ -110,7 +112,7 @@ void CWindowsPerson::RunDialog(CDialog& dialog) {
     CQtDesktop::RunDialog(dialog);
 }
 
-void CWindowsPerson::PlayNext(CDialog& dialog) {
+void CQtPerson::PlayNext(CDialog& dialog) {
     if (m_Running.back() != &dialog || dialog.HasEnded() || !FrontWindow<CDialogWindow>())
         return;
     if (!QApplication::activeWindow())
@@ -122,7 +124,7 @@ void CWindowsPerson::PlayNext(CDialog& dialog) {
     dialog.PersonCloses(Person());
 }
 
-int CWindowsPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
+int CQtPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
     WhenItIsUp<QMessageBox>([this](QMessageBox& box) {
         const int nAnswer = AnswerMessageBox(LinesFromQt(box.text()));
         QTest::mouseClick(box.button(nAnswer == IDOK ? QMessageBox::Ok : QMessageBox::Cancel),
@@ -131,7 +133,7 @@ int CWindowsPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
     return CQtDesktop::ShowMessageBox(text, kind);
 }
 
-bool CWindowsPerson::RunFileDialog(CFileDialog& dialog) {
+bool CQtPerson::RunFileDialog(CFileDialog& dialog) {
     WhenItIsUp<QFileDialog>([this](QFileDialog& window) {
         const auto answer = AnswerFileDialog();
         if (!answer)
@@ -147,7 +149,7 @@ bool CWindowsPerson::RunFileDialog(CFileDialog& dialog) {
     return CQtDesktop::RunFileDialog(dialog);
 }
 
-bool CWindowsPerson::RunColourDialog(CColour& colour) {
+bool CQtPerson::RunColourDialog(CColour& colour) {
     WhenItIsUp<QColorDialog>([this](QColorDialog& window) {
         const auto answer = AnswerColourDialog();
         if (!answer)
@@ -163,54 +165,54 @@ bool CWindowsPerson::RunColourDialog(CColour& colour) {
     return CQtDesktop::RunColourDialog(colour);
 }
 
-void CWindowsPerson::OpenPopup(CPopupWindow& popup) {
+void CQtPerson::OpenPopup(CPopupWindow& popup) {
     m_pOpenPopup = &popup;
     CQtDesktop::OpenPopup(popup);
 }
 
-void CWindowsPerson::ClosePopup(CPopupWindow& popup) {
+void CQtPerson::ClosePopup(CPopupWindow& popup) {
     m_pOpenPopup = nullptr;
     CQtDesktop::ClosePopup(popup);
 }
 
-void CWindowsPerson::Type(const CTarget& target, const CString& text) {
+void CQtPerson::Type(const CTarget& target, const CString& text) {
     ReplaceText(WidgetOf(target), LinesToQt(text));
 }
 
-void CWindowsPerson::Turn(const CTarget& target, int nSteps) {
+void CQtPerson::Turn(const CTarget& target, int nSteps) {
     for (int nStep = 0; nStep < qAbs(nSteps); ++nStep)
         QTest::keyClick(&WidgetOf(target), nSteps > 0 ? Qt::Key_Up : Qt::Key_Down);
 }
 
-void CWindowsPerson::Click(const CTarget& target) {
+void CQtPerson::Click(const CTarget& target) {
     QTest::mouseClick(&WidgetOf(target), Qt::LeftButton);
 }
 
-void CWindowsPerson::SelectRows(const CTarget& target, const std::vector<int>& rows) {
+void CQtPerson::SelectRows(const CTarget& target, const std::vector<int>& rows) {
     for (size_t nRow = 0; nRow < rows.size(); ++nRow)
         ClickRow(As<QAbstractItemView>(target), rows[nRow], nRow == 0 ? Qt::NoModifier : Qt::ControlModifier);
 }
 
-void CWindowsPerson::DoubleClick(const CTarget& target, int nRow) {
+void CQtPerson::DoubleClick(const CTarget& target, int nRow) {
     auto& view = As<QAbstractItemView>(target);
     ClickRow(view, nRow);
     const QPoint place = view.visualRect(view.model()->index(nRow, 0)).center();
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
-void CWindowsPerson::Pick(const CTarget& target, int nRow) {
+void CQtPerson::Pick(const CTarget& target, int nRow) {
     auto& box = As<QComboBox>(target);
     QTest::keyClick(&box, Qt::Key_F4);
     ClickRow(*box.view(), nRow);
 }
 
-void CWindowsPerson::CloseList(const CTarget& target) {
+void CQtPerson::CloseList(const CTarget& target) {
     auto& box = As<QComboBox>(target);
     QTest::keyClick(&box, Qt::Key_F4);
     QTest::keyClick(box.view(), Qt::Key_Escape);
 }
 
-void CWindowsPerson::Move(const CTarget& target, int nPos) {
+void CQtPerson::Move(const CTarget& target, int nPos) {
     auto& slider = As<QSlider>(target);
     while (slider.value() != nPos) {
         const int nBefore = slider.value(), nWay = nPos - nBefore;
@@ -221,7 +223,7 @@ void CWindowsPerson::Move(const CTarget& target, int nPos) {
     }
 }
 
-void CWindowsPerson::Rename(const CTarget& target, const std::optional<CString>& text) {
+void CQtPerson::Rename(const CTarget& target, const std::optional<CString>& text) {
     auto* pEditor = As<QAbstractItemView>(target).viewport()->findChild<QLineEdit*>();
     ASSERT_TRUE(pEditor) << "no label is being edited";
     if (!text)
@@ -230,31 +232,31 @@ void CWindowsPerson::Rename(const CTarget& target, const std::optional<CString>&
     QTest::keyClick(pEditor, Qt::Key_Return);
 }
 
-void CWindowsPerson::PressEscape(CDialog&) {
+void CQtPerson::PressEscape(CDialog&) {
     QTest::keyClick(Window().focusWidget(), Qt::Key_Escape);
 }
 
-void CWindowsPerson::PressEnter(CDialog&) {
+void CQtPerson::PressEnter(CDialog&) {
     QTest::keyClick(Window().focusWidget(), Qt::Key_Return);
 }
 
-void CWindowsPerson::MoveInPopup(CPoint point) {
+void CQtPerson::MoveInPopup(CPoint point) {
     SendMouse(*QApplication::activePopupWidget(), QEvent::MouseMove, {point.x, point.y}, Qt::NoButton);
 }
 
-void CWindowsPerson::ReleaseInPopup(CPoint point) {
+void CQtPerson::ReleaseInPopup(CPoint point) {
     QWidget& popup = *QApplication::activePopupWidget();
     SendMouse(popup, QEvent::MouseButtonPress, {point.x, point.y}, Qt::LeftButton);
     SendMouse(popup, QEvent::MouseButtonRelease, {point.x, point.y}, Qt::LeftButton);
 }
 
-void CWindowsPerson::PressInPopup(PopupKey key) {
+void CQtPerson::PressInPopup(PopupKey key) {
     static constexpr Qt::Key keys[] = {Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,
                                        Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space};
     QTest::keyClick(QApplication::activePopupWidget(), keys[static_cast<size_t>(key)]);
 }
 
-CString CWindowsPerson::TextOf(const CTarget& target) {
+CString CQtPerson::TextOf(const CTarget& target) {
     QWidget& widget = WidgetOf(target);
     if (const auto* pLine = dynamic_cast<QLineEdit*>(&widget))
         return FromQt(pLine->text());
@@ -269,17 +271,17 @@ CString CWindowsPerson::TextOf(const CTarget& target) {
     return WithoutMnemonic(FromQt(dynamic_cast<QAbstractButton&>(widget).text()));
 }
 
-bool CWindowsPerson::IsEnabled(const CTarget& target) {
+bool CQtPerson::IsEnabled(const CTarget& target) {
     return WidgetOf(target).isEnabled();
 }
 
-int CWindowsPerson::PositionOf(const CTarget& target) {
+int CQtPerson::PositionOf(const CTarget& target) {
     if (target.m_Description.m_Kind == ControlKind::Slider)
         return As<QSlider>(target).value();
     return As<QAbstractSpinBox>(target).text().toInt();
 }
 
-std::vector<CString> CWindowsPerson::RowsOf(const CTarget& target) {
+std::vector<CString> CQtPerson::RowsOf(const CTarget& target) {
     std::vector<CString> rows;
     const auto* pCombo = dynamic_cast<QComboBox*>(&WidgetOf(target));
     const QAbstractItemModel& model = pCombo ? *pCombo->model() : *As<QAbstractItemView>(target).model();
@@ -292,8 +294,10 @@ std::vector<CString> CWindowsPerson::RowsOf(const CTarget& target) {
     return rows;
 }
 
-std::vector<int> CWindowsPerson::SelectedRowsOf(const CTarget& target) {
+std::vector<int> CQtPerson::SelectedRowsOf(const CTarget& target) {
     if (const auto* pCombo = dynamic_cast<QComboBox*>(&WidgetOf(target)))
         return pCombo->currentIndex() < 0 ? std::vector<int>() : std::vector<int>{pCombo->currentIndex()};
     return RowNumbers(As<QAbstractItemView>(target).selectionModel()->selectedRows());
 }
+
+} // namespace orrelix

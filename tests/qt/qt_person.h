@@ -1,4 +1,4 @@
-// CWindowsPerson: a script's person before real windows, with a mouse and a keyboard. The windows are in
+// CQtPerson: a script's person before real windows, with a mouse and a keyboard. The windows are in
 // force from its construction to its end, on Qt's offscreen screen unless the environment names another one.
 #pragma once
 
@@ -8,10 +8,12 @@
 
 #include <QAbstractItemView>
 
-class CWindowsPerson : public CQtDesktop, public CPersonHands, public CPersonScript {
+namespace orrelix {
+
+class CQtPerson : public CQtDesktop, public CPersonHands, public CPersonScript {
 public:
-    CWindowsPerson();
-    ~CWindowsPerson() override { SetDesktop(nullptr); }
+    CQtPerson();
+    ~CQtPerson() override { SetDesktop(nullptr); }
 
     void RunDialog(CDialog& dialog) override;
     int ShowMessageBox(const CString& text, MessageBoxKind kind) override;
@@ -62,3 +64,5 @@ void StartQt();
 // Puts the text in place of all that stands in the box, in one go, as an input method does.
 void ReplaceText(QWidget& box, const QString& text);
 void ClickRow(QAbstractItemView& view, int nRow, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+} // namespace orrelix

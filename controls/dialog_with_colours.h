@@ -1,7 +1,7 @@
-// CColourDialog: the base of dialogs with colours. A colour is an edit box of six hexadecimal digits with a
+// CDialogWithColours: the base of dialogs with colours. A colour is an edit box of six hexadecimal digits with a
 // picker beside it, each following the other.
 //
-//     CBorderDlg::CBorderDlg() : CColourDialog(BorderDescription()) {
+//     CBorderDlg::CBorderDlg() : CDialogWithColours(BorderDescription()) {
 //         AddColour(Id::Color, m_Color, "BORDER");
 //     }
 //     void CBorderDlg::OnInitDialog() {
@@ -18,7 +18,9 @@
 
 #include <list>
 
-class CColourDialog : public CDialog {
+namespace orrelix {
+
+class CDialogWithColours : public CDialog {
 protected:
     using CDialog::CDialog;
 
@@ -44,3 +46,5 @@ private:
 
     std::list<CColourBox> m_Boxes;
 };
+
+} // namespace orrelix

@@ -4,10 +4,12 @@
 
 #include "core/parameters.h"
 
-class CNamedFields : public CParameterExchange {
+namespace orrelix {
+
+class CFieldNamer : public CParameterExchange {
 public:
     // The ending stands behind each name; one with a comma shows which fields are masked.
-    explicit CNamedFields(const char* pEnding = ">") : m_pEnding(pEnding) {}
+    explicit CFieldNamer(const char* pEnding = ">") : m_pEnding(pEnding) {}
 
     void Fields(const char*, std::initializer_list<CParameterField> fields) override {
         for (const CParameterField& field : fields) {
@@ -29,3 +31,5 @@ private:
 
     const char* m_pEnding;
 };
+
+} // namespace orrelix

@@ -1,7 +1,7 @@
 // How the windows behave beyond what every desktop promises: keys, mouse, focus, what a screen reader hears.
 #include "controls/border_dlg.h"
 #include "resources/border_description.h"
-#include "tests/qt/windows_person.h"
+#include "tests/qt/qt_person.h"
 #include "tests/support/everything_dialog.h"
 #include "tests/support/user_settings.h"
 
@@ -19,6 +19,8 @@
 #include <gtest/gtest.h>
 #include <thread>
 
+namespace orrelix {
+
 using promises::CEverythingDlg;
 using promises::Id;
 
@@ -26,11 +28,11 @@ namespace {
 
 template <class TWidget>
 TWidget& Shown(const CDialog& dialog, int nId) {
-    return dynamic_cast<TWidget&>(*CWindowsPerson::Window().WidgetOf(*dialog.FindItem(nId)));
+    return dynamic_cast<TWidget&>(*CQtPerson::Window().WidgetOf(*dialog.FindItem(nId)));
 }
 
 QWidget& Focused() {
-    return *CWindowsPerson::Window().focusWidget();
+    return *CQtPerson::Window().focusWidget();
 }
 
 class Windows : public testing::Test {
@@ -41,7 +43,7 @@ protected:
         EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     }
 
-    CWindowsPerson m_Person;
+    CQtPerson m_Person;
     CEverythingDlg m_Dialog;
 };
 
@@ -65,7 +67,7 @@ TEST_F(Windows, TheTabKeyGoesThroughTheControlsInTheOrderOfTheDescription) {
 TEST_F(Windows, AScreenReaderHearsTheNameOfEachControl) {
     Work([](CDialog& dialog) {
         ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
-            QWidget* pWidget = CWindowsPerson::Window().WidgetOf(*dialog.FindItem(control.m_nId));
+            QWidget* pWidget = CQtPerson::Window().WidgetOf(*dialog.FindItem(control.m_nId));
             if (!pWidget)
                 return; // a spin control is heard as its box
             QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(pWidget);
@@ -141,8 +143,7 @@ TEST_F(Windows, AWheelThatPassesOverABoxChangesNothing) {
 TEST_F(Windows, WhatAnAssistiveToolDoesIsThePersons) {
     m_Person.In("Everything").Then([](CDialog& dialog) {
         const auto heard = [&](int nId) {
-            return QAccessible::queryAccessibleInterface(
-                CWindowsPerson::Window().WidgetOf(*dialog.FindItem(nId)));
+            return QAccessible::queryAccessibleInterface(CQtPerson::Window().WidgetOf(*dialog.FindItem(nId)));
         };
         heard(Id::Level)->valueInterface()->setCurrentValue(700);
         EXPECT_EQ(dialog.Item<CSliderCtrl>(Id::Level).GetPos(), 700);
@@ -267,7 +268,7 @@ TEST_F(Windows, APopupThatIsLeftOrThatItsDialogLeavesIsClosed) {
             QTest::mouseClick(pPopup, Qt::LeftButton, {}, {200, 5});
         })
         .OpensColours("Colour:")
-        .Then([](CDialog&) { CWindowsPerson::Window().done(0); });
+        .Then([](CDialog&) { CQtPerson::Window().done(0); });
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(m_Dialog.m_Log, "left closed picked closed left closed ");
 }
@@ -304,7 +305,7 @@ TEST_F(Windows, ADialogWhoseHostGoesAwayIsCancelled) {
     pHostWindow->activateWindow();
     QApplication::processEvents();
     m_Person.In("Everything").Then([&](CDialog&) {
-        ASSERT_EQ(CWindowsPerson::Window().parentWidget(), pHostWindow);
+        ASSERT_EQ(CQtPerson::Window().parentWidget(), pHostWindow);
         delete pHostWindow;
     });
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
@@ -335,11 +336,11 @@ TEST_F(Windows, OffTheirThreadDialogsAreCancelled) {
 
 TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
     CUserSettings settings;
-    CWindowsPerson person;
+    CQtPerson person;
     CBorderPropertiesDlg dialog;
     dialog.m_BorderColor = "ff0000";
     auto open = [](CDialog& shown, QPoint place) {
-        CWindowsPerson::Window().move(place);
+        CQtPerson::Window().move(place);
         QApplication::processEvents();
         QWidget& button = Shown<QWidget>(shown, PickerOf(BorderId::Color));
         QTest::mouseClick(&button, Qt::LeftButton);
@@ -353,7 +354,7 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
             EXPECT_EQ(button.grab().toImage().pixelColor(button.rect().center()), QColor(255, 0, 0));
             const auto [below, popup] = open(shown, {50, 50});
             EXPECT_EQ(popup.topLeft(), below.bottomLeft() + QPoint(0, 1));
-            const QRect screen = CWindowsPerson::Window().screen()->geometry();
+            const QRect screen = CQtPerson::Window().screen()->geometry();
             const auto [corner, moved] = open(shown, screen.bottomRight() - QPoint(200, 100));
             EXPECT_TRUE(screen.contains(moved));
             EXPECT_FALSE(moved.intersects(corner));
@@ -372,3 +373,5 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
         .Clicks("Cancel");
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
+
+} // namespace orrelix

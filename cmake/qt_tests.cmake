@@ -1,0 +1,28 @@
+# The tests of the windows, on Qt's offscreen platform, and the processes that they start: two hosts, what both load, and
+# a keyboard for them.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+
+set(test_plugins ${PROJECT_BINARY_DIR}/test_plugins)
+set(processes ${PROJECT_SOURCE_DIR}/tests/qt/processes)
+
+add_library(qt_test_guest MODULE ${processes}/guest.cpp)
+target_link_libraries(qt_test_guest PRIVATE orrelix orrelix_options)
+
+add_executable(qt_test_late_host ${processes}/late_host.cpp)
+target_link_libraries(qt_test_late_host PRIVATE orrelix_options ${CMAKE_DL_LIBS})
+
+add_executable(qt_test_qt_host ${processes}/qt_host.cpp)
+target_link_libraries(qt_test_qt_host PRIVATE orrelix_options Qt6::Widgets)
+
+add_library(qt_test_keyboard MODULE ${processes}/keyboard.cpp)
+target_link_libraries(qt_test_keyboard PRIVATE orrelix_options Qt6::Widgets)
+set_target_properties(qt_test_keyboard PROPERTIES AUTOMOC ON LIBRARY_OUTPUT_DIRECTORY ${test_plugins}/generic)
+
+orrelix_test_program(qt orrelix_qt Qt6::Widgets Qt6::Test)
+target_sources(qt_test PRIVATE tests/qt/qt_person.cpp)
+target_compile_definitions(qt_test PRIVATE
+    ORRELIX_TEST_PLUGINS="${test_plugins}"
+    ORRELIX_TEST_GUEST="$<TARGET_FILE:qt_test_guest>"
+    ORRELIX_LATE_HOST="$<TARGET_FILE:qt_test_late_host>"
+    ORRELIX_QT_HOST="$<TARGET_FILE:qt_test_qt_host>")
+add_dependencies(qt_test qt_test_guest qt_test_late_host qt_test_qt_host qt_test_keyboard)
