@@ -1,9 +1,11 @@
 #include "controls/remote_directory.h"
 
+#include "platform/paths.h"
+
 namespace orrelix {
 
 CString RemoteDirectory(CString typed) {
-    typed.Replace("\\", "/");
+    typed = WithSlashes(std::move(typed));
     if (!typed.IsEmpty() && typed.Right(1) != "/")
         typed += '/';
     return typed;

@@ -1,6 +1,7 @@
 #include "core/dhtml_gadget.h"
 
 #include "platform/files.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 

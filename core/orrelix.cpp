@@ -2,6 +2,7 @@
 
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
+#include "platform/paths.h"
 
 namespace orrelix {
 

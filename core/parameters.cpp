@@ -1,6 +1,7 @@
 #include "core/parameters.h"
 
 #include "core/vignel_config.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 

@@ -315,12 +315,4 @@ bool CVignelConfig::WriteFile(const CString& path) const {
     return file.Commit();
 }
 
-CString FileNameOfPath(const CString& path) {
-    return path.Mid(path.ReverseFind('\\') + 1);
-}
-
-CString DirectoryOfPath(const CString& path) {
-    return path.Left(path.ReverseFind('\\'));
-}
-
 } // namespace orrelix

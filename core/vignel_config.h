@@ -86,10 +86,4 @@ private:
     bool SetProperty(const char* pKey, const CString& text);
 };
 
-// The text behind the last backslash; the whole path when it has none.
-CString FileNameOfPath(const CString& path);
-
-// The text before the last backslash, without it; empty when there is none.
-CString DirectoryOfPath(const CString& path);
-
 } // namespace orrelix

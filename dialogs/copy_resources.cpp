@@ -1,7 +1,7 @@
 #include "dialogs/copy_resources.h"
 
-#include "core/vignel_config.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "resources/copy_resources_description.h"
 #include "toolkit/desktop.h"
 #include "toolkit/list_ctrl.h"

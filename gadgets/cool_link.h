@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/dhtml_gadget.h"
-#include "core/image_files.h"
+#include "gadgets/image_files.h"
 #include "resources/addresses.h"
 
 namespace orrelix {

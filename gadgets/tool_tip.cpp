@@ -1,5 +1,7 @@
 #include "gadgets/tool_tip.h"
 
+#include "platform/paths.h"
+
 namespace orrelix {
 
 void CToolTip::ExchangeParameters(CParameterExchange& exchange) {

@@ -2,6 +2,7 @@
 
 #include "host/report.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 #include <cerrno>
 #include <system_error>
@@ -18,9 +19,7 @@ CString ComponentPath(const fs::path& path) {
 }
 
 fs::path SystemPath(const CString& path) {
-    CString result = path;
-    result.Replace("\\", "/");
-    return fs::path(std::string(result.View())).lexically_normal();
+    return fs::path(SystemSpelling(path)).lexically_normal();
 }
 
 bool ReadFileContent(const fs::path& path, std::string& content) {

@@ -7,6 +7,7 @@
 #include "host/text_encoding.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "resources/effects.h"
 #include "toolkit/desktop_loader.h"
 

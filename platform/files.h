@@ -18,11 +18,6 @@
 
 namespace orrelix {
 
-// The component's form of a path of the system's. Behind a byte that may be the first half of a character a
-// backslash could be its second half, so there a step of its own stands in front of it, "/.", which changes no
-// path.
-CString FromSystemPath(std::string_view path);
-
 // Whether the path names a file.
 bool FileExists(const CString& path);
 

@@ -1,5 +1,5 @@
-#include "platform/code_page.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 #include <atomic>
@@ -37,12 +37,6 @@ namespace {
 
 constexpr size_t kBlock = 256 * 1024;
 constexpr std::string_view kTemporaryPrefix = ".orrelix-";
-
-std::string SystemPath(const CString& path) {
-    CString result = path;
-    result.Replace("\\", "/");
-    return std::string(result.View());
-}
 
 bool Exists(const std::string& path) {
     struct stat status {};
@@ -116,7 +110,7 @@ std::optional<std::string> FindOnDisk(const std::string& path) {
 }
 
 std::optional<std::string> FindFileOnDisk(const CString& path) {
-    std::optional<std::string> found = FindOnDisk(SystemPath(path));
+    std::optional<std::string> found = FindOnDisk(SystemSpelling(path));
     return found && IsPlainFile(*found) ? found : std::nullopt;
 }
 
@@ -135,7 +129,7 @@ std::string BehindLinks(std::string path) {
 // Where a file of this path is to be written: its directory as the disk spells it, and no symbolic link,
 // which replacing would break.
 std::string TargetOf(const CString& path, Spelling spelling) {
-    std::string target = SystemPath(path);
+    std::string target = SystemSpelling(path);
     const size_t nName = target.rfind('/') + 1;
     const auto found = spelling == Spelling::AnyCase ? FindOnDisk(target) : std::nullopt;
     if (found)
@@ -212,26 +206,13 @@ bool IsLeftover(const char* pName) {
 
 } // namespace
 
-CString FromSystemPath(std::string_view path) {
-    const bool bTrailBytes = HasTrailBytes();
-    CString result;
-    for (size_t i = 0; i < path.size(); ++i) {
-        const bool bMayBeSwallowed = bTrailBytes && i > 0 && static_cast<unsigned char>(path[i - 1]) >= 0x80;
-        if (path[i] == '/')
-            result += bMayBeSwallowed ? "/.\\" : "\\";
-        else
-            result += path[i];
-    }
-    return result;
-}
-
 bool FileExists(const CString& path) {
     return FindFileOnDisk(path).has_value();
 }
 
 bool DirectoryExists(const CString& path) {
     struct stat status {};
-    const auto found = FindOnDisk(SystemPath(path));
+    const auto found = FindOnDisk(SystemSpelling(path));
     return found && stat(found->c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
@@ -242,7 +223,7 @@ CString FileNameOnDisk(const CString& path) {
 
 CStringArray FindFiles(const CString& directory, const CString& pattern) {
     CStringArray names;
-    const auto found = FindOnDisk(SystemPath(directory));
+    const auto found = FindOnDisk(SystemSpelling(directory));
     if (!found)
         return names;
     const CString lowerPattern = CString(pattern).MakeLower();
@@ -314,7 +295,7 @@ void CInputFile::Close() {
 
 bool CInputFile::Open(const CString& path) {
     Close();
-    const auto found = FindOnDisk(SystemPath(path));
+    const auto found = FindOnDisk(SystemSpelling(path));
     if (!found)
         return false;
     m_nFile = open(found->c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // a pipe could keep one waiting
@@ -344,7 +325,7 @@ bool ReadWholeFile(const CString& path, std::string& content) {
 }
 
 void COutputFile::RemoveLeftovers(const CString& directory) {
-    const auto found = FindOnDisk(SystemPath(directory));
+    const auto found = FindOnDisk(SystemSpelling(directory));
     if (!found)
         return;
     std::vector<std::string> leftovers;

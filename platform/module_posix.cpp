@@ -1,5 +1,5 @@
-#include "platform/files.h"
 #include "platform/module.h"
+#include "platform/paths.h"
 
 #include <dlfcn.h>
 #include <optional>

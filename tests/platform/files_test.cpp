@@ -1,4 +1,5 @@
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "tests/support/code_page_in_force.h"
 #include "tests/support/temporary_directory.h"
 

@@ -1,5 +1,5 @@
 #include "core/dhtml_gadget.h"
-#include "core/image_files.h"
+#include "gadgets/image_files.h"
 #include "tests/support/scripted_person.h"
 #include "tests/support/temporary_directory.h"
 

@@ -1,8 +1,9 @@
-#include "core/image_files.h"
+#include "gadgets/image_files.h"
 
 #include "core/dhtml_gadget.h"
 #include "dialogs/copy_resources.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 #include <string>

@@ -1,0 +1,28 @@
+// Paths as the component has them, full and with backslashes, and the same as the system spells them.
+#pragma once
+
+#include "platform/string.h"
+
+#include <string>
+#include <string_view>
+
+namespace orrelix {
+
+// The text behind the last backslash; the whole path when it has none.
+CString FileNameOfPath(const CString& path);
+
+// The text before the last backslash, without it; empty when there is none.
+CString DirectoryOfPath(const CString& path);
+
+// The text with slashes for backslashes, but for those that are the second byte of a character.
+CString WithSlashes(CString text);
+
+// The path as the system spells it.
+std::string SystemSpelling(const CString& path);
+
+// The component's form of a path of the system's. Behind a byte that may be the first half of a character a
+// backslash could be its second half, so there a step of its own stands in front of it, "/.", which changes no
+// path.
+CString FromSystemPath(std::string_view path);
+
+} // namespace orrelix
