@@ -39,7 +39,8 @@ if(ORRELIX_HOST)
     endif()
 
     find_program(CHROMIUM_PROGRAM NAMES chromium chromium-browser)
-    if(NODE_PROGRAM AND CHROMIUM_PROGRAM AND EXISTS ${PROJECT_SOURCE_DIR}/tests/browser/node_modules)
+    find_program(FIREFOX_PROGRAM NAMES firefox-esr firefox)
+    if(NODE_PROGRAM AND CHROMIUM_PROGRAM AND FIREFOX_PROGRAM AND EXISTS ${PROJECT_SOURCE_DIR}/tests/browser/node_modules)
         set(browser_pages ${PROJECT_BINARY_DIR}/browser_pages)
         file(GLOB examples CONFIGURE_DEPENDS examples/*.cfg)
         # One of them has Chinese text; the others are ASCII.
@@ -52,11 +53,11 @@ if(ORRELIX_HOST)
             add_test(NAME browser.${name} COMMAND ${NODE_PROGRAM} --test ${test}
                 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/tests/browser)
             set(environment ORRELIX_PAGES=${browser_pages} ORRELIX_PROGRAM=$<TARGET_FILE:orrelix_program>
-                CHROMIUM=${CHROMIUM_PROGRAM})
+                CHROMIUM=${CHROMIUM_PROGRAM} FIREFOX=${FIREFOX_PROGRAM})
             set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser
                 RUN_SERIAL ON TIMEOUT 300 ENVIRONMENT "${environment}")
         endforeach()
     else()
-        message(WARNING "Browser tests are left out: they need node, chromium and 'npm ci' in tests/browser")
+        message(WARNING "Browser tests are left out: they need node, chromium, firefox and 'npm ci' in tests/browser")
     endif()
 endif()

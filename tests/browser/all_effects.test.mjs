@@ -1,6 +1,6 @@
 // All nine effects on one page, as a visitor finds them: none may keep another from its work.
 import assert from "node:assert/strict";
-import { givePage, pageText, testBothModes, watch } from "./harness.mjs";
+import { givePage, pageText, testEverywhere, watch } from "./harness.mjs";
 
 const effects = ["animate_text", "text_show", "calander", "cool_link", "scroll_text", "fade_select", "tool_tip", "today_ca",
     "dance_text"];
@@ -23,7 +23,7 @@ function look() {
     };
 }
 
-testBothModes(givePage(`<html><head>${head}</head><body>${body}</body></html>`), "all of them work", async ({ page }) => {
+testEverywhere(givePage(`<html><head>${head}</head><body>${body}</body></html>`), "all of them work", async ({ page }) => {
     const seen = await watch(page, look, (values) =>
         Object.keys(values[0]).every((key) => new Set(values.map((value) => value[key])).size > 2));
     assert.ok(seen.every(({ typed }) => "Slide Text. It is an example".startsWith(typed)));

@@ -1,6 +1,6 @@
 // Calender, drawn where the page's text calls for it, and Cool Calender, the boxes of the page's form.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, styleOf, testBothModes } from "./harness.mjs";
+import { at, givePage, pageText, styleOf, testEverywhere } from "./harness.mjs";
 
 const MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
     "November", "December"];
@@ -20,7 +20,7 @@ const cellsOf = (nCells, [, , nDays, nFirst]) =>
 const rgb = (digits) => `rgb(${digits.match(/../g).map((part) => parseInt(part, 16)).join(", ")})`;
 const texts = (locator) => locator.evaluateAll((all) => all.map((element) => element.value ?? element.textContent));
 
-testBothModes("calander_plain", "draws this month as a table, today marked, and goes on at midnight", async ({ page }) => {
+testEverywhere("calander_plain", "draws this month as a table, today marked, and goes on at midnight", async ({ page }) => {
     assert.equal(await page.getByText("Hello!").isVisible(), true);
     const table = page.getByRole("table", { name: "February 2024" });
     assert.deepEqual(await texts(table.locator("td")), cellsOf(35, [2024, 1, 29, 4]));
@@ -38,7 +38,7 @@ testBothModes("calander_plain", "draws this month as a table, today marked, and 
     assert.deepEqual(await texts(today), ["1"]);
 }, { before: at("2024-02-29T23:59:59") });
 
-testBothModes("calander_plain", "draws every kind of month", async ({ page }) => {
+testEverywhere("calander_plain", "draws every kind of month", async ({ page }) => {
     for (const month of KNOWN_MONTHS) {
         const [year, nMonth, nDays, nFirst] = month;
         const drawn = await page.evaluate((now) => {
@@ -69,7 +69,7 @@ const show = (page, year, nMonth) =>
         FillCalendar();
     }, [year, MONTHS[nMonth]]);
 
-testBothModes("today_ca_plain", "fills its boxes with every kind of month, today's first", async ({ page }) => {
+testEverywhere("today_ca_plain", "fills its boxes with every kind of month, today's first", async ({ page }) => {
     assert.equal(await shown(page), "2024 February");
     assert.deepEqual(await formTexts(page, 43, 43), ["Hello Feb 29, 2024"]);
     const today = page.locator("[aria-current=date]");
@@ -83,7 +83,7 @@ testBothModes("today_ca_plain", "fills its boxes with every kind of month, today
     }
 }, { before: at("2024-02-29T12:00") });
 
-testBothModes("today_ca_plain", "moves by mouse and by keyboard, within sane years", async ({ page }) => {
+testEverywhere("today_ca_plain", "moves by mouse and by keyboard, within sane years", async ({ page }) => {
     for (const [year, nMonth, name, expected] of [
         [2026, 11, "Next month", "2027 January"], [2027, 0, "Previous month", "2026 December"],
         [2026, 11, "Next year", "2027 December"], [2027, 11, "Previous year", "2026 December"],
@@ -105,7 +105,7 @@ testBothModes("today_ca_plain", "moves by mouse and by keyboard, within sane yea
     }
 }, { before: at("2026-12-31T23:59") });
 
-testBothModes("today_ca_rich", "looks as the author chose and is told to those who don't see it", async ({ page }) => {
+testEverywhere("today_ca_rich", "looks as the author chose and is told to those who don't see it", async ({ page }) => {
     const text = await pageText("today_ca_rich");
     // Sizes stand in the text without a unit, the border in a style attribute without a property.
     const asked = [...text.matchAll(/<input [^>]*style="([^"]*)"/g)].map(([, style]) => [
@@ -128,7 +128,7 @@ testBothModes("today_ca_rich", "looks as the author chose and is told to those w
 
 const together = await Promise.all(["today_ca_plain", "calander_plain", "today_ca_rich"].map(pageText));
 const part = (tag) => together.map((text) => new RegExp(`<${tag}[^>]*>(.*)</${tag}>`, "is").exec(text)[1]).join("");
-testBothModes(givePage(`<html><head>${part("head")}</head><body>${part("body")}</body></html>`), "each calendar moves alone",
+testEverywhere(givePage(`<html><head>${part("head")}</head><body>${part("body")}</body></html>`), "each calendar moves alone",
     async ({ page }) => {
         await button(page, "Next month").first().click();
         await button(page, "Previous year").last().click();

@@ -1,5 +1,5 @@
 import assert from "node:assert/strict";
-import { givePage, styleOf, testBothModes } from "./harness.mjs";
+import { givePage, styleOf, testEverywhere } from "./harness.mjs";
 
 const include = '<script src="orrelix-compat.js"></script>';
 
@@ -18,7 +18,7 @@ const repairs = [
     ["color: #; font-size:px; border:0  #; font-family:; 1 none #ffffff; color: red", null],
 ];
 
-testBothModes(givePage(include), "what a browser would drop of a style is repaired, and nothing else", async ({ page }) => {
+testEverywhere(givePage(include), "what a browser would drop of a style is repaired, and nothing else", async ({ page }) => {
     for (const [given, wanted] of repairs) {
         const [once, twice] = await page.evaluate((text) => {
             const repaired = window.brndfn.css(text);
@@ -32,7 +32,7 @@ testBothModes(givePage(include), "what a browser would drop of a style is repair
 const markup = `${include}<p id="other" style="left:7">x</p><div id="own" style="width:70"><b style="color:32cd32">b</b>
     <style>#own i {border:3 solid #00ff00; } #own u {width:5px}</style><i>i</i></div>`;
 
-testBothModes(givePage(markup), "the repair keeps to the element it was asked for", async ({ page }) => {
+testEverywhere(givePage(markup), "the repair keeps to the element it was asked for", async ({ page }) => {
     await page.evaluate(() => window.brndfn.repair(document.getElementById("own")));
     const style = async (selector, name) => (await styleOf(page.locator(selector), name))[0];
     assert.equal(await style("#own", "width"), "70px");
@@ -44,7 +44,7 @@ testBothModes(givePage(markup), "the repair keeps to the element it was asked fo
 const collections = `${include}<a id="first" href="#1">1</a><a name="second" href="#2">2</a>
     <script>window.early = document.links("second").href.slice(-2)</script><area href="#3">`;
 
-testBothModes(givePage(collections), "document.all and document.links are as the old text expects", async ({ page }) => {
+testEverywhere(givePage(collections), "document.all and document.links are as the old text expects", async ({ page }) => {
     const seen = await page.evaluate(() => {
         document.body.append(Object.assign(document.createElement("a"), { href: "#4" }));
         return [
@@ -69,7 +69,7 @@ const handlers = `<script>window.calls = []; window.onload = () => calls.push("p
     window.onload = (event) => { old(event); calls.push("wrapper") };
     </script>`;
 
-testBothModes(givePage(handlers), "no load handler is lost, none runs twice", async ({ page, errors }) => {
+testEverywhere(givePage(handlers), "no load handler is lost, none runs twice", async ({ page, errors }) => {
     assert.deepEqual(await page.evaluate(() => window.calls), ["page", "body", "effect", "failing", "wrapper"]);
     const [complaint, ...others] = errors.splice(0);
     assert.match(complaint, /on purpose/);
@@ -84,7 +84,7 @@ const chained = `${include}<script>
     window.onload = note("second", window.onload);
     </script>`;
 
-testBothModes(givePage(chained), "a handler that is called again calls those before it, each once", async ({ page }) => {
+testEverywhere(givePage(chained), "a handler that is called again calls those before it, each once", async ({ page }) => {
     assert.deepEqual(await page.evaluate(() => window.calls.splice(0)), ["effect", "first", "second"]);
     await page.evaluate(() => window.onload());
     assert.deepEqual(await page.evaluate(() => window.calls), ["effect", "first", "second"]);

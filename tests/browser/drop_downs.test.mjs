@@ -1,6 +1,6 @@
 // Fade Select Box and Link Select Table: what both promise, then what one has for itself.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, testBothModes } from "./harness.mjs";
+import { givePage, pageText, styleOf, testEverywhere } from "./harness.mjs";
 
 const LINKS = [
     ["Home, sweet home", "http://www.vellumark.example/home?from=1,2"],
@@ -47,7 +47,7 @@ async function choose(page, nItem, nBox = 0) {
 }
 
 for (const effect of ["fade_select", "cool_link"]) {
-    testBothModes(`${effect}_rich`, "works by mouse", async ({ page }) => {
+    testEverywhere(`${effect}_rich`, "works by mouse", async ({ page }) => {
         await field(page).click();
         const places = () => rows(page).evaluateAll((all) => JSON.stringify(all.map((row) => row.getBoundingClientRect())));
         const [still, plain] = [await places(), await styleOf(rows(page).nth(2), ...ROW)];
@@ -67,7 +67,7 @@ for (const effect of ["fade_select", "cool_link"]) {
         }
     }, { before });
 
-    testBothModes(`${effect}_rich`, "works by keys, and is told to a screen reader", async ({ page }) => {
+    testEverywhere(`${effect}_rich`, "works by keys, and is told to a screen reader", async ({ page }) => {
         const name = await field(page).getAttribute("aria-label");
         assert.ok(name);
         // Where the list will open, so that it comes up under the resting pointer.
@@ -105,7 +105,7 @@ for (const effect of ["fade_select", "cool_link"]) {
         await closed(page);
     }, { before });
 
-    testBothModes(`${effect}_rich`, "the list stays in the window and moves nothing of the page", async ({ page }) => {
+    testEverywhere(`${effect}_rich`, "the list stays in the window and moves nothing of the page", async ({ page }) => {
         await page.locator("table").first().evaluate((table) => {
             // In a corner of the window, and within an element that cuts off what sticks out.
             table.parentElement.style.overflow = "hidden";
@@ -123,7 +123,7 @@ for (const effect of ["fade_select", "cool_link"]) {
 
 const together = ["fade_select_plain", "fade_select_rich", "cool_link_plain", "cool_link_rich"];
 const row = '<div style="height: 200px"></div>';
-testBothModes(givePage((await Promise.all(together.map(pageText))).join(row)), "boxes on a page keep apart",
+testEverywhere(givePage((await Promise.all(together.map(pageText))).join(row)), "boxes on a page keep apart",
     async ({ page }) => {
         await page.evaluate(() => {
             document.body.insertAdjacentHTML("beforeend", '<span class="myselect">mine</span>');
@@ -143,7 +143,7 @@ testBothModes(givePage((await Promise.all(together.map(pageText))).join(row)), "
         assert.equal((await field(page).first().innerText()).trim(), "Our Homepage");
     }, { before });
 
-testBothModes(givePage((await pageText("cool_link_rich")).replaceAll("museum", "")), "a box without a title works too",
+testEverywhere(givePage((await pageText("cool_link_rich")).replaceAll("museum", "")), "a box without a title works too",
     async ({ page }) => {
         assert.equal(await choose(page, 1), "Library");
         assert.deepEqual(await opened(page), LIBRARY);
@@ -162,7 +162,7 @@ async function assertFades(page, from, to) {
 }
 
 for (const reducedMotion of [false, true])
-    testBothModes("fade_select_rich", `the list fades in 20 steps, not with reduced motion (${reducedMotion})`,
+    testEverywhere("fade_select_rich", `the list fades in 20 steps, not with reduced motion (${reducedMotion})`,
         async ({ page }) => {
             await page.clock.pauseAt(Date.now() + 3_600_000);
             await field(page).click();
@@ -177,4 +177,4 @@ for (const reducedMotion of [false, true])
                 await page.clock.runFor(25);
             }
             assert.equal(await rows(page).count(), 0);
-        }, { clock: true, reducedMotion });
+        }, { clock: true, calm: reducedMotion });

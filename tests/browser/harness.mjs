@@ -1,8 +1,11 @@
-// What all browser tests share: a web server on loopback, one headless Chromium for each test file, and pages that
-// fail their test when anything is complained about in their console.
+// What all browser tests share: a web server on loopback, one headless Chromium and one headless Firefox for each test
+// file, and pages that fail their test when anything is complained about in their console.
 //
-//     import { testBothModes } from "./harness.mjs";
-//     testBothModes("cool_link_plain", "the list opens", async ({ page }) => { … });
+//     import { testEverywhere } from "./harness.mjs";
+//     testEverywhere("cool_link_plain", "the list opens", async ({ page }) => { … });
+//
+// The Firefox is any that speaks WebDriver BiDi, such as the system's. Of the library's versions the last that asks
+// nothing of it that it doesn't know is 1.64. What that can't ask for yet is made here: tap() and setCalm().
 //
 // The pages are what the program makes: ORRELIX_PAGES names their folder. "/standards/NAME.html" is the page with
 // "<!DOCTYPE html>" in front, "/quirks/NAME.html" the same page without.
@@ -11,7 +14,7 @@ import assert from "node:assert/strict";
 import { createServer } from "node:http";
 import { readFile } from "node:fs/promises";
 import path from "node:path";
-import { chromium } from "playwright-core";
+import { chromium, firefox } from "playwright-core";
 
 const CONTENT_TYPES = { ".gif": "image/gif", ".html": "text/html", ".js": "text/javascript" };
 
@@ -40,29 +43,37 @@ async function answer(request, response) {
     response.end(type === "text/html" ? inMode(bytes, mode) : bytes);
 }
 
-// The server and the browser start with the first page of a test file and end with its last test.
-let started;
+const BROWSERS = {
+    chromium: () => chromium.launch({
+        executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
+        args: ["--no-sandbox", "--disable-gpu"],
+    }),
+    firefox: () => firefox.launch({
+        channel: "moz-firefox",
+        executablePath: process.env.FIREFOX ?? "/usr/bin/firefox-esr",
+        firefoxUserPrefs: { "dom.w3c_touch_events.enabled": 1 },
+    }),
+};
 
-async function start() {
+// The server and the browsers start with the first page that needs them and end with the file's last test.
+const started = {};
+const onlyOnce = (name, start) => (started[name] ??= start());
+
+async function startServer() {
     const server = createServer((request, response) => {
         answer(request, response).catch((error) => response.writeHead(500).end(String(error)));
     });
     await new Promise((listening) => server.listen(0, "127.0.0.1", listening));
-    const browser = await chromium.launch({
-        executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
-        args: ["--no-sandbox", "--disable-gpu"],
-    });
-    return { server, browser, origin: `http://127.0.0.1:${server.address().port}` };
+    return {
+        origin: `http://127.0.0.1:${server.address().port}`,
+        close() {
+            server.closeAllConnections();
+            server.close();
+        },
+    };
 }
 
-after(async () => {
-    if (!started)
-        return;
-    const { server, browser } = await started;
-    await browser.close();
-    server.closeAllConnections();
-    server.close();
-});
+after(() => Promise.all(Object.values(started).map(async (running) => (await running).close())));
 
 // Serves the text of a page of a test's own beside the folder's pages; gives its name for openEffect.
 export function givePage(text, name = `given_${++nGivenPages}`) {
@@ -77,23 +88,68 @@ export async function pageText(name) {
     return bytes.toString("utf8");
 }
 
+// For the option "calm" in Firefox, which can be told of reduced motion for all its pages only: the media query's
+// answer, changed by setCalm.
+const answerCalm = (bCalm) => {
+    const native = window.matchMedia;
+    const answers = [];
+    window.setCalm = (bMatches) => {
+        for (const answer of answers) {
+            answer.matches = bMatches;
+            answer.dispatchEvent(Object.assign(new Event("change"), { matches: bMatches }));
+        }
+    };
+    window.matchMedia = (query) => {
+        if (!/prefers-reduced-motion:\s*reduce/.test(query))
+            return native.call(window, query);
+        answers.push(Object.assign(new EventTarget(), { matches: bCalm, media: query }));
+        return answers.at(-1);
+    };
+};
+
+// The visitor asks for reduced motion, or no longer.
+export async function setCalm(page, bCalm) {
+    if (isFirefox(page))
+        await page.evaluate((calm) => window.setCalm(calm), bCalm);
+    else
+        await page.emulateMedia({ reducedMotion: bCalm ? "reduce" : "no-preference" });
+}
+
+const isFirefox = (page) => page.context().browser().browserType().name() === "firefox";
+
+// A finger's touch in the middle of what the locator finds, or at a place {x, y} of the page's window.
+export async function tap(page, where) {
+    if (!isFirefox(page) && where.tap)
+        return where.tap();
+    await where.scrollIntoViewIfNeeded?.();
+    const box = where.boundingBox ? await where.boundingBox() : { ...where, width: 0, height: 0 };
+    const [x, y] = [Math.round(box.x + box.width / 2), Math.round(box.y + box.height / 2)];
+    if (!isFirefox(page))
+        return page.touchscreen.tap(x, y);
+    const session = page._connection.toImpl(page).delegate._session;
+    const actions = [{ type: "pointerMove", x, y }, { type: "pointerDown", button: 0 }, { type: "pointerUp", button: 0 }];
+    return session.send("input.performActions", {
+        context: session.sessionId,
+        actions: [{ type: "pointer", id: "finger", parameters: { pointerType: "touch" }, actions }],
+    });
+}
+
 // Opens NAME.html in a browser context of its own.
 //   mode           "standards" or "quirks"
-//   reducedMotion  the visitor asks for reduced motion
+//   calm           the visitor asks for reduced motion
 //   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
 //   clock          true: the page's time stands still until the test moves it with page.clock
+//   context        more for the browser context, such as { viewport: { width: 360, height: 640 } }
 // Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
 // so far, and a test that provokes one on purpose empties it.
-async function openEffect(
-    name,
-    { mode = "standards", reducedMotion = false, before, clock = false } = {},
-) {
-    started ??= start();
-    const { browser, origin } = await started;
+async function openEffect(name, { browser, mode, calm = false, before, clock = false, context: given }) {
+    const { origin } = await onlyOnce("server", startServer);
     const url = `${origin}/${mode}/${name}.html`;
-    const context = await browser.newContext({
-        reducedMotion: reducedMotion ? "reduce" : "no-preference",
+    const context = await (await onlyOnce(browser, BROWSERS[browser])).newContext({
+        reducedMotion: calm ? "reduce" : "no-preference",
         viewport: { width: 1000, height: 700 },
+        hasTouch: true,
+        ...given,
     });
     const page = await context.newPage();
     const errors = [];
@@ -104,9 +160,11 @@ async function openEffect(
     page.on("pageerror", (error) => errors.push(error.stack || String(error)));
     if (clock)
         await page.clock.install();
+    if (isFirefox(page))
+        await page.addInitScript(answerCalm, calm);
     if (before)
         await page.addInitScript(before);
-    await page.goto(url);
+    assert.ok((await page.goto(url)).ok(), `no ${url}`);
     return {
         page,
         errors,
@@ -117,13 +175,13 @@ async function openEffect(
     };
 }
 
-// One test for each mode, both at once: opens NAME.html, runs body({page, errors, mode}), closes the page. Options as
-// for openEffect.
-export function testBothModes(name, title, body, options = {}) {
-    const run = async (mode) => {
-        const effect = await openEffect(name, { ...options, mode });
+// A test for each browser and mode: opens NAME.html, runs body({page, errors, mode, browser}), closes the page. Options
+// as for openEffect. All run at once, but one after the other in Firefox, where one window only has the focus.
+export function testEverywhere(name, title, body, options = {}) {
+    const run = async (where) => {
+        const effect = await openEffect(name, { ...options, ...where });
         try {
-            await body({ ...effect, mode });
+            await body({ ...effect, ...where });
         } catch (failure) {
             await effect.close().catch((complaint) => { failure.message += `\n${complaint.message}`; });
             throw failure;
@@ -131,8 +189,11 @@ export function testBothModes(name, title, body, options = {}) {
         await effect.close();
     };
     describe(`${name}: ${title}`, { concurrency: true }, () => {
-        for (const mode of ["standards", "quirks"])
-            test(mode, { timeout: 60_000 }, () => run(mode));
+        for (const browser of Object.keys(BROWSERS))
+            describe(browser, { concurrency: browser === "chromium" }, () => {
+                for (const mode of ["standards", "quirks"])
+                    test(mode, { timeout: 60_000 }, () => run({ browser, mode }));
+            });
     });
 }
 
@@ -164,9 +225,11 @@ export async function watch(page, read, done, { milliseconds = 10_000, argument 
     assert.fail(`not seen within ${milliseconds} ms; seen: ${JSON.stringify(values.slice(-20))}`);
 }
 
-// The properties of an element's style, as the browser shows them.
-export function styleOf(locator, ...names) {
-    return locator.evaluate((element, list) => list.map((name) => getComputedStyle(element)[name]), names);
+// The properties of an element's style, as the browser shows them; font names without their quotes, which one browser
+// writes where the other doesn't.
+export async function styleOf(locator, ...names) {
+    const values = await locator.evaluate((element, list) => list.map((name) => getComputedStyle(element)[name]), names);
+    return values.map((value, i) => (names[i] === "fontFamily" ? value.replaceAll('"', "") : value));
 }
 
 // For the option "before": new Date() and Date.now() give the local time that window.testNow holds, at first the

@@ -1,7 +1,7 @@
 // Animate Text, Slide Text, Color Link, Scroll Text and the clock of Calender: what moves by itself moves, rests when
 // a visitor asks for it and goes on. What Scroll Text and the calendars do besides is tested with them.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, setHidden, styleOf, testBothModes, watch } from "./harness.mjs";
+import { at, givePage, pageText, setHidden, styleOf, testEverywhere, watch } from "./harness.mjs";
 
 const animated = await pageText("animate_text_plain");
 const slid = await pageText("text_show_plain");
@@ -66,7 +66,7 @@ for (const { name, look, rests, time = 500, calm = /./, calmOptions } of moving)
         assert.equal(await page.evaluate(look), before, why);
         return String(before);
     };
-    testBothModes(name, "moves, rests when asked to, goes on and ends when it leaves the page", async ({ page }) => {
+    testEverywhere(name, "moves, rests when asked to, goes on and ends when it leaves the page", async ({ page }) => {
         await moves(page);
         for (const [why, hold, release] of rests) {
             await hold(page);
@@ -81,14 +81,14 @@ for (const { name, look, rests, time = 500, calm = /./, calmOptions } of moving)
         await page.waitForTimeout(1100);
         assert.equal(await page.evaluate(() => window.nTicks), nTicks);
     }, { before: countTicks });
-    testBothModes(name, "stands for a visitor who wants calm", async ({ page }) =>
-        assert.match(await stands(page), calm), { reducedMotion: true, ...calmOptions });
+    testEverywhere(name, "stands for a visitor who wants calm", async ({ page }) =>
+        assert.match(await stands(page), calm), { calm: true, ...calmOptions });
 }
 
 const ANIMATED = ["Harvest festival, Saturday 14th\nin the old mill", "New: walks along the river, with a map",
     "All the news, week by week"];
 const brief = givePage((await pageText("animate_text_rich")).replace(/layinterval=\d+/, "layinterval=10"), "animate_text_brief");
-testBothModes(brief, "texts rise to their colour, in turn and again", async ({ page }) => {
+testEverywhere(brief, "texts rise to their colour, in turn and again", async ({ page }) => {
     const look = () => {
         const text = document.getElementById("brndfntextanim");
         const top = text.getBoundingClientRect().top - text.parentElement.getBoundingClientRect().top;
@@ -105,15 +105,15 @@ testBothModes(brief, "texts rise to their colour, in turn and again", async ({ p
 });
 
 const typed = () => document.getElementById("typing").innerText;
-testBothModes("text_show_rich", "the text is typed character by character, in the author's styles", async ({ page }) => {
+testEverywhere("text_show_rich", "the text is typed character by character, in the author's styles", async ({ page }) => {
     const text = "Fresh bread at eight, cake at three.\nThe shop is open until six.";
     const seen = await watch(page, typed, (texts) => texts.at(-1) === text);
     assert.ok(seen.length > 10 && seen.every((part) => text.startsWith(part.trimEnd())), JSON.stringify(seen));
     assert.deepEqual(await styleOf(page.locator("#typing"), "color", "fontFamily", "fontSize"),
-        ["rgb(122, 31, 31)", 'Georgia, "Times New Roman", serif', "22px"]);
+        ["rgb(122, 31, 31)", "Georgia, Times New Roman, serif", "22px"]);
 });
 
-testBothModes("text_show_slow", "a click or Escape shows the whole text, which screen readers have from the start",
+testEverywhere("text_show_slow", "a click or Escape shows the whole text, which screen readers have from the start",
     async ({ page }) => {
         for (const finish of [() => page.click("td:has(#typing)"), () => page.keyboard.press("Escape")]) {
             await page.reload();
@@ -126,7 +126,7 @@ testBothModes("text_show_slow", "a click or Escape shows the whole text, which s
     });
 
 const [, plainLink] = /<body>(.*)<\/body>/s.exec(await pageText("dance_text_plain"));
-testBothModes(givePage((await pageText("dance_text_rich")).replace("</body>", `${plainLink}</body>`)),
+testEverywhere(givePage((await pageText("dance_text_rich")).replace("</body>", `${plainLink}</body>`)),
     "links of different titles walk through their own colours in order", async ({ page }) => {
         const colors = ["rgb(122, 31, 31)", "rgb(184, 134, 11)", "rgb(47, 79, 47)", "rgb(72, 61, 139)",
             "rgb(0, 139, 139)", "rgb(139, 0, 139)"];

@@ -4,7 +4,7 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import path from "node:path";
-import { testBothModes } from "./harness.mjs";
+import { testEverywhere } from "./harness.mjs";
 
 const root = path.resolve(import.meta.dirname, "../..");
 const sites = path.join(process.env.ORRELIX_PAGES, "published");
@@ -28,7 +28,7 @@ rmSync(sites, { recursive: true, force: true });
 const examples = readdirSync(path.join(root, "examples")).filter((name) => name.endsWith(".cfg"));
 assert.ok(examples.length > 0);
 for (const example of examples) {
-    testBothModes(publish(example), "loads and shows its effect", async ({ page }) => {
+    testEverywhere(publish(example), "loads and shows its effect", async ({ page }) => {
         const height = await page.evaluate(() => {
             const effect = document.createRange();
             effect.setStartAfter(document.getElementById("before"));

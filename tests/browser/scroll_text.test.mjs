@@ -1,6 +1,6 @@
 // Scroll Text: what passes through the box, in real time.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, testBothModes, watch } from "./harness.mjs";
+import { givePage, pageText, styleOf, testEverywhere, watch } from "./harness.mjs";
 
 const PLAIN = await pageText("scroll_text_plain");
 const TEXTS = [...PLAIN.matchAll(/className ='brnclick'\\">(.*)<\/a>/g)].map((match) => match[1]);
@@ -25,7 +25,7 @@ const inBoxes = () =>
             .map(({ text, edges }) => ({ text, top: edges.top - top }));
     });
 
-testBothModes("scroll_text_plain", "stands in its box in the author's styles", async ({ page }) => {
+testEverywhere("scroll_text_plain", "stands in its box in the author's styles", async ({ page }) => {
     assert.deepEqual(await styleOf(page.locator("#brndfnscrollmain2"), "width", "height", "overflow"), ["300px", "100px", "hidden"]);
     const link = page.locator("#first2 a");
     await page.keyboard.press("Tab");
@@ -65,12 +65,12 @@ for (const [what, texts, done] of [
         follows(frames, ([box]) => box.some(({ top }) => top < -180), ([box]) => box.at(-1)?.text === "Next")],
     ["without a text the box is empty", [], (frames) => frames.length > 10 && frames.every(([box]) => box.length === 0)],
 ])
-    testBothModes(givePage(quick(texts)), what, async ({ page }) => {
+    testEverywhere(givePage(quick(texts)), what, async ({ page }) => {
         for (const [box] of await everyFrame(page, done))
             assert.ok(box.length < 2 || (box.length === 2 && box[0].text !== box[1].text), JSON.stringify(box));
     });
 
-testBothModes(givePage(quick(undefined, PLAIN.replace(/<body>([^]*)<\/body>/,
+testEverywhere(givePage(quick(undefined, PLAIN.replace(/<body>([^]*)<\/body>/,
     (_, box) => `<body>${box}${quick(["Other", "Another"], box)}</body>`))),
 "two boxes keep their own texts, and the focused one is in its box", async ({ page }) => {
     await watch(page, inBoxes, (values) => values.at(-1)[1].some(({ text }) => text === "Another"));
@@ -81,8 +81,8 @@ testBothModes(givePage(quick(undefined, PLAIN.replace(/<body>([^]*)<\/body>/,
     }
 });
 
-testBothModes(givePage(quick([...TEXTS, ...TEXTS, "Last"])), "with reduced motion it is a list to scroll by hand",
+testEverywhere(givePage(quick([...TEXTS, ...TEXTS, "Last"])), "with reduced motion it is a list to scroll by hand",
     async ({ page }) => {
         await page.locator("#brndfnscrollmain2").evaluate((box) => (box.scrollTop = 9999));
         assert.equal((await page.evaluate(inBoxes))[0].at(-1).text, "Last");
-    }, { reducedMotion: true });
+    }, { calm: true });

@@ -1,6 +1,6 @@
 // ToolTip: when and where the tip shows, in real time.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, testBothModes, watch } from "./harness.mjs";
+import { givePage, pageText, styleOf, testEverywhere, watch } from "./harness.mjs";
 
 const PLAIN = await pageText("tool_tip_plain");
 const TITLE = /id="([^"]*)" tooltip=/.exec(PLAIN)[1];
@@ -27,7 +27,7 @@ async function until(page, n) {
     return Date.now() - start;
 }
 
-testBothModes("tool_tip_plain", "shows after its delay at the pointer, in the author's style", async ({ page }) => {
+testEverywhere("tool_tip_plain", "shows after its delay at the pointer, in the author's style", async ({ page }) => {
     const { x, y } = await element(page).boundingBox();
     const start = Date.now(); // before the move: on a busy machine it takes its time
     await page.mouse.move(x + 10, y + 8);
@@ -42,7 +42,7 @@ testBothModes("tool_tip_plain", "shows after its delay at the pointer, in the au
     await until(page, 0);
 });
 
-testBothModes(quick({ show: 2500 }), "goes after its time, and shows again only after the pointer has left",
+testEverywhere(quick({ show: 2500 }), "goes after its time, and shows again only after the pointer has left",
     async ({ page }) => {
         await element(page).hover();
         await until(page, 1);
@@ -55,7 +55,7 @@ testBothModes(quick({ show: 2500 }), "goes after its time, and shows again only 
         await until(page, 1);
     });
 
-testBothModes(quick(), "goes when left and on Escape, stays while the pointer is on it", async ({ page }) => {
+testEverywhere(quick(), "goes when left and on Escape, stays while the pointer is on it", async ({ page }) => {
     await element(page).hover();
     await until(page, 1);
     await shown(page).hover();
@@ -72,7 +72,7 @@ testBothModes(quick(), "goes when left and on Escape, stays while the pointer is
 
 // Elements of a tag that takes no focus by itself, the second in the window's corner.
 const inSpan = (effect) => effect.replace(/<a href="[^"]*" /, "<span").replace(/<\/a>$/, "</span>");
-testBothModes(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show beside their elements on keyboard focus, in the window",
+testEverywhere(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show beside their elements on keyboard focus, in the window",
     async ({ page }) => {
         await element(page, "Two").evaluate((span) => (span.style.cssText = "position:fixed; right:2px; bottom:2px"));
         for (const title of ["one", "Two"]) {
@@ -87,7 +87,7 @@ testBothModes(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show 
         }
     });
 
-testBothModes(quick(), "with reduced motion the text stands and is readable whole", async ({ page }) => {
+testEverywhere(quick(), "with reduced motion the text stands and is readable whole", async ({ page }) => {
     await element(page).hover();
     await until(page, 1);
     const left = await page.evaluate(strip);
@@ -95,4 +95,4 @@ testBothModes(quick(), "with reduced motion the text stands and is readable whol
     assert.equal(await page.evaluate(strip), left);
     const [tip, text] = [await shown(page).boundingBox(), await shown(page).locator("span span").boundingBox()];
     assert.ok(text.x >= tip.x && text.x + text.width <= tip.x + tip.width && text.height <= tip.height);
-}, { reducedMotion: true });
+}, { calm: true });
