@@ -6,21 +6,21 @@ namespace orrelix {
 
 using Id = BorderId;
 
-CBorderPropertiesDlg::CBorderPropertiesDlg() : CDialogWithColours(BorderDescription()) {
+CBorderPropertiesDlg::CBorderPropertiesDlg() : CFieldDialog(BorderDescription()) {
+    AddFields({{Id::Style, m_BorderStyle}, {Id::Width, m_BorderWidth}});
     AddColour(Id::Color, m_BorderColor, "CALANDER");
 }
 
-void CBorderPropertiesDlg::DoDataExchange(CDataExchange& exchange) {
-    exchange.Text(Id::Style, m_BorderStyle);
-    exchange.Text(Id::Color, m_BorderColor);
-    exchange.Text(Id::Width, m_BorderWidth);
-}
-
-// The box of an empty colour stays empty, and so does the colour unless the person gives one.
-void CBorderPropertiesDlg::OnInitDialog() {
-    UpdateData(false);
-    SetSpin(Id::Width, m_BorderWidth);
-    SetUpPickers();
+void EditBorder(const CBorderFields& border) {
+    CBorderPropertiesDlg dialog;
+    dialog.m_BorderWidth = border.m_Width;
+    dialog.m_BorderStyle = border.m_Style;
+    dialog.m_BorderColor = border.m_Color;
+    if (dialog.DoModal() != IDOK)
+        return;
+    border.m_Width = dialog.m_BorderWidth;
+    border.m_Style = dialog.m_BorderStyle;
+    border.m_Color = dialog.m_BorderColor;
 }
 
 } // namespace orrelix

@@ -2,11 +2,11 @@
 // reads them back if it ended in IDOK.
 #pragma once
 
-#include "controls/dialog_with_colours.h"
+#include "controls/field_dialog.h"
 
 namespace orrelix {
 
-class CBorderPropertiesDlg : public CDialogWithColours {
+class CBorderPropertiesDlg : public CFieldDialog {
 public:
     CBorderPropertiesDlg();
 
@@ -15,8 +15,17 @@ public:
     CString m_BorderWidth; // decimal
 
 protected:
-    void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
+    void OnInitDialog() override { ShowNumbersLast(); }
 };
+
+// The three parts of a border, which lie in an effect or in a dialog's copy of it.
+struct CBorderFields {
+    CString& m_Width;
+    CString& m_Style;
+    CString& m_Color;
+};
+
+// Runs the dialog on these texts, which change only if it ends in IDOK.
+void EditBorder(const CBorderFields& border);
 
 } // namespace orrelix

@@ -8,24 +8,19 @@ namespace orrelix {
 
 using Id = FontId;
 
-CFontDlg::CFontDlg(const CDialogDescription& description) : CDialog(description) {
+CFontDlg::CFontDlg(const CDialogDescription& description) : CFieldDialog(description) {
+    AddFields({{Id::Weight, m_FontWeight},
+               {Id::Face, m_FontFace},
+               {Id::Size, m_FontSize},
+               {Id::Style, m_FontStyle}});
     SetHandlers<CFontDlg>({{Id::Families, Notification::DoubleClicked, &CFontDlg::OnFamilyDoubleClicked}});
 }
 
-void CFontDlg::DoDataExchange(CDataExchange& exchange) {
-    exchange.Text(Id::Weight, m_FontWeight);
-    exchange.Text(Id::Face, m_FontFace);
-    exchange.Text(Id::Size, m_FontSize);
-    exchange.Text(Id::Style, m_FontStyle);
-}
-
-// The fields go to the controls last, so that a size that is no plain number stays as it is.
 void CFontDlg::OnInitDialog() {
     CListBox& families = Item<CListBox>(Id::Families);
     for (const CString& family : GetDesktop().GetFontFamilies())
         families.AddString(family);
-    SetSpin(Id::Size, m_FontSize);
-    UpdateData(false);
+    ShowTextsLast();
 }
 
 void CFontDlg::OnFamilyDoubleClicked() {
@@ -36,27 +31,35 @@ void CFontDlg::OnFamilyDoubleClicked() {
     UpdateData(false);
 }
 
+bool CFontDlg::Edit(const CFontFields& font) {
+    m_FontFace = font.m_Face;
+    m_FontSize = font.m_Size;
+    m_FontWeight = font.m_Weight;
+    m_FontStyle = font.m_Style;
+    if (DoModal() != IDOK)
+        return false;
+    font.m_Face = m_FontFace;
+    font.m_Size = m_FontSize;
+    font.m_Weight = m_FontWeight;
+    font.m_Style = m_FontStyle;
+    return true;
+}
+
 CFontPropertiesDlg::CFontPropertiesDlg() : CFontDlg(FontPropertiesDescription()) {}
 
 void EditFont(const CFontFields& font) {
-    CFontPropertiesDlg dialog;
-    dialog.m_FontFace = font.m_Face;
-    dialog.m_FontSize = font.m_Size;
-    dialog.m_FontWeight = font.m_Weight;
-    dialog.m_FontStyle = font.m_Style;
-    if (dialog.DoModal() != IDOK)
-        return;
-    font.m_Face = dialog.m_FontFace;
-    font.m_Size = dialog.m_FontSize;
-    font.m_Weight = dialog.m_FontWeight;
-    font.m_Style = dialog.m_FontStyle;
+    CFontPropertiesDlg().Edit(font);
 }
 
-CCalanderFontDlg::CCalanderFontDlg() : CFontDlg(CalanderFontDescription()) {}
+CCalanderFontDlg::CCalanderFontDlg() : CFontDlg(CalanderFontDescription()) {
+    AddFields({{Id::Align, m_TextAlign}});
+}
 
-void CCalanderFontDlg::DoDataExchange(CDataExchange& exchange) {
-    CFontDlg::DoDataExchange(exchange);
-    exchange.Text(Id::Align, m_TextAlign);
+void EditCalanderFont(const CFontFields& font, CString& align) {
+    CCalanderFontDlg dialog;
+    dialog.m_TextAlign = align;
+    if (dialog.Edit(font))
+        align = dialog.m_TextAlign;
 }
 
 } // namespace orrelix

@@ -2,24 +2,34 @@
 // ended in IDOK.
 #pragma once
 
-#include "toolkit/dialog.h"
+#include "controls/field_dialog.h"
 
 namespace orrelix {
 
+// The four texts of a font, which lie in an effect or in a dialog's copy of it.
+struct CFontFields {
+    CString& m_Face;
+    CString& m_Size;
+    CString& m_Weight;
+    CString& m_Style;
+};
+
 // What the two have in common: the list of the system's font families, of which a double click puts one into
 // the box of font faces, so that the box grows into a CSS family list.
-class CFontDlg : public CDialog {
+class CFontDlg : public CFieldDialog {
 public:
     CString m_FontWeight;
     CString m_FontFace;
     CString m_FontSize;
     CString m_FontStyle;
 
+    // Runs the dialog on these texts, which change only if it ends in IDOK: then true.
+    bool Edit(const CFontFields& font);
+
 protected:
     explicit CFontDlg(const CDialogDescription& description);
 
     void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
 
 private:
     void OnFamilyDoubleClicked();
@@ -28,14 +38,6 @@ private:
 class CFontPropertiesDlg : public CFontDlg {
 public:
     CFontPropertiesDlg();
-};
-
-// The four texts of a font, which lie in an effect or in a dialog's copy of it.
-struct CFontFields {
-    CString& m_Face;
-    CString& m_Size;
-    CString& m_Weight;
-    CString& m_Style;
 };
 
 // Runs CFontPropertiesDlg on these texts, which change only if it ends in IDOK.
@@ -47,9 +49,9 @@ public:
     CCalanderFontDlg();
 
     CString m_TextAlign;
-
-protected:
-    void DoDataExchange(CDataExchange& exchange) override;
 };
+
+// Runs CCalanderFontDlg in the same way.
+void EditCalanderFont(const CFontFields& font, CString& align);
 
 } // namespace orrelix

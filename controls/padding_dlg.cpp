@@ -6,21 +6,25 @@ namespace orrelix {
 
 using Id = PaddingId;
 
-CPaddingDlg::CPaddingDlg() : CDialog(PaddingDescription()) {}
-
-void CPaddingDlg::DoDataExchange(CDataExchange& exchange) {
-    exchange.Text(Id::Bottom, m_PaddingBottom);
-    exchange.Text(Id::Left, m_PaddingLeft);
-    exchange.Text(Id::Right, m_PaddingRight);
-    exchange.Text(Id::Top, m_PaddingTop);
+CPaddingDlg::CPaddingDlg() : CFieldDialog(PaddingDescription()) {
+    AddFields({{Id::Bottom, m_PaddingBottom},
+               {Id::Left, m_PaddingLeft},
+               {Id::Right, m_PaddingRight},
+               {Id::Top, m_PaddingTop}});
 }
 
-void CPaddingDlg::OnInitDialog() {
-    UpdateData(false);
-    SetSpin(Id::Left, m_PaddingLeft);
-    SetSpin(Id::Right, m_PaddingRight);
-    SetSpin(Id::Top, m_PaddingTop);
-    SetSpin(Id::Bottom, m_PaddingBottom);
+void EditPadding(const CPaddingFields& padding) {
+    CPaddingDlg dialog;
+    dialog.m_PaddingBottom = padding.m_Bottom;
+    dialog.m_PaddingLeft = padding.m_Left;
+    dialog.m_PaddingRight = padding.m_Right;
+    dialog.m_PaddingTop = padding.m_Top;
+    if (dialog.DoModal() != IDOK)
+        return;
+    padding.m_Bottom = dialog.m_PaddingBottom;
+    padding.m_Left = dialog.m_PaddingLeft;
+    padding.m_Right = dialog.m_PaddingRight;
+    padding.m_Top = dialog.m_PaddingTop;
 }
 
 } // namespace orrelix

@@ -2,11 +2,11 @@
 // back if it ended in IDOK.
 #pragma once
 
-#include "toolkit/dialog.h"
+#include "controls/field_dialog.h"
 
 namespace orrelix {
 
-class CPaddingDlg : public CDialog {
+class CPaddingDlg : public CFieldDialog {
 public:
     CPaddingDlg();
 
@@ -18,8 +18,18 @@ public:
     CString m_PaddingTop;
 
 protected:
-    void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
+    void OnInitDialog() override { ShowNumbersLast(); }
 };
+
+// The four paddings, which lie in an effect or in a dialog's copy of it.
+struct CPaddingFields {
+    CString& m_Bottom;
+    CString& m_Left;
+    CString& m_Right;
+    CString& m_Top;
+};
+
+// Runs the dialog on these texts, which change only if it ends in IDOK.
+void EditPadding(const CPaddingFields& padding);
 
 } // namespace orrelix

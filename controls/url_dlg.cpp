@@ -49,13 +49,9 @@ CString PrefixOf(const CString& type) {
 
 } // namespace
 
-CUrlDlg::CUrlDlg() : CDialog(UrlDescription()) {
+CUrlDlg::CUrlDlg() : CFieldDialog(UrlDescription()) {
+    AddFields({{Id::Type, m_Type}, {Id::Url, m_Url}});
     SetHandlers<CUrlDlg>({{Id::Type, Notification::ListClosed, &CUrlDlg::OnTypeListClosed}});
-}
-
-void CUrlDlg::DoDataExchange(CDataExchange& exchange) {
-    exchange.Text(Id::Type, m_Type);
-    exchange.Text(Id::Url, m_Url);
 }
 
 void CUrlDlg::OnInitDialog() {
@@ -73,6 +69,13 @@ void CUrlDlg::OnTypeListClosed() {
         m_Url = m_Url.Mid(m_LastType.GetLength() + (HasSlashes(m_LastType) ? 2 : 0));
     m_Url = PrefixOf(m_Type) + m_Url;
     UpdateData(false);
+}
+
+void EditUrl(CString& url) {
+    CUrlDlg dialog;
+    dialog.m_Url = url;
+    if (dialog.DoModal() == IDOK)
+        url = dialog.m_Url;
 }
 
 } // namespace orrelix

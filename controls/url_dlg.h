@@ -1,11 +1,11 @@
 // CUrlDlg: asks for an address. Picking another kind of address swaps the prefix in front of it.
 #pragma once
 
-#include "toolkit/dialog.h"
+#include "controls/field_dialog.h"
 
 namespace orrelix {
 
-class CUrlDlg : public CDialog {
+class CUrlDlg : public CFieldDialog {
 public:
     CUrlDlg();
 
@@ -14,12 +14,14 @@ public:
 
 protected:
     void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
 
 private:
     void OnTypeListClosed();
 
     CString m_LastType; // the kind before the latest change
 };
+
+// Runs the dialog on this address, which changes only if it ends in IDOK.
+void EditUrl(CString& url);
 
 } // namespace orrelix

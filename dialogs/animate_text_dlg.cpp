@@ -1,11 +1,9 @@
 #include "dialogs/animate_text_dlg.h"
 
 #include "controls/font_dlg.h"
-#include "controls/remote_directory.h"
 #include "resources/animate_text_description.h"
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
-#include "toolkit/slider_ctrl.h"
 
 namespace orrelix {
 
@@ -16,25 +14,30 @@ using Id = AnimateTextId;
 constexpr char kNoRow[] = "Please Select a words in the Listbox";
 constexpr char kNoText[] = "Please input a words into the inputbox";
 
-void ReplaceRow(CListBox& list, int nRow, const CString& text) {
-    list.DeleteString(nRow);
-    list.InsertString(nRow, text);
-    list.SetCurSel(nRow);
-}
-
-void MoveRow(CListBox& list, int nFrom, int nTo) {
-    const CString text = list.GetText(nFrom);
-    list.DeleteString(nFrom);
-    list.InsertString(nTo, text);
-    list.SetCurSel(nTo);
-}
-
 } // namespace
 
-CAnimateTextDlg::CAnimateTextDlg() : CDialogWithColours(AnimateTextDescription()) {
+CAnimateTextDlg::CAnimateTextDlg() : CGadgetDialog(AnimateTextDescription()) {
+    AddFields({
+        {Id::EditText, m_EditText},
+        {Id::Top, m_Copy.m_Top},
+        {Id::Left, m_Copy.m_Left},
+        {Id::Height, m_Copy.m_Height},
+        {Id::Width, m_Copy.m_Width},
+        {Id::ScrollSize, m_Copy.m_ScrollSize},
+        {Id::ScrollStart, m_Copy.m_ScrollStart},
+    });
+    AddSlider(Id::PopUpInterval, m_Copy.m_PopUpInterval);
+    AddSlider(Id::CirculateInterval, m_Copy.m_CirculateInterval);
     AddColour(Id::FadeColor, m_Copy.m_FadeColor, "ANIBK");
     AddColour(Id::TextColor, m_Copy.m_TextColor, "ANIFont");
     AddColour(Id::BackColor, m_Copy.m_BackColor, "ANIFont");
+    AddRemoteDirectory(Id::ScriptPath, m_Copy.m_ScriptPath);
+    OnClick(Id::Font, [this] {
+        EditFont({.m_Face = m_Copy.m_FontFamily,
+                  .m_Size = m_Copy.m_FontSize,
+                  .m_Weight = m_Copy.m_FontWeight,
+                  .m_Style = m_Copy.m_FontStyle});
+    });
     SetHandlers<CAnimateTextDlg>({
         {Id::Add, Notification::Clicked, &CAnimateTextDlg::OnAdd},
         {Id::Delete, Notification::Clicked, &CAnimateTextDlg::OnDelete},
@@ -42,52 +45,31 @@ CAnimateTextDlg::CAnimateTextDlg() : CDialogWithColours(AnimateTextDescription()
         {Id::MoveUp, Notification::Clicked, &CAnimateTextDlg::OnMoveUp},
         {Id::MoveDown, Notification::Clicked, &CAnimateTextDlg::OnMoveDown},
         {Id::Messages, Notification::SelectionChanged, &CAnimateTextDlg::OnSelectionChanged},
-        {Id::Font, Notification::Clicked, &CAnimateTextDlg::OnFont},
     });
 }
 
-void CAnimateTextDlg::DoDataExchange(CDataExchange& exchange) {
-    exchange.Text(Id::EditText, m_EditText);
-    exchange.Text(Id::Top, m_Copy.m_Top);
-    exchange.Text(Id::Left, m_Copy.m_Left);
-    exchange.Text(Id::Height, m_Copy.m_Height);
-    exchange.Text(Id::Width, m_Copy.m_Width);
-    exchange.Text(Id::ScrollSize, m_Copy.m_ScrollSize);
-    exchange.Text(Id::ScrollStart, m_Copy.m_ScrollStart);
-    exchange.Text(Id::FadeColor, m_Copy.m_FadeColor);
-    exchange.Text(Id::TextColor, m_Copy.m_TextColor);
-    exchange.Text(Id::BackColor, m_Copy.m_BackColor);
-    exchange.Text(Id::ScriptPath, m_Copy.m_ScriptPath);
-}
-
-// The copies go to the controls last, so the boxes show what the spin controls could not hold.
-void CAnimateTextDlg::OnInitDialog() {
-    m_Copy = *m_pGadget;
+void CAnimateTextDlg::ShowCopy() {
     m_nEditIndex = -1;
-    EnableMoves(false, false);
-    Item<CSliderCtrl>(Id::PopUpInterval).SetPos(ToInteger(m_Copy.m_PopUpInterval));
-    Item<CSliderCtrl>(Id::CirculateInterval).SetPos(ToInteger(m_Copy.m_CirculateInterval));
-    SetSpin(Id::Top, m_Copy.m_Top);
-    SetSpin(Id::Left, m_Copy.m_Left);
-    SetSpin(Id::Height, m_Copy.m_Height);
-    SetSpin(Id::Width, m_Copy.m_Width);
-    SetSpin(Id::ScrollSize, m_Copy.m_ScrollSize);
-    SetSpin(Id::ScrollStart, m_Copy.m_ScrollStart);
+    EnableMoves({false, false});
     for (CString message : m_Copy.m_Messages) {
         message.Replace("<br>", "\r\n");
         Messages().AddString(message);
     }
-    SetUpPickers();
-    UpdateData(false);
+}
+
+void CAnimateTextDlg::ReadCopy() {
+    m_Copy.m_Messages = TextsOf(Messages());
+    for (CString& message : m_Copy.m_Messages)
+        message.Replace("\r\n", "<br>");
 }
 
 CListBox& CAnimateTextDlg::Messages() const {
     return Item<CListBox>(Id::Messages);
 }
 
-void CAnimateTextDlg::EnableMoves(bool bUp, bool bDown) const {
-    Enable(Id::MoveUp, bUp);
-    Enable(Id::MoveDown, bDown);
+void CAnimateTextDlg::EnableMoves(CMoves moves) const {
+    Enable(Id::MoveUp, moves.m_bUp);
+    Enable(Id::MoveDown, moves.m_bDown);
 }
 
 void CAnimateTextDlg::OnAdd() {
@@ -100,9 +82,9 @@ void CAnimateTextDlg::OnAdd() {
     }
     Messages().AddString(m_EditText);
     if (nRows == 1)
-        EnableMoves(false, true);
+        EnableMoves({false, true});
     else if (nSelected == nRows - 1)
-        EnableMoves(true, true);
+        EnableMoves({true, true});
 }
 
 void CAnimateTextDlg::OnDelete() {
@@ -117,9 +99,9 @@ void CAnimateTextDlg::OnDelete() {
     list.DeleteString(nSelected);
     list.SetCurSel(nSelected == nRows - 1 ? nRows - 2 : nSelected);
     if (list.GetCount() <= 1)
-        EnableMoves(false, false);
+        EnableMoves({false, false});
     else if (nSelected == nRows - 2)
-        EnableMoves(true, false);
+        EnableMoves({true, false});
     if (m_nEditIndex == nSelected)
         m_EditText.Empty();
     UpdateData(false);
@@ -148,7 +130,7 @@ void CAnimateTextDlg::OnMoveUp() {
     if (nSelected < 1)
         return;
     MoveRow(Messages(), nSelected, nSelected - 1);
-    EnableMoves(nSelected - 1 != 0, true);
+    EnableMoves({nSelected - 1 != 0, true});
 }
 
 void CAnimateTextDlg::OnMoveDown() {
@@ -157,38 +139,15 @@ void CAnimateTextDlg::OnMoveDown() {
     if (nSelected < 0 || nSelected == nLast)
         return;
     MoveRow(Messages(), nSelected, nSelected + 1);
-    EnableMoves(true, nSelected + 1 != nLast);
+    EnableMoves({true, nSelected + 1 != nLast});
 }
 
 void CAnimateTextDlg::OnSelectionChanged() {
     UpdateData(true);
-    const int nLast = Messages().GetCount() - 1;
     m_nEditIndex = Messages().GetCurSel();
     m_EditText = Messages().GetText(m_nEditIndex);
-    EnableMoves(m_nEditIndex > 0, m_nEditIndex < nLast);
+    EnableMoves(MovesOf(m_nEditIndex, Messages().GetCount()));
     UpdateData(false);
-}
-
-void CAnimateTextDlg::OnFont() {
-    EditFont({.m_Face = m_Copy.m_FontFamily,
-              .m_Size = m_Copy.m_FontSize,
-              .m_Weight = m_Copy.m_FontWeight,
-              .m_Style = m_Copy.m_FontStyle});
-}
-
-void CAnimateTextDlg::OnOK() {
-    UpdateData(true);
-    m_Copy.m_Messages.RemoveAll();
-    for (int nRow = 0; nRow < Messages().GetCount(); ++nRow) {
-        CString message = Messages().GetText(nRow);
-        message.Replace("\r\n", "<br>");
-        m_Copy.m_Messages.Add(message);
-    }
-    m_Copy.m_PopUpInterval = ToText(Item<CSliderCtrl>(Id::PopUpInterval).GetPos());
-    m_Copy.m_CirculateInterval = ToText(Item<CSliderCtrl>(Id::CirculateInterval).GetPos());
-    m_Copy.m_ScriptPath = RemoteDirectory(m_Copy.m_ScriptPath);
-    *m_pGadget = m_Copy;
-    EndDialog(IDOK);
 }
 
 } // namespace orrelix

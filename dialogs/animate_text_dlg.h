@@ -1,23 +1,19 @@
 // The dialog of Animate Text.
 #pragma once
 
-#include "controls/dialog_with_colours.h"
+#include "controls/list_rows.h"
+#include "dialogs/gadget_dialog.h"
 #include "gadgets/animate_text.h"
 
 namespace orrelix {
 
-class CListBox;
-
-class CAnimateTextDlg : public CDialogWithColours {
+class CAnimateTextDlg : public CGadgetDialog<CAnimateText> {
 public:
     CAnimateTextDlg();
 
-    CAnimateText* m_pGadget = nullptr; // set before the run; written on OK only
-
 protected:
-    void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
-    void OnOK() override;
+    void ShowCopy() override;
+    void ReadCopy() override;
 
 private:
     void OnAdd();
@@ -26,12 +22,10 @@ private:
     void OnMoveUp();
     void OnMoveDown();
     void OnSelectionChanged();
-    void OnFont();
 
     CListBox& Messages() const;
-    void EnableMoves(bool bUp, bool bDown) const;
+    void EnableMoves(CMoves moves) const;
 
-    CAnimateText m_Copy; // what the dialog edits, but for the messages, which are the list's rows
     CString m_EditText;
     int m_nEditIndex = -1; // the row that "Modify" replaces; only a selection by the person sets it
 };

@@ -1,27 +1,18 @@
 // The dialog of Slide Text.
 #pragma once
 
-#include "controls/dialog_with_colours.h"
+#include "dialogs/gadget_dialog.h"
 #include "gadgets/text_show.h"
 
 namespace orrelix {
 
-class CTextShowDlg : public CDialogWithColours {
+class CTextShowDlg : public CGadgetDialog<CTextShow> {
 public:
     CTextShowDlg();
 
-    CTextShow* m_pGadget = nullptr; // set before the run; written on OK only
-
 protected:
-    void OnInitDialog() override;
-    void DoDataExchange(CDataExchange& exchange) override;
-    void OnOK() override;
-
-private:
-    void OnTitleFont();
-    void OnTextFont();
-
-    CTextShow m_Copy; // what the dialog edits
+    void ShowCopy() override;
+    void ReadCopy() override;
 };
 
 } // namespace orrelix

@@ -2,6 +2,7 @@
 
 #include "toolkit/combo_box.h"
 #include "toolkit/dialog.h"
+#include "toolkit/slider_ctrl.h"
 
 namespace orrelix {
 
@@ -11,6 +12,14 @@ void CDataExchange::Text(int nId, CString& value) {
         value = control.GetWindowText();
     else
         control.SetWindowText(value);
+}
+
+void CDataExchange::Position(int nId, CString& value) {
+    CSliderCtrl& slider = m_Dialog.Item<CSliderCtrl>(nId);
+    if (m_bSave)
+        value = ToText(slider.GetPos());
+    else
+        slider.SetPos(ToInteger(value));
 }
 
 void CDataExchange::Index(int nId, int& nValue) {

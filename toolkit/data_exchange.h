@@ -16,6 +16,9 @@ public:
     // that row.
     void Text(int nId, CString& value);
 
+    // The position of a slider, in decimal digits.
+    void Position(int nId, CString& value);
+
     // The selected row of a combo box, -1 for none.
     void Index(int nId, int& nValue);
 

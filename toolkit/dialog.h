@@ -108,10 +108,6 @@ protected:
 
     void EndDialog(int nResult);
 
-    // Puts the spin control of this edit box to the leading number of `number`.
-    void SetSpin(int nEdit, const CString& number) const {
-        Item<CSpinButtonCtrl>(SpinOf(nEdit)).SetPos(ToInteger(number));
-    }
     void Enable(int nId, bool bEnable) const { Item<CControl>(nId).EnableWindow(bEnable); }
 
     // The tables of what to do, given once, in the constructor. OK and Cancel need no row.

@@ -151,7 +151,7 @@ protected:
         }
         Item<CSliderCtrl>(Id::Level).SetPos(300);
         UpdateData(false);
-        SetSpin(Id::Number, m_Number);
+        Item<CSpinButtonCtrl>(SpinOf(Id::Number)).SetPos(ToInteger(m_Number));
     }
 
 private:

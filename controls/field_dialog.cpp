@@ -1,0 +1,71 @@
+#include "controls/field_dialog.h"
+
+namespace orrelix {
+
+void CFieldDialog::AddFields(std::initializer_list<CField> fields) {
+    for (const CField& field : fields)
+        m_Fields.push_back(field);
+}
+
+void CFieldDialog::AddSlider(int nSlider, CString& position) {
+    m_Sliders.push_back({nSlider, position});
+}
+
+void CFieldDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
+    CColourBox& box = m_Boxes.emplace_back(*this, colour, pSection);
+    AddFields({{nEdit, colour}});
+    Attach(PickerOf(nEdit), box.m_Picker);
+    SetHandler(nEdit, Notification::Changed, [this, &box] { OnColourTyped(box); });
+    SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColourPicked(); });
+}
+
+void CFieldDialog::ShowTextsLast() {
+    SetUpSpins();
+    SetUpPickers();
+    UpdateData(false);
+}
+
+void CFieldDialog::ShowNumbersLast() {
+    UpdateData(false);
+    SetUpSpins();
+    SetUpPickers();
+}
+
+void CFieldDialog::DoDataExchange(CDataExchange& exchange) {
+    for (const CField& field : m_Fields)
+        exchange.Text(field.m_nId, field.m_Text);
+    for (const CField& slider : m_Sliders)
+        exchange.Position(slider.m_nId, slider.m_Text);
+}
+
+void CFieldDialog::SetUpSpins() {
+    for (const CField& field : m_Fields) {
+        if (FindItem(SpinOf(field.m_nId)))
+            Item<CSpinButtonCtrl>(SpinOf(field.m_nId)).SetPos(ToInteger(field.m_Text));
+    }
+}
+
+void CFieldDialog::SetUpPickers() {
+    for (CColourBox& box : m_Boxes) {
+        box.m_Picker.SetUp(box.m_pSection);
+        if (box.m_Colour.IsEmpty())
+            box.m_Colour = "c0c0c0";
+        box.m_Picker.SetHexColour(box.m_Colour);
+    }
+}
+
+void CFieldDialog::OnColourTyped(CColourBox& box) {
+    UpdateData(true);
+    box.m_Picker.SetHexColour(box.m_Colour);
+}
+
+// Every box takes its picker's colour, not only the one that was used: a box with a half-typed colour falls
+// back to its last whole one.
+void CFieldDialog::OnColourPicked() {
+    UpdateData(true);
+    for (CColourBox& box : m_Boxes)
+        box.m_Colour = box.m_Picker.GetHexColour();
+    UpdateData(false);
+}
+
+} // namespace orrelix

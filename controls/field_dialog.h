@@ -1,0 +1,79 @@
+// CFieldDialog: the base of dialogs whose controls edit texts. A text is named once, with its control; its place
+// in the transfers, its spin control or its colour button follow from that.
+//
+//     CBorderDlg::CBorderDlg() : CFieldDialog(BorderDescription()) {
+//         AddFields({{Id::Style, m_BorderStyle}, {Id::Width, m_BorderWidth}});
+//         AddColour(Id::Color, m_BorderColor, "BORDER");
+//     }
+//     void CBorderDlg::OnInitDialog() { ShowNumbersLast(); }
+//
+// A colour is an edit box of six hexadecimal digits with a picker beside it, each following the other.
+#pragma once
+
+#include "controls/colour_picker.h"
+#include "toolkit/dialog.h"
+
+#include <initializer_list>
+#include <list>
+#include <vector>
+
+namespace orrelix {
+
+class CFieldDialog : public CDialog {
+protected:
+    using CDialog::CDialog;
+
+    // The text that a control edits: of an edit box, with a spin control or without, of a combo box or of a
+    // static text. It has to stay where it is.
+    struct CField {
+        int m_nId;
+        CString& m_Text;
+    };
+
+    // In the constructor, as the next two.
+    void AddFields(std::initializer_list<CField> fields);
+
+    // A slider, whose text is its position.
+    void AddSlider(int nSlider, CString& position);
+
+    // pSection names the settings where the picker remembers mixed colours. One colour that is picked sets all
+    // of the dialog from their pickers.
+    void AddColour(int nEdit, CString& colour, const char* pSection);
+
+    // The two orders in which a dialog starts, for OnInitDialog. They decide what the boxes show.
+
+    // Spin controls and pickers first, the fields last: a number box shows its field's own text ("90%", ""), and
+    // an empty colour becomes "c0c0c0" and shows so.
+    void ShowTextsLast();
+
+    // The fields first, spin controls and pickers last: a number box shows its spin control's number ("90", "0"),
+    // which OK then stores; the box of an empty colour stays empty beside a picker of "c0c0c0".
+    void ShowNumbersLast();
+
+    void DoDataExchange(CDataExchange& exchange) override;
+
+    void OnClick(int nButton, std::function<void()> handler) {
+        SetHandler(nButton, Notification::Clicked, std::move(handler));
+    }
+
+private:
+    struct CColourBox {
+        CColourBox(CDialog& dialog, CString& colour, const char* pSection)
+            : m_Colour(colour), m_pSection(pSection), m_Picker(dialog) {}
+
+        CString& m_Colour;
+        const char* m_pSection;
+        CColourPicker m_Picker;
+    };
+
+    void SetUpSpins();
+    void SetUpPickers();
+    void OnColourTyped(CColourBox& box);
+    void OnColourPicked();
+
+    std::vector<CField> m_Fields;
+    std::vector<CField> m_Sliders;
+    std::list<CColourBox> m_Boxes;
+};
+
+} // namespace orrelix

@@ -1,0 +1,14 @@
+// The list of link targets, whose rows stand for the words that effects keep.
+#pragma once
+
+#include "platform/string.h"
+
+namespace orrelix {
+
+// The row of a word; -1 for a word that the list doesn't offer.
+int RowOfLinkTarget(const CString& word);
+
+// Sets the word of a row; without a row the word stays.
+void TakeLinkTarget(int nRow, CString& word);
+
+} // namespace orrelix

@@ -1,0 +1,42 @@
+#include "controls/list_rows.h"
+
+#include "toolkit/list_box.h"
+#include "toolkit/list_ctrl.h"
+
+namespace orrelix {
+
+CStringArray TextsOf(const CListBox& list) {
+    CStringArray texts;
+    for (int nRow = 0; nRow < list.GetCount(); ++nRow)
+        texts.Add(list.GetText(nRow));
+    return texts;
+}
+
+void ReplaceRow(CListBox& list, int nRow, const CString& text) {
+    list.DeleteString(nRow);
+    list.InsertString(nRow, text);
+    list.SetCurSel(nRow);
+}
+
+void MoveRow(CListBox& list, int nFrom, int nTo) {
+    const CString text = list.GetText(nFrom);
+    list.DeleteString(nFrom);
+    list.InsertString(nTo, text);
+    list.SetCurSel(nTo);
+}
+
+CStringArray TextsOfRow(const CListCtrl& list, int nRow) {
+    CStringArray texts;
+    for (int nColumn = 0; nColumn < list.GetColumnCount(); ++nColumn)
+        texts.Add(list.GetItemText(nRow, nColumn));
+    return texts;
+}
+
+void InsertRow(CListCtrl& list, int nRow, const CStringArray& texts) {
+    list.InsertItem(nRow, texts[0]);
+    for (int nColumn = 1; nColumn < static_cast<int>(texts.GetSize()); ++nColumn)
+        list.SetItemText(nRow, nColumn, texts[nColumn]);
+    list.SelectItem(nRow);
+}
+
+} // namespace orrelix

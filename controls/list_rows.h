@@ -1,0 +1,34 @@
+// The rows of lists, as many dialogs handle them.
+#pragma once
+
+#include "platform/array.h"
+#include "platform/string.h"
+
+namespace orrelix {
+
+class CListBox;
+class CListCtrl;
+
+CStringArray TextsOf(const CListBox& list);
+
+// Both select the row at its place, which has to exist.
+void ReplaceRow(CListBox& list, int nRow, const CString& text);
+void MoveRow(CListBox& list, int nFrom, int nTo);
+
+// The texts of a row of a list view, by column.
+CStringArray TextsOfRow(const CListCtrl& list, int nRow);
+
+// Puts a row in front of nRow, 0 to the number of rows, and selects it. Rows selected before stay so where the
+// list view can have several.
+void InsertRow(CListCtrl& list, int nRow, const CStringArray& texts);
+
+// Which of the buttons "Move Up" and "Move Down" a selected row allows, counted from 0; -1 allows none.
+struct CMoves {
+    bool m_bUp;
+    bool m_bDown;
+};
+inline CMoves MovesOf(int nSelected, int nRows) {
+    return {nSelected > 0, nSelected >= 0 && nSelected < nRows - 1};
+}
+
+} // namespace orrelix
