@@ -13,8 +13,8 @@ constexpr const char* kWords[] = {"", "self", "top", "blank", "parent"};
 } // namespace
 
 int RowOfLinkTarget(const CString& word) {
-    const auto found = std::find_if(std::begin(kWords), std::end(kWords),
-                                    [&](const char* pWord) { return word == pWord; });
+    const auto found =
+        std::find_if(std::begin(kWords), std::end(kWords), [&](const char* pWord) { return word == pWord; });
     return found == std::end(kWords) ? -1 : static_cast<int>(found - std::begin(kWords));
 }
 

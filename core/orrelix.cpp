@@ -3,6 +3,9 @@
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "platform/paths.h"
+#include "resources/effects.h"
+
+#include <iterator>
 
 namespace orrelix {
 
@@ -18,22 +21,42 @@ bool SucceedsIn(TAct act) noexcept {
     }
 }
 
-} // namespace
-
-void COrrelix::SelectType(const CString& type) {
-    m_Type = type;
-    const struct {
-        const char* m_pType;
-        CDhtmlGadget& m_Gadget;
-    } gadgets[] = {
-        {"0", m_NoSelect},   {"1", m_AnimateText}, {"2", m_TextShow}, {"3", m_Calander}, {"4", m_CoolLink},
-        {"5", m_ScrollText}, {"6", m_FadeSelect},  {"7", m_ToolTip},  {"8", m_TodayCa},  {"9", m_DanceText},
-    };
-    for (const auto& row : gadgets) {
-        if (m_Type == row.m_pType)
-            m_pGadget = &row.m_Gadget;
-    }
+template <auto pGadget>
+CDhtmlGadget& GadgetOf(COrrelix& orrelix) {
+    return orrelix.*pGadget;
 }
+
+template <class TDialog, auto pGadget>
+int RunDialog(COrrelix& orrelix) {
+    TDialog dialog;
+    dialog.m_pGadget = &(orrelix.*pGadget);
+    return dialog.DoModal();
+}
+
+// What each effect of kEffects consists of, in the same order.
+constexpr struct CEffectParts {
+    CDhtmlGadget& (*m_pGadget)(COrrelix&);
+    int (*m_pRunDialog)(COrrelix&); // null while the dialog is to come: as if the person had cancelled
+} kParts[] = {
+    {GadgetOf<&COrrelix::m_AnimateText>, RunDialog<CAnimateTextDlg, &COrrelix::m_AnimateText>},
+    {GadgetOf<&COrrelix::m_TextShow>, RunDialog<CTextShowDlg, &COrrelix::m_TextShow>},
+    {GadgetOf<&COrrelix::m_Calander>, nullptr},
+    {GadgetOf<&COrrelix::m_CoolLink>, nullptr},
+    {GadgetOf<&COrrelix::m_ScrollText>, nullptr},
+    {GadgetOf<&COrrelix::m_FadeSelect>, nullptr},
+    {GadgetOf<&COrrelix::m_ToolTip>, nullptr},
+    {GadgetOf<&COrrelix::m_TodayCa>, nullptr},
+    {GadgetOf<&COrrelix::m_DanceText>, nullptr},
+};
+static_assert(std::size(kParts) == std::size(kEffects));
+
+// Null for a type of none.
+const CEffectParts* FindParts(const CString& type) {
+    const CEffect* pEffect = FindEffect(type);
+    return pEffect ? &kParts[pEffect - kEffects] : nullptr;
+}
+
+} // namespace
 
 CVignelConfig& COrrelix::Registered() {
     if (!m_bResourcesRegistered) {
@@ -71,31 +94,23 @@ bool COrrelix::RunDialogs() {
         m_pGadget = &m_NoSelect;
         if (m_SelectDlg.DoModal() == IDCANCEL)
             return false;
-        m_Type = ToText(m_SelectDlg.m_nSelected + 1);
+        m_Type = TypeOf(kEffects[m_SelectDlg.m_nSelected]);
     }
-    if (!RunGadgetDialog())
+    SelectType(CString(m_Type));
+    // A type that is none of ours has nothing to ask.
+    const CEffectParts* pParts = FindParts(m_Type);
+    if (pParts && (!pParts->m_pRunDialog || pParts->m_pRunDialog(*this) == IDCANCEL))
         return false;
     m_bResourcesRegistered = false;
     return true;
 }
 
-// False when the person cancelled; an effect that has no dialog yet behaves as if it had been. A type that is
-// none of ours has nothing to ask.
-bool COrrelix::RunGadgetDialog() {
-    if (m_Type == "1")
-        return Run<CAnimateTextDlg>(m_AnimateText);
-    if (m_Type == "2")
-        return Run<CTextShowDlg>(m_TextShow);
-    SelectType(CString(m_Type));
-    return m_Type.GetLength() != 1 || m_Type[0] < '3' || m_Type[0] > '9';
-}
-
-template <class TDialog, class TGadget>
-bool COrrelix::Run(TGadget& gadget) {
-    TDialog dialog;
-    m_pGadget = &gadget;
-    dialog.m_pGadget = &gadget;
-    return dialog.DoModal() != IDCANCEL;
+void COrrelix::SelectType(const CString& type) {
+    m_Type = type;
+    if (m_Type == "0")
+        m_pGadget = &m_NoSelect;
+    else if (const CEffectParts* pParts = FindParts(m_Type))
+        m_pGadget = &pParts->m_pGadget(*this);
 }
 
 bool COrrelix::Write(const CString& path, short force) {

@@ -129,9 +129,6 @@ private:
     bool Read(const CString& path);
     bool Write(const CString& path, short force);
     bool RunDialogs();
-    bool RunGadgetDialog();
-    template <class TDialog, class TGadget>
-    bool Run(TGadget& gadget);
     CVignelConfig& Registered();
 };
 

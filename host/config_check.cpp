@@ -129,9 +129,7 @@ CString CConfigCheck::GetEffectType() const {
 }
 
 const CEffect* CConfigCheck::GetEffect() const {
-    const CString type = GetEffectType();
-    const bool bKnown = IsOurs() && type.GetLength() == 1 && type[0] >= '1' && type[0] <= '9';
-    return bKnown ? &kEffects[type[0] - '1'] : nullptr;
+    return IsOurs() ? FindEffect(GetEffectType()) : nullptr;
 }
 
 std::string CConfigCheck::WhyNoEffect() const {

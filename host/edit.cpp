@@ -29,15 +29,6 @@ std::string EffectNames() {
     return names;
 }
 
-// The type of the effect with this name, in any case; empty for none.
-CString TypeOfEffect(const std::string& name) {
-    for (size_t nEffect = 0; nEffect < std::size(kEffects); ++nEffect) {
-        if (EqualsNoCase(kEffects[nEffect].m_pName, name))
-            return ToText(static_cast<long long>(nEffect) + 1);
-    }
-    return {};
-}
-
 // Days since 30 December 1899, as properties of files have them.
 double Now() {
     using namespace std::chrono;
@@ -209,10 +200,10 @@ void NewEffect(const CEditOptions& options, CReport& report) {
             Write(orrelix, options, report);
         return;
     }
-    const CString type = TypeOfEffect(options.m_Effect);
-    if (type.IsEmpty())
+    const CEffect* pEffect = FindEffectNamed(options.m_Effect);
+    if (!pEffect)
         return report.WrongUsage("--effect " + options.m_Effect, "is no effect; there are " + EffectNames());
-    orrelix.SelectType(type);
+    orrelix.SelectType(TypeOf(*pEffect));
     if (options.m_bListFields)
         PrintFields(*orrelix.m_pGadget);
     else if (ChangeByOptions(orrelix, options, report))

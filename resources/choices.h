@@ -9,7 +9,8 @@ inline const std::vector<const char*> kBorderStyles = {"none",   "dotted", "dash
                                                        "groove", "ridge",  "inset",  "outset"};
 inline const std::vector<const char*> kAligns = {"left", "center", "right"};
 // "lineth-rough" as files and pages know it.
-inline const std::vector<const char*> kDecorations = {"none", "underline", "overline", "lineth-rough", "blink"};
+inline const std::vector<const char*> kDecorations = {"none", "underline", "overline", "lineth-rough",
+                                                      "blink"};
 
 // The targets of a link, of which controls/link_target.h knows the words.
 inline const std::vector<const char*> kLinkTargets = {"", "Same Frame(_self)", "Whole Page(_top)",

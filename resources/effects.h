@@ -1,6 +1,8 @@
-// The nine effects as a person sees them, in the order of their types "1" to "9". Misspellings included: files
+// The effects as a person sees them, in the order of their types "1", "2" and so on. Misspellings included: files
 // and people know the texts as they are.
 #pragma once
+
+#include "platform/string.h"
 
 namespace orrelix {
 
@@ -21,5 +23,28 @@ inline constexpr CEffect kEffects[] = {
     {"Cool Calender", "DHTML Cool Calender is an HTML perpetual calandar"},
     {"Color Link", "DHTML Color Link can show a Url with multilpe colors "},
 };
+
+// The type by which files and hosts know an effect of the table.
+inline CString TypeOf(const CEffect& effect) {
+    return ToText(&effect - kEffects + 1);
+}
+
+// The effect of a type; null for a type of none.
+inline const CEffect* FindEffect(const CString& type) {
+    for (const CEffect& effect : kEffects) {
+        if (TypeOf(effect) == type)
+            return &effect;
+    }
+    return nullptr;
+}
+
+// The effect of a name, whose letters may be of either case; null for the name of none.
+inline const CEffect* FindEffectNamed(std::string_view name) {
+    for (const CEffect& effect : kEffects) {
+        if (EqualsNoCase(effect.m_pName, name))
+            return &effect;
+    }
+    return nullptr;
+}
 
 } // namespace orrelix

@@ -19,14 +19,14 @@ const fs::path kSource = ORRELIX_SOURCE_DIR;
 
 using CParameters = std::map<std::string, std::string>;
 
-struct CEffect {
+struct CEffectFiles {
     const char* m_pType;
     const char* m_pName;
     std::vector<const char*> m_Resources; // the script files as the store names them
     std::vector<const char*> m_Files;     // and those that lie beside the page
 };
 
-const CEffect kEffects[] = {
+const CEffectFiles kEffectFiles[] = {
     {"1", "animate_text", {"Animate.js"}, {"animate.js"}},
     {"2", "text_show", {}, {}},
     {"3", "calander", {"Calander2.js"}, {"Calander2.js", "calander2.js"}},
@@ -53,7 +53,7 @@ CParameters ParametersOf(CDhtmlGadget& gadget) {
     return ParametersOf(config);
 }
 
-class Gadget : public testing::TestWithParam<CEffect> {
+class Gadget : public testing::TestWithParam<CEffectFiles> {
 protected:
     Gadget() : m_OldModule(GetModuleDirectory()) { m_Orrelix.SelectType(GetParam().m_pType); }
     ~Gadget() override { SetModuleDirectory(m_OldModule); }
@@ -65,7 +65,7 @@ protected:
     const CString m_OldModule; // where the component's own file lies
 };
 
-INSTANTIATE_TEST_SUITE_P(All, Gadget, testing::ValuesIn(kEffects),
+INSTANTIATE_TEST_SUITE_P(All, Gadget, testing::ValuesIn(kEffectFiles),
                          [](const auto& effect) { return effect.param.m_pName; });
 
 } // namespace
@@ -118,7 +118,7 @@ TEST_P(Gadget, AsksForThePreviewPathOnlyToReferToFiles) {
 // A server that tells case apart finds a script under the name that the page says.
 TEST_P(Gadget, LaysItsScriptsBesideThePageInBothSpellings) {
     const CTemporaryDirectory module, page;
-    for (const CEffect& effect : kEffects) {
+    for (const CEffectFiles& effect : kEffectFiles) {
         for (const char* pFile : effect.m_Files)
             module.Write(pFile, effect.m_pName);
     }
