@@ -19,8 +19,10 @@ target_link_libraries(qt_test_keyboard PRIVATE orrelix_options Qt6::Widgets)
 set_target_properties(qt_test_keyboard PROPERTIES AUTOMOC ON LIBRARY_OUTPUT_DIRECTORY ${test_plugins}/generic)
 
 orrelix_test_program(qt orrelix_qt Qt6::Widgets Qt6::Test)
-target_sources(qt_test PRIVATE tests/qt/qt_person.cpp)
-target_compile_definitions(qt_test PRIVATE
+target_sources(qt_tests PRIVATE tests/qt/make_person.cpp tests/qt/qt_person.cpp)
+# The dialogs' tests once more, with the person before real windows.
+target_link_libraries(qt_test PRIVATE dialogs_tests)
+target_compile_definitions(qt_tests PRIVATE
     ORRELIX_TEST_PLUGINS="${test_plugins}"
     ORRELIX_TEST_GUEST="$<TARGET_FILE:qt_test_guest>"
     ORRELIX_LATE_HOST="$<TARGET_FILE:qt_test_late_host>"

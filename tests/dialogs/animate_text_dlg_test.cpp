@@ -1,13 +1,11 @@
 #include "dialogs/animate_text_dlg.h"
-#include "tests/support/scripted_person.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/person_test.h"
 
 namespace orrelix {
 
 namespace {
 
-class AnimateTextDlg : public testing::Test {
+class AnimateTextDlg : public PersonTest {
 protected:
     AnimateTextDlg() { m_Gadget.m_Messages = {"one", "two", "three"}; }
 
@@ -23,7 +21,6 @@ protected:
     }
 
     CAnimateText m_Gadget;
-    CScriptedPerson m_Person;
     CPersonScript& m_Steps = m_Person.In("Animate Text");
 };
 
@@ -34,50 +31,32 @@ TEST_F(AnimateTextDlg, ComesUpWithTheGadgetsFieldsAsTheyAre) {
     m_Gadget.m_Width = "50%";
     m_Gadget.m_PopUpInterval = "4000";
     m_Gadget.m_BackColor = "";
-    m_Steps.ShowsRows("Messages", {"first\r\nsecond"})
-        .ShowsSelected("Messages", {})
-        .ShowsDisabled("Move Up")
-        .ShowsDisabled("Move Down")
-        .Shows("Width:", "50%")
-        .Shows("Top:", "200")
-        .ShowsPosition("Text Pop up Interval Time", 1000)
-        .ShowsPosition("Circulate Interval Time", 50)
-        .Shows("Text Fade Color:", "FFFFFF")
-        .Shows("Background Color:", "c0c0c0")
-        .Clicks("OK");
+    m_Steps.ShowsRows("Messages", {"first\r\nsecond"}).ShowsSelected("Messages", {}).Shows("Width:", "50%");
+    m_Steps.ShowsPosition("Text Pop up Interval Time", 1000).Shows("Background Color:", "c0c0c0");
+    ShowsMoves("none");
+    m_Steps.Types("Message", "a\r\nb").Clicks("Add").Types("Top:", "1x2").Clicks("OK");
     EXPECT_EQ(Run(), IDOK);
-    EXPECT_EQ(m_Gadget.m_Messages, CStringArray({"first<br>second"}));
+    EXPECT_EQ(m_Gadget.m_Messages, CStringArray({"first<br>second", "a<br>b"}));
     EXPECT_EQ(m_Gadget.m_Width, "50%");
     EXPECT_EQ(m_Gadget.m_PopUpInterval, "1000");
     EXPECT_EQ(m_Gadget.m_BackColor, "c0c0c0");
-}
-
-TEST_F(AnimateTextDlg, OkStoresWhatThePersonLeft) {
-    m_Steps.Types("Message", "a\r\nb").Clicks("Add").Turns("Text Scroll Start:", 5).Types("Left:", "auto");
-    m_Steps.Types("Top:", "1x2").Moves("Circulate Interval Time", 0).Types("Text Font Color:", "00ff7f");
-    m_Steps.Types("Specify animate.js Remote Directory:", "scripts\\js").Clicks("Font...");
-    m_Person.In("Font Properties").Types("Font Size:", "12").Picks("Font Weight:", "bold").Clicks("OK");
-    m_Person.In("Animate Text").Clicks("OK");
-    EXPECT_EQ(Run(), IDOK);
-    EXPECT_EQ(m_Gadget.m_Messages[3], "a<br>b");
-    EXPECT_EQ(m_Gadget.m_ScrollStart, "115");
-    EXPECT_EQ(m_Gadget.m_Left, "auto");
     EXPECT_EQ(m_Gadget.m_Top, "12") << "a box for digits";
-    EXPECT_EQ(m_Gadget.m_CirculateInterval, "0");
-    EXPECT_EQ(m_Gadget.m_TextColor, "00ff7f");
-    EXPECT_EQ(m_Gadget.m_ScriptPath, "scripts/js/");
-    EXPECT_EQ(m_Gadget.m_FontSize, "12");
-    EXPECT_EQ(m_Gadget.m_FontWeight, "bold");
 }
 
-TEST_F(AnimateTextDlg, CancelLeavesTheGadgetAlone) {
-    m_Steps.SelectsRow("Messages", 0).Clicks("Delete").Types("Width:", "1").Clicks("Font...");
-    m_Person.In("Font Properties").Types("Font Size:", "12").Clicks("OK");
-    m_Person.In("Animate Text").Clicks("Cancel");
-    EXPECT_EQ(Run(), IDCANCEL);
-    EXPECT_EQ(m_Gadget.m_Messages.GetSize(), 3);
-    EXPECT_EQ(m_Gadget.m_Width, "269");
-    EXPECT_EQ(m_Gadget.m_FontSize, "");
+TEST_F(AnimateTextDlg, MessagesAndFontAreStoredOnOkAlone) {
+    for (const char* pEnd : {"Cancel", "OK"}) {
+        m_Steps.SelectsRow("Messages", 0).Clicks("Delete").Clicks("Font...").In("Font Properties");
+        m_Steps.Types("Font Size:", "12").Types("Font Style:", "italic").Picks("Font Weight:", "bold");
+        m_Steps.Types("Specify the Font Face:", "Arial").Clicks("OK").In("Animate Text").Clicks(pEnd);
+        Run();
+        const CAnimateText before, &now = m_Gadget;
+        const bool bStored = *pEnd == 'O';
+        EXPECT_EQ(now.m_Messages.GetSize(), bStored ? 2 : 3);
+        EXPECT_EQ(now.m_FontSize, bStored ? "12" : before.m_FontSize);
+        EXPECT_EQ(now.m_FontStyle, bStored ? "italic" : before.m_FontStyle);
+        EXPECT_EQ(now.m_FontWeight, bStored ? "bold" : before.m_FontWeight);
+        EXPECT_EQ(now.m_FontFamily, bStored ? "Arial" : before.m_FontFamily);
+    }
 }
 
 TEST_F(AnimateTextDlg, TheMoveButtonsFollowTheSelection) {

@@ -1,17 +1,15 @@
 #include "dialogs/copy_resources.h"
 #include "resources/copy_resources_description.h"
-#include "tests/support/scripted_person.h"
+#include "tests/support/person_test.h"
 #include "tests/support/temporary_directory.h"
 #include "toolkit/list_ctrl.h"
-
-#include <gtest/gtest.h>
 
 namespace orrelix {
 
 namespace {
 
 // Two folders: where the images are, and where files of their names are already.
-class CopyResources : public testing::Test {
+class CopyResources : public PersonTest {
 protected:
     CopyResources() {
         m_Dialog.m_Destination = m_Site.Path();
@@ -27,7 +25,6 @@ protected:
     CString m_Logo = m_Source.Write("logo.jpg", "new logo");
     CString m_OldPhoto = m_Site.Write("photo.gif", "old photo");
     CString m_OldLogo = m_Site.Write("logo.jpg", "old logo");
-    CScriptedPerson m_Person;
     CCopyResourcesDlg m_Dialog;
     const CString m_List = "Files with clashing names";
 };
@@ -106,7 +103,9 @@ TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {
     m_Dialog.DoModal();
 }
 
-TEST(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
+using BrowseFiles = PersonTest;
+
+TEST_F(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
     CTemporaryDirectory directory;
     const CString missing = directory.Path("none");
     const struct {
@@ -117,8 +116,7 @@ TEST(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
                  {directory.Path(), "", "The directory and file type can not be blank!"},
                  {missing, "*.gif", "Directory " + missing + "\\ does not exist!"}};
     for (const auto& c : cases) {
-        CScriptedPerson person;
-        person.Answers(c.m_Message);
+        m_Person.Answers(c.m_Message);
         CBrowseFilesDlg dialog(c.m_Directory, c.m_pTypes);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     }

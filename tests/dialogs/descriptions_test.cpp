@@ -1,12 +1,5 @@
 // What holds for every dialog's description.
-#include "resources/animate_text_description.h"
-#include "resources/border_description.h"
-#include "resources/copy_resources_description.h"
-#include "resources/font_description.h"
-#include "resources/padding_description.h"
-#include "resources/select_script_description.h"
-#include "resources/text_show_description.h"
-#include "resources/url_description.h"
+#include "tests/support/all_dialogs.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -16,15 +9,16 @@ namespace orrelix {
 
 namespace {
 
-class Descriptions : public testing::TestWithParam<const CDialogDescription& (*)()> {
+class Descriptions : public testing::TestWithParam<CTestedDialog> {
 protected:
     template <class TVisit>
     void ForEach(TVisit visit) {
-        ForEachControl(GetParam()(), [&](const CControlDescription& control, const char* pGroup) {
-            SCOPED_TRACE(std::string(GetParam()().m_pTitle) + " / " + pGroup + " / " +
-                         std::to_string(control.m_nId));
-            visit(control, pGroup);
-        });
+        ForEachControl(GetParam().m_pDescription(),
+                       [&](const CControlDescription& control, const char* pGroup) {
+                           SCOPED_TRACE(std::string(GetParam().m_pDescription().m_pTitle) + " / " + pGroup +
+                                        " / " + std::to_string(control.m_nId));
+                           visit(control, pGroup);
+                       });
     }
 };
 
@@ -62,10 +56,7 @@ TEST_P(Descriptions, IdsAreUniqueAndBuddiesStandBefore) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Descriptions,
-                         testing::Values(SelectScriptDescription, CopyResourcesDescription,
-                                         BrowseFilesDescription, AnimateTextDescription, TextShowDescription,
-                                         FontPropertiesDescription, CalanderFontDescription, UrlDescription,
-                                         BorderDescription, PaddingDescription));
+INSTANTIATE_TEST_SUITE_P(All, Descriptions, testing::ValuesIn(AllDialogs()),
+                         [](const auto& dialog) { return dialog.param.m_pName; });
 
 } // namespace orrelix

@@ -1,7 +1,5 @@
 #include "dialogs/select_script.h"
-#include "tests/support/scripted_person.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/person_test.h"
 
 namespace orrelix {
 
@@ -11,40 +9,34 @@ const std::vector<CString> kNames = {"Animate Text",      "Slide Text",    "Cale
                                      "Link Select Table", "Scroll Text",   "Fade Select Box",
                                      "ToolTip",           "Cool Calender", "Color Link"};
 
+class SelectScript : public PersonTest {
+protected:
+    const CString m_List = "DHTML Scripts";
+    CPersonScript& m_Steps = m_Person.In("Select a DHTML Scripts");
+    CSelectScriptDlg m_Dialog;
+};
+
 } // namespace
 
-TEST(SelectScript, ASelectedEffectIsDescribedAndTaken) {
-    CScriptedPerson person;
-    person.In("Select a DHTML Scripts")
-        .ShowsRows("DHTML Scripts", kNames)
-        .ShowsSelected("DHTML Scripts", {})
-        .Shows("Description", "Orrelix can provide 10 DHTML scripts to you")
-        .SelectsRow("DHTML Scripts", 8)
-        .Shows("Description", "DHTML Color Link can show a Url with multilpe colors ")
-        .Clicks("OK");
-    CSelectScriptDlg dialog;
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.m_nSelected, 8);
+TEST_F(SelectScript, ASelectedEffectIsDescribedAndTaken) {
+    m_Steps.ShowsRows(m_List, kNames).ShowsSelected(m_List, {});
+    m_Steps.Shows("Description", "Orrelix can provide 10 DHTML scripts to you").SelectsRow(m_List, 8);
+    m_Steps.Shows("Description", "DHTML Color Link can show a Url with multilpe colors ").Clicks("OK");
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_nSelected, 8);
 }
 
-TEST(SelectScript, OkWithoutASelectionKeepsTheDialogOpen) {
-    CScriptedPerson person;
-    person.In("Select a DHTML Scripts")
-        .Clicks("OK")
-        .Answers("Please select a DHTML Scripts to add!")
-        .DoubleClicks("DHTML Scripts", "Slide Text");
-    CSelectScriptDlg dialog;
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.m_nSelected, 1);
+TEST_F(SelectScript, OkWithoutASelectionKeepsTheDialogOpen) {
+    m_Steps.Clicks("OK").Answers("Please select a DHTML Scripts to add!").DoubleClicks(m_List, "Slide Text");
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_nSelected, 1);
 }
 
-TEST(SelectScript, ASecondRunBeginsAfresh) {
-    CScriptedPerson person;
-    CSelectScriptDlg dialog;
-    person.In("Select a DHTML Scripts").SelectsRow("DHTML Scripts", 3).Clicks("Cancel");
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    person.ShowsRows("DHTML Scripts", kNames).ShowsSelected("DHTML Scripts", {}).PressesEscape();
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+TEST_F(SelectScript, ASecondRunBeginsAfresh) {
+    m_Steps.SelectsRow(m_List, 3).Clicks("Cancel");
+    EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
+    m_Steps.ShowsRows(m_List, kNames).ShowsSelected(m_List, {}).PressesEscape();
+    EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
 }
 
 } // namespace orrelix

@@ -1,8 +1,8 @@
 // What all nine effects promise: their fields' places, their defaults, their files.
 #include "core/orrelix.h"
 #include "platform/files.h"
+#include "tests/support/effect_fields.h"
 #include "tests/support/expected_text.h"
-#include "tests/support/field_namer.h"
 #include "tests/support/temporary_directory.h"
 
 #include <filesystem>
@@ -60,6 +60,11 @@ protected:
 
     CDhtmlGadget& Effect() { return *m_Orrelix.m_pGadget; }
     CVignelConfig& Config() { return m_Orrelix.m_Config; }
+    // Gives every field its own name as its value, so that a text made of them shows which stands where.
+    void NameFields(const char* pEnding) {
+        for (const auto& [name, pText] : FieldsOf(Effect()))
+            *pText = "<" + name + pEnding;
+    }
 
     COrrelix m_Orrelix;
     const CString m_OldModule; // where the component's own file lies
@@ -71,8 +76,7 @@ INSTANTIATE_TEST_SUITE_P(All, Gadget, testing::ValuesIn(kEffectFiles),
 } // namespace
 
 TEST_P(Gadget, HasEveryFieldAtItsPlaces) {
-    CFieldNamer names(",>");
-    Effect().ExchangeParameters(names);
+    NameFields(",>"); // a comma shows which fields are masked
     Config().SetTitle("TiTle");
     std::string text;
     for (const auto& [key, value] : ParametersOf(Effect()))
@@ -84,8 +88,7 @@ TEST_P(Gadget, HasEveryFieldAtItsPlaces) {
 }
 
 TEST_P(Gadget, ReadsBackWhatItWrites) {
-    CFieldNamer names;
-    Effect().ExchangeParameters(names);
+    NameFields(">");
     Effect().WriteParameters(Config());
     COrrelix again;
     again.SelectType(GetParam().m_pType);

@@ -1,0 +1,10 @@
+#include "tests/qt/qt_person.h"
+#include "tests/support/person_test.h"
+
+namespace orrelix {
+
+std::unique_ptr<CPersonScript> MakePerson() {
+    return std::make_unique<CQtPerson>();
+}
+
+} // namespace orrelix

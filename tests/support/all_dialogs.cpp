@@ -1,0 +1,106 @@
+#include "tests/support/all_dialogs.h"
+
+#include "controls/border_dlg.h"
+#include "controls/font_dlg.h"
+#include "controls/padding_dlg.h"
+#include "controls/url_dlg.h"
+#include "dialogs/animate_text_dlg.h"
+#include "dialogs/text_show_dlg.h"
+#include "resources/animate_text_description.h"
+#include "resources/border_description.h"
+#include "resources/copy_resources_description.h"
+#include "resources/font_description.h"
+#include "resources/padding_description.h"
+#include "resources/select_script_description.h"
+#include "resources/text_show_description.h"
+#include "resources/url_description.h"
+
+namespace orrelix {
+
+namespace {
+
+// The dialog of an effect.
+template <class TDialog, class TEffect>
+std::unique_ptr<CEditing> OfEffect() {
+    struct CEffectEditing : CEditing {
+        std::vector<CNamedText> Fields() override { return FieldsOf(m_Effect); }
+        int Run() override {
+            m_Dialog.m_pGadget = &m_Effect;
+            return m_Dialog.DoModal();
+        }
+        TEffect m_Effect;
+        TDialog m_Dialog;
+    };
+    return std::make_unique<CEffectEditing>();
+}
+
+// A dialog that edits members of its own, which its caller sets and on OK reads back.
+template <class TDialog>
+std::function<std::unique_ptr<CEditing>()>
+OfMembers(std::vector<std::pair<const char*, CString TDialog::*>> members) {
+    struct CMemberEditing : CEditing {
+        std::vector<CNamedText> Fields() override {
+            std::vector<CNamedText> fields;
+            for (size_t i = 0; i < m_Members.size(); ++i)
+                fields.push_back({m_Members[i].first, &m_Texts[i]});
+            return fields;
+        }
+        int Run() override {
+            TDialog dialog;
+            for (size_t i = 0; i < m_Members.size(); ++i)
+                dialog.*m_Members[i].second = m_Texts[i];
+            const int nResult = dialog.DoModal();
+            for (size_t i = 0; nResult == IDOK && i < m_Members.size(); ++i)
+                m_Texts[i] = dialog.*m_Members[i].second;
+            return nResult;
+        }
+        std::vector<std::pair<const char*, CString TDialog::*>> m_Members;
+        std::vector<CString> m_Texts;
+    };
+    return [members] {
+        auto pEditing = std::make_unique<CMemberEditing>();
+        pEditing->m_Members = members;
+        pEditing->m_Texts.resize(members.size());
+        return pEditing;
+    };
+}
+
+} // namespace
+
+const std::vector<CTestedDialog>& AllDialogs() {
+    using Font = CCalanderFontDlg;
+    using Border = CBorderPropertiesDlg;
+    using Padding = CPaddingDlg;
+    static const std::vector<CTestedDialog> dialogs = {
+        {"animate_text", AnimateTextDescription, OfEffect<CAnimateTextDlg, CAnimateText>},
+        {"border", BorderDescription,
+         OfMembers<Border>({{"m_BorderWidth", &Border::m_BorderWidth},
+                            {"m_BorderStyle", &Border::m_BorderStyle},
+                            {"m_BorderColor", &Border::m_BorderColor}})},
+        {"browse_files", BrowseFilesDescription},
+        {"calander_font", CalanderFontDescription,
+         OfMembers<Font>({{"m_FontFace", &Font::m_FontFace},
+                          {"m_FontSize", &Font::m_FontSize},
+                          {"m_FontStyle", &Font::m_FontStyle},
+                          {"m_FontWeight", &Font::m_FontWeight},
+                          {"m_TextAlign", &Font::m_TextAlign}})},
+        {"copy_resources", CopyResourcesDescription},
+        {"font", FontPropertiesDescription,
+         OfMembers<CFontPropertiesDlg>({{"m_FontFace", &CFontPropertiesDlg::m_FontFace},
+                                        {"m_FontSize", &CFontPropertiesDlg::m_FontSize},
+                                        {"m_FontStyle", &CFontPropertiesDlg::m_FontStyle},
+                                        {"m_FontWeight", &CFontPropertiesDlg::m_FontWeight}})},
+        {"padding", PaddingDescription,
+         OfMembers<Padding>({{"m_PaddingLeft", &Padding::m_PaddingLeft},
+                             {"m_PaddingRight", &Padding::m_PaddingRight},
+                             {"m_PaddingTop", &Padding::m_PaddingTop},
+                             {"m_PaddingBottom", &Padding::m_PaddingBottom}})},
+        {"select_script", SelectScriptDescription},
+        {"text_show", TextShowDescription, OfEffect<CTextShowDlg, CTextShow>},
+        {"url", UrlDescription,
+         OfMembers<CUrlDlg>({{"m_Url", &CUrlDlg::m_Url}, {"m_Type", &CUrlDlg::m_Type}})},
+    };
+    return dialogs;
+}
+
+} // namespace orrelix

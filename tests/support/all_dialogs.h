@@ -1,0 +1,28 @@
+// Every dialog of the component, for the tests that hold for all of them. Who writes a dialog adds its row.
+#pragma once
+
+#include "tests/support/effect_fields.h"
+#include "toolkit/dialog.h"
+
+#include <functional>
+#include <memory>
+
+namespace orrelix {
+
+// A dialog and the fields that it edits, for one run.
+class CEditing {
+public:
+    virtual ~CEditing() = default;
+    virtual std::vector<CNamedText> Fields() = 0;
+    virtual int Run() = 0;
+};
+
+struct CTestedDialog {
+    const char* m_pName; // of its expected file
+    const CDialogDescription& (*m_pDescription)();
+    std::function<std::unique_ptr<CEditing>()> m_Edit = {}; // none for a dialog that edits no fields
+};
+
+const std::vector<CTestedDialog>& AllDialogs();
+
+} // namespace orrelix
