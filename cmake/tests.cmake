@@ -32,7 +32,7 @@ if(NODE_PROGRAM)
 endif()
 
 if(ORRELIX_HOST)
-    orrelix_test_program(host nlohmann_json::nlohmann_json)
+    orrelix_test_program(host)
     add_dependencies(host_test orrelix_program)
     target_compile_definitions(host_tests PRIVATE ORRELIX_PROGRAM="$<TARGET_FILE:orrelix_program>")
 

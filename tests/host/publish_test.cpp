@@ -54,38 +54,6 @@ std::string Without(std::string text, const std::string& begin, const std::strin
 
 } // namespace
 
-TEST_F(Publish, BothSegmentsGoToTheirPlacesAndNothingElseChanges) {
-    for (const auto& entry : fs::directory_iterator(Example(""))) {
-        if (entry.path().extension() != ".cfg")
-            continue;
-        SCOPED_TRACE(entry.path());
-        COrrelix orrelix;
-        ASSERT_TRUE(orrelix.ReadConfigFile(HostPath(entry.path())));
-        orrelix.GetResourceNumber();
-        const std::string title(orrelix.GetTitle().View());
-        const std::string before = Page(title);
-        const std::string after = Publish2(before, entry.path());
-        EXPECT_EQ(m_LastRun.m_nExitCode, 0) << m_LastRun.m_Errors;
-        const std::string cursor(orrelix.GetHTMLBody(0, kPublish).View());
-        const bool bTwo = orrelix.GetHTMLSegmentNumber() == 2;
-        const std::string script(bTwo ? orrelix.GetHTMLBody(1, kPublish).View() : std::string_view());
-        EXPECT_NE(after.find("<!-- vignel: " + title + " --><!-- vignel cursor: " + title + " -->\r\n" +
-                             cursor + "<!-- /vignel cursor: " + title + " -->\n<p>rest"),
-                  std::string::npos)
-            << after;
-        const std::string headEnd = "<!-- /vignel script: " + title + " --></head>";
-        EXPECT_EQ(after.find(script + headEnd) != std::string::npos, bTwo || !orrelix.GetResourceNumber());
-        std::string bare = Without(after, "<!-- vignel cursor", "<!-- /vignel cursor: " + title + " -->");
-        EXPECT_EQ(Without(bare, "<!-- vignel script", headEnd.substr(0, headEnd.size() - 7)), before);
-        for (short i = 0; i < orrelix.GetResourceNumber(); ++i)
-            EXPECT_TRUE(Exists(std::string("site/") + orrelix.GetResourceWebPath(i).GetString() +
-                               orrelix.GetResourceName(i).GetString()));
-    }
-    // Names in both spellings, and the help for effects that bring no script.
-    EXPECT_TRUE(Exists("site/Calander2.js") && Exists("site/calander2.js") &&
-                Exists("site/orrelix-compat.js"));
-}
-
 TEST_F(Publish, AHeadIsFoundWithoutItsTagsAndNeverInCommentsOrScripts) {
     const std::string mark = "<!-- vignel: shop -->";
     std::string emptyComments;
@@ -155,14 +123,6 @@ TEST_F(Publish, TitlesOfAnyKindShareAPageAndFindTheirTextsAgain) {
     for (size_t i = 0; i < std::size(cases); ++i)
         EXPECT_NE(after.find("second[" + std::to_string(i) + "]"), std::string::npos)
             << cases[i].m_Title << after;
-}
-
-TEST_F(Publish, AScriptThatIsNoLongerNeededLeavesTheHead) {
-    const std::string before = Page("shop");
-    const std::string with = Publish2(before, Example("dance_text_rich.cfg"));
-    WriteEffect("x.cfg", "shop", "no script in the head");
-    EXPECT_NE(with.find("vignel script"), std::string::npos);
-    EXPECT_EQ(Publish2(with), Publish2(before));
 }
 
 TEST_F(Publish, APageStaysInItsEncoding) {
@@ -276,40 +236,6 @@ TEST_F(Publish, FilesGoWhereTheirWebPathsSayAndNeverOutOfTheSite) {
         EXPECT_EQ(std::distance(fs::directory_iterator(m_Folder.File("out")), {}), 1);
         EXPECT_EQ(Content("out/animate.js"), "theirs");
     }
-}
-
-TEST_F(Publish, WhatCantBeDoneIsSaid) {
-    WriteEffect("x.cfg", "t", "message");
-    m_Folder.Write("site/p.html", Page("t"));
-    m_Folder.Write("elsewhere.html", Page("t"));
-    m_Folder.Write("bad.cfg", "nothing");
-    const struct {
-        const char* m_pEffect;
-        const char* m_pPage;
-        const char* m_pSite;
-        const char* m_pMessage;
-    } cases[] = {
-        {"bad.cfg", "site/p.html", "site", "bad.cfg: is no configuration file"},
-        {"x.cfg", "site/sub", "site", "site/sub: is no file"},
-        {"a\\b.cfg", "site/p.html", "site", "a\\b.cfg: has a backslash"},
-        {"x.cfg", "site/absent.html", "site", "site/absent.html: can't be read"},
-        {"x.cfg", "site/p.html", "absent", "absent: is no folder"},
-        {"x.cfg", "elsewhere.html", "site", "elsewhere.html: doesn't lie in the site"},
-    };
-    for (const auto& row : cases) {
-        ExpectRun({"publish", row.m_pEffect, "--page", row.m_pPage, "--site", row.m_pSite}, 1,
-                  row.m_pMessage);
-    }
-    EXPECT_EQ(Content("site/p.html"), Page("t"));
-    EXPECT_EQ(Content("elsewhere.html"), Page("t"));
-
-    // Images that got lost are named, and the rest is done.
-    fs::copy_file(Example("cool_link_rich.cfg"), m_Folder.File("lonely.cfg"));
-    m_Folder.Write("site/p.html", Page("Museum"));
-    ExpectRun({"publish", "lonely.cfg", "--page", "site/p.html", "--site", "site"}, 1,
-              "\"house.gif\", which is missing");
-    EXPECT_NE(Content("site/p.html").find("Home, sweet home"), std::string::npos);
-    EXPECT_TRUE(Exists("site/scripts/select.js"));
 }
 
 // A site on a disk of 256 KiB where the machine lets us make one; elsewhere files can't grow beyond that.
