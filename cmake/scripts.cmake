@@ -2,12 +2,15 @@
 #
 # A page counts on finding the one script file of its effect and no other, so each carries what it shares with others in
 # front of itself: the compatibility script, and the drop-down list where it is one. fade.js goes without: a page loads
-# it behind fadeselect.js.
+# it behind fadeselect.js. Shipped as the compatibility script, it has Slide Text and Color Link with it, which have no
+# file of their own and may stand on a page with any other effect.
 #
 # Three are registered as resources under another spelling than their own. Where the disk tells case apart they lie
 # there under both, so that a host that copies what is registered finds it.
 file(GLOB script_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} scripts/*.js)
-list(REMOVE_ITEM script_sources scripts/drop_down.js)
+set(compatibility scripts/orrelix-compat.js scripts/moving.js scripts/slide_text.js scripts/color_link.js)
+list(REMOVE_ITEM script_sources ${compatibility} scripts/drop_down.js)
+list(APPEND script_sources scripts/orrelix-compat.js)
 set(registered_otherwise animate.js Todayca.js Tooltip.js)
 set(registered_animate.js Animate.js)
 set(registered_Todayca.js todayca.js)
@@ -16,11 +19,12 @@ set(shipped_scripts)
 foreach(script ${script_sources})
     cmake_path(GET script FILENAME name)
     set(parts ${script})
+    list(REMOVE_ITEM parts ${compatibility})
     if(name MATCHES "^(fadeselect|select)\\.js$")
         list(PREPEND parts scripts/drop_down.js)
     endif()
-    if(NOT name MATCHES "^(orrelix-compat|fade)\\.js$")
-        list(PREPEND parts scripts/orrelix-compat.js)
+    if(NOT name STREQUAL fade.js)
+        list(PREPEND parts ${compatibility})
     endif()
     list(TRANSFORM parts PREPEND ${PROJECT_SOURCE_DIR}/)
     set(names ${name})

@@ -10,8 +10,8 @@
 //     brndfnanimatecolor          the text colour
 //     #brndfntextanim             the element for the text; its "top" is where a text starts to rise
 //     breakf()                    called when the element is clicked: stops the texts, or lets them go on
-// The steps only set the pace: the text moves with each frame. Enter and the space bar do what a click does. For
-// visitors who ask for reduced motion the texts change without rising and fading.
+// The steps only set the pace: the text moves with each frame. For visitors who ask for reduced motion the texts
+// change without rising and fading.
 (function () {
     "use strict";
 
@@ -42,20 +42,37 @@
         };
     }
 
+    // The fading colour reaches what a stylesheet of the page's colours otherwise, not what the author coloured.
+    function write(element, html) {
+        element.innerHTML = html;
+        brndfn.repair(element);
+        for (const part of element.querySelectorAll(":not([color], [style*=color])"))
+            part.style.color = "inherit";
+        for (const paragraph of element.querySelectorAll("p"))
+            Object.assign(paragraph.style, { margin: paragraph.style.margin || "1em 0" });
+    }
+
     function start(element) {
+        const box = element.parentElement;
         brndfn.repair(element);
         const distance = Math.max(0, Number.parseFloat(getComputedStyle(element).top) || 0);
         let nMessage = -1;
         let time = 0;
         let drawn;
 
+        // What is below the box's edge isn't seen yet; once it has risen, all of it is.
+        Object.assign(box.style, { overflow: "clip", boxSizing: "content-box", maxWidth: "100%" });
+        function makeRoom() {
+            const needed = element.offsetHeight;
+            if (needed > box.clientHeight)
+                box.style.height = `${needed}px`;
+        }
+
         function showNext() {
             nMessage = (nMessage + 1) % messages.length;
             time = 0;
-            element.innerHTML = messages[nMessage];
-            brndfn.repair(element);
-            for (const link of element.querySelectorAll("a"))
-                link.style.color = "inherit";
+            write(element, messages[nMessage]);
+            makeRoom();
         }
 
         function draw({ risen, colored }) {
@@ -66,6 +83,7 @@
                     colored === 1 ? textColor : `color-mix(in srgb, ${textColor} ${100 * colored}%, ${fadeColor})`;
             drawn = { risen, colored };
         }
+        const showInFull = () => draw({ risen: distance, colored: 1 });
 
         showNext();
         draw(stateAt(0, distance));
@@ -75,37 +93,27 @@
                 showNext();
             draw(stateAt(time, distance));
         });
+        const stop = brndfn.stop(handle, "corner");
+        box.append(stop.element);
+        toggles.set(element, stop.toggle);
 
-        let bStopped = false;
-        function toggle() {
-            bStopped = !bStopped;
-            if (bStopped)
-                handle.pause("visitor");
-            else
-                handle.resume("visitor");
-        }
-        toggles.set(element, toggle);
-        letKeysReach(element, handle, toggle, () => draw({ risen: distance, colored: 1 }));
-    }
-
-    // A link in the text that has focus is shown in full and isn't taken away under the visitor's hands.
-    function letKeysReach(element, handle, toggle, showInFull) {
-        element.tabIndex = 0;
-        element.setAttribute("role", "group");
-        element.setAttribute("aria-label", "Changing text. Enter stops it or lets it go on.");
-        element.addEventListener("keydown", (event) => {
-            if (event.target !== element || (event.key !== "Enter" && event.key !== " "))
-                return;
-            event.preventDefault();
-            toggle();
-        });
-        element.addEventListener("focusin", (event) => {
-            if (event.target === element)
-                return;
+        // A link in the text that has focus is shown in full and isn't taken away under the visitor's hands.
+        element.addEventListener("focusin", () => {
             showInFull();
             handle.pause("focus");
         });
         element.addEventListener("focusout", () => handle.resume("focus"));
+        brndfn.onPrint((bPrinting) => {
+            if (bPrinting) {
+                write(element, messages.join(""));
+                showInFull();
+                makeRoom();
+                handle.pause("print");
+            } else {
+                write(element, messages[nMessage]);
+                handle.resume("print");
+            }
+        }, handle.signal);
     }
 
     // The click on a link in the text is the link's.

@@ -10,8 +10,6 @@
     if (window.brndfn)
         return;
 
-    const motion = window.matchMedia("(prefers-reduced-motion: reduce)");
-
     // Splits text at a separator that stands outside of quotes, brackets and comments.
     function splitOutside(text, separator) {
         const pieces = [];
@@ -131,101 +129,18 @@
             fn();
     }
 
-    function calm() {
-        return motion.matches;
+    // Of words by language, those of the page's language: [words, their language]; English where it isn't among them.
+    function inPageLanguage(words) {
+        const language = document.documentElement.lang.split("-", 1)[0].toLowerCase();
+        return Object.hasOwn(words, language) ? [words[language], language] : [words.en, "en"];
     }
 
-    // Lets something run while the page is visible and nobody holds it: begin() and end() switch it. Each of
-    // those who hold it (pause) has a key of its own, so that the pointer's leaving doesn't undo a visitor's click.
-    function runner(begin, end) {
-        const holders = new Set();
-        const listening = new AbortController();
-        let bRunning = false;
-
-        function update() {
-            const bRun = holders.size === 0 && !document.hidden && !listening.signal.aborted;
-            if (bRun === bRunning)
-                return;
-            bRunning = bRun;
-            if (bRun)
-                begin();
-            else
-                end();
-        }
-        document.addEventListener("visibilitychange", update, { signal: listening.signal });
-        // The caller gets its handle before the first call.
-        queueMicrotask(update);
-        return {
-            pause(holder = "caller") {
-                holders.add(holder);
-                update();
-            },
-            resume(holder = "caller") {
-                holders.delete(holder);
-                update();
-            },
-            stop() {
-                listening.abort();
-                update();
-            },
-            get running() {
-                return bRunning;
-            },
-            // Aborted by stop(): for listeners that end with the handle.
-            signal: listening.signal,
-        };
-    }
-
-    // fn(milliseconds since the last frame), with each frame until the element leaves the page.
-    function frames(element, fn) {
-        let nRequest = 0;
-        let nLast;
-        function frame(nNow) {
-            if (!element.isConnected)
-                return handle.stop();
-            nRequest = requestAnimationFrame(frame);
-            const nElapsed = nLast === undefined ? 0 : nNow - nLast;
-            nLast = nNow;
-            fn(nElapsed);
-        }
-        const handle = runner(
-            () => {
-                nLast = undefined;
-                nRequest = requestAnimationFrame(frame);
-            },
-            () => cancelAnimationFrame(nRequest),
-        );
-        return handle;
-    }
-
-    // fn(), again and again until the element leaves the page.
-    function every(element, nMilliseconds, fn) {
-        let nTimer = 0;
-        const handle = runner(
-            () => {
-                nTimer = setInterval(() => (element.isConnected ? fn() : handle.stop()), nMilliseconds);
-            },
-            () => clearInterval(nTimer),
-        );
-        return handle;
-    }
-
-    function pausable(element, handle) {
-        const byPointer = {};
-        const byFocus = {};
-        const { signal } = handle;
-        element.addEventListener("pointerenter", () => handle.pause(byPointer), { signal });
-        element.addEventListener("pointerleave", () => handle.resume(byPointer), { signal });
-        element.addEventListener("focusin", () => handle.pause(byFocus), { signal });
-        element.addEventListener("focusout", () => handle.resume(byFocus), { signal });
-    }
-
-    // The live collection as a function: truthy, and callable as call(native, …) says.
-    function callable(native, call, own = {}) {
+    // The live collection as a function: truthy, and callable as call(...) says.
+    function callable(native, call) {
         const forwarded = {
             apply: (target, self, given) => call(...given),
             get(target, key) {
-                const value = Object.hasOwn(own, key) ? own[key] : native[key];
+                const value = native[key];
                 return typeof value === "function" ? value.bind(native) : value;
             },
         };
@@ -234,23 +149,25 @@
         return new Proxy(() => {}, forwarded);
     }
 
-    function replaceCollection(name, call, own) {
-        const collection = callable(document[name], call, own);
-        Object.defineProperty(document, name, { configurable: true, enumerable: true, get: () => collection });
+    function replaceCollection(name, get) {
+        Object.defineProperty(document, name, { configurable: true, enumerable: true, get });
     }
 
+    // The page's own scripts take a truthy document.all for a browser of long ago, where half of what they would call
+    // then is no longer there. So the effects' own text finds it truthy, and nobody else.
+    const OWN_TEXT = /brndfnscrollmain2|\bLinkinitSelectBox\(|\bwriteSelectBox\(topArray/;
     const nativeAll = document.all;
-    const nativeLinks = document.links;
+    const truthyAll = callable(nativeAll, (...given) => nativeAll(...given));
+    HTMLAllCollection.prototype.tags ??= (name) => document.getElementsByTagName(name);
+    replaceCollection("all", () => (OWN_TEXT.test(document.currentScript?.text) ? truthyAll : nativeAll));
 
-    replaceCollection("all", (...given) => nativeAll(...given), {
-        tags: (name) => document.getElementsByTagName(name),
-    });
-    replaceCollection("links", (key) => {
+    const nativeLinks = document.links;
+    const links = callable(nativeLinks, (key) => {
         const link = typeof key === "number" ? nativeLinks.item(key) : nativeLinks.namedItem(key);
-        if (link?.name?.startsWith("brndfntext"))
-            adoptColorLink(link);
+        window.brndfn.onLinkAsked?.(link);
         return link;
     });
+    replaceCollection("links", () => links);
 
     // All handlers that were assigned, in order: the page's own, from <body onload> too, and those of effects.
     // Page scripts that save the old handler and call it from theirs get a function for those of that time. None
@@ -324,113 +241,5 @@
         runAll(loadHandlers, [event]);
     });
 
-    // The steps of these two effects are timers with a text, such as "typeit()". From the first such effect on, these
-    // texts, and only these, go to whoever steps the effect: steppers maps the text to schedule(milliseconds).
-    const steppers = new Map();
-    const nativeSetTimeout = window.setTimeout;
-
-    function stepBy(code, schedule) {
-        steppers.set(code, schedule);
-        window.setTimeout = (handler, nDelay, ...given) => {
-            const schedule = typeof handler === "string" ? steppers.get(handler) : undefined;
-            return schedule ? schedule(nDelay) : nativeSetTimeout.call(window, handler, nDelay, ...given);
-        };
-    }
-
-    // Runs what is due at once, or when the gate is no longer held and the page is visible; nothing any more when
-    // the element has left the page.
-    function gate(element) {
-        let due;
-        function pass() {
-            const fn = due;
-            due = undefined;
-            fn?.();
-        }
-        const handle = runner(pass, () => {});
-        handle.after = (nDelay, fn) =>
-            nativeSetTimeout.call(window, () => {
-                due = fn;
-                if (!element.isConnected)
-                    handle.stop();
-                else if (handle.running)
-                    pass();
-            }, nDelay);
-        return handle;
-    }
-
-    // Color Link: its link keeps its colour while the visitor points at it, has focus on it or wants calm.
-    const adoptedLinks = new WeakSet();
-
-    function adoptColorLink(link) {
-        if (adoptedLinks.has(link))
-            return;
-        adoptedLinks.add(link);
-        repair(link);
-        const steps = gate(link);
-        const holdForCalm = () => (calm() ? steps.pause(motion) : steps.resume(motion));
-        holdForCalm();
-        motion.addEventListener("change", holdForCalm, { signal: steps.signal });
-        pausable(link, steps);
-        const dance = `${link.name.slice("brndfntext".length)}linkDance`;
-        stepBy(`${dance}()`, (nDelay) => steps.after(nDelay, () => window[dance]()));
-    }
-
-    // Slide Text: its typing waits while the pointer is over the text; a click on it or Escape shows the whole
-    // text, and so does a visitor's wish for calm. While it types, screen readers are told the whole text.
-    function adoptSlideText() {
-        const typing = document.getElementById("typing");
-        const cell = typing?.closest("td");
-        if (!cell?.querySelector("script")?.text.includes("typeit()"))
-            return;
-        repair(cell.parentElement);
-
-        const steps = gate(cell);
-        let bTyping = false;
-        let bStepDue = false;
-
-        function begin() {
-            bTyping = true;
-            typing.style.whiteSpace = "pre-line";
-            typing.setAttribute("role", "img");
-            typing.setAttribute("aria-label", window.mytext);
-            pausable(cell, steps);
-            const { signal } = steps;
-            cell.addEventListener("click", showAll, { signal });
-            document.addEventListener("keydown", (event) => event.key === "Escape" && showAll(), { signal });
-        }
-        function end() {
-            steps.stop();
-            steppers.delete("typeit()");
-            typing.removeAttribute("role");
-            typing.removeAttribute("aria-label");
-        }
-        function showAll() {
-            typing.textContent = window.mytext;
-            end();
-        }
-        function step() {
-            bStepDue = false;
-            window.typeit();
-            typing.normalize();
-            if (!bStepDue)
-                end();
-        }
-        stepBy("typeit()", (nDelay) => {
-            if (!bTyping)
-                begin();
-            if (calm()) {
-                showAll();
-            } else if (/[\ud800-\udbff]/.test(window.mytext[window.it - 1])) {
-                // Half a character shows nothing: the other half comes with it, into the same text node.
-                step();
-            } else {
-                bStepDue = true;
-                return steps.after(nDelay, () => steps.signal.aborted || step());
-            }
-            return 0;
-        });
-    }
-    ready(adoptSlideText);
-
-    window.brndfn = { css, repair, ready, calm, frames, every, pausable };
+    window.brndfn = { css, repair, ready, inPageLanguage };
 })();

@@ -20,7 +20,7 @@
     // Faster than this nobody can read, and the box would flicker.
     const LEAST_TRAVEL = 200;
 
-    // The boxes that are ready to move, each with the function that starts it; emptied by startscroll.
+    // What starts the boxes that are ready to move; emptied by startscroll.
     const starters = [];
     const prepared = new WeakSet();
 
@@ -80,76 +80,120 @@
         box.addEventListener("focusout", restyle("brnout"));
     }
 
-    // Without movement: all texts below each other, to be scrolled by hand.
-    function layOutAsList(box, frame, items) {
-        Object.assign(box.style, { overflow: "hidden auto" });
-        Object.assign(frame.style, { position: "static", height: "auto", clip: "auto" });
+    // Without movement: all texts below each other, to be scrolled by hand, or all at once on paper.
+    function layOutAsList(box, frame, items, height) {
+        Object.assign(box.style, { overflow: "hidden auto", height });
+        Object.assign(frame.style, { position: "static", height: "auto", clip: "auto", overflow: "visible" });
         for (const item of items)
             Object.assign(item.style, { position: "static", width: "auto", marginBottom: "4px" });
     }
 
-    // A text comes from below, rests in the middle of the box (at the top, if it is too tall for that) and leaves
-    // upwards, followed by the next. So two are on their way at most; the others wait below the lower edge. Gives
-    // the function that starts the movement.
-    function layOutToMove(box, frame, items, travel, rest) {
-        let nCurrent = 0;
-        let offset = 0;
-        let wait = rest;
+    // Ready to move: the texts wait below the lower edge, all but the first.
+    function layOutToMove(box, frame, items, height) {
+        Object.assign(box.style, { overflow: "hidden", height });
+        Object.assign(frame.style, { position: "absolute", height: "100%", clip: "auto", overflow: "clip" });
+        for (const [i, item] of items.entries())
+            Object.assign(item.style, { position: "absolute", width: "100%", margin: "0", top: i === 0 ? "0" : "100%" });
+    }
 
-        const next = () => items[(nCurrent + 1) % items.length];
-        const park = (item) => { item.style.top = `${frame.clientHeight}px`; };
+    // A text comes from below, rests in the middle of the box (at the top, if it is too tall for that) and leaves
+    // upwards, followed by the next. So two are on their way at most. The browser does the moving: a script's work
+    // comes only once for each text.
+    function mover(frame, items, travel, rest) {
+        let nCurrent = 0;
+        let animations = [];
+
         const restingPlace = (item) => Math.max(0, (frame.clientHeight - item.offsetHeight) / 2);
 
         // How far the current text travels until the next one rests: the whole of it has been in the box by then.
         // A single text follows itself, and has to be gone before it comes again.
-        function way() {
-            const height = items[nCurrent].offsetHeight;
-            return items.length === 1 ? frame.clientHeight + height : Math.max(frame.clientHeight, height);
-        }
-
-        function place() {
-            const item = items[nCurrent];
-            const top = restingPlace(item) - offset;
-            item.style.top = `${top}px`;
-            if (next() !== item || top <= -item.offsetHeight)
-                next().style.top = `${restingPlace(next()) + way() - offset}px`;
+        function move() {
+            const [current, next] = [items[nCurrent], items[(nCurrent + 1) % items.length]];
+            const height = frame.clientHeight;
+            const way = current === next ? height + current.offsetHeight : Math.max(height, current.offsetHeight);
+            const timing = { delay: rest, duration: (way * travel) / height, fill: "both" };
+            const at = (top, offset) => ({ transform: `translateY(${top}px)`, offset });
+            const slide = (item, from, ...through) => {
+                item.style.top = "0";
+                return item.animate([at(from), ...through], timing);
+            };
+            const [here, there] = [restingPlace(current), restingPlace(next)];
+            if (current === next) {
+                const gone = (here + current.offsetHeight) / way;
+                animations = [slide(current, here, at(-current.offsetHeight, gone), at(height, gone), at(here))];
+            } else {
+                animations = [slide(current, here, at(here - way)), slide(next, there + way, at(there))];
+            }
+            animations[0].onfinish = () => bringToRest((nCurrent + 1) % items.length);
         }
 
         function bringToRest(index) {
-            park(items[nCurrent]);
-            park(next());
+            reset();
             nCurrent = index;
-            offset = 0;
-            wait = rest;
-            place();
+            move();
         }
 
-        function advance(elapsed) {
-            const waited = Math.min(wait, elapsed);
-            wait -= waited;
-            offset += ((elapsed - waited) * frame.clientHeight) / travel;
-            if (offset >= way())
-                bringToRest((nCurrent + 1) % items.length);
-            else
-                place();
+        function reset() {
+            for (const animation of animations)
+                animation.cancel();
+            animations = [];
+            for (const item of items)
+                item.style.top = "100%";
         }
 
+        return {
+            reset,
+            bringToRest,
+            begin() {
+                if (animations.length === 0)
+                    move();
+                else
+                    animations.forEach((animation) => animation.play());
+            },
+            end() {
+                animations.forEach((animation) => animation.pause());
+            },
+        };
+    }
+
+    // Gives the function that starts the movement.
+    function setUp(box, frame, items, travel, rest) {
+        const { height } = box.style;
+        const movement = mover(frame, items, travel, rest);
+        const handle = brndfn.runner(box, movement.begin, movement.end);
+        const stop = brndfn.stop(handle, "corner");
+        let bPrinting = false;
+
+        function layOut() {
+            const bList = bPrinting || brndfn.calm();
+            stop.element.hidden = bList;
+            if (bList) {
+                handle.pause("list");
+                movement.reset();
+                layOutAsList(box, frame, items, bPrinting ? "auto" : height);
+            } else {
+                layOutToMove(box, frame, items, height);
+                handle.resume("list");
+            }
+        }
+
+        handle.pause("start");
+        box.append(stop.element);
+        brndfn.pausable(frame, handle);
         // A link that is reached by the keyboard comes into view, and the browser scrolls nothing in its stead.
-        function followFocus({ target }) {
+        frame.addEventListener("focusin", ({ target }) => {
             const index = items.findIndex((item) => item.contains(target));
-            if (index >= 0 && target.matches(":focus-visible"))
-                bringToRest(index);
-        }
-
-        Object.assign(box.style, { overflow: "hidden" });
-        Object.assign(frame.style, { overflow: "clip", clip: "auto" });
-        for (const item of items) {
-            Object.assign(item.style, { position: "absolute", width: "100%" });
-            park(item);
-        }
-        place();
-        box.addEventListener("focusin", followFocus);
-        return () => brndfn.pausable(box, brndfn.frames(box, advance));
+            if (!stop.element.hidden && index >= 0 && target.matches(":focus-visible")) {
+                movement.bringToRest(index);
+                movement.end();
+            }
+        });
+        brndfn.onCalm(layOut, handle.signal);
+        brndfn.onPrint((bNow) => {
+            bPrinting = bNow;
+            layOut();
+        }, handle.signal);
+        return () => handle.resume("start");
     }
 
     function prepare(box) {
@@ -161,15 +205,12 @@
         if (table)
             repairTable(table);
         const items = makeItems(frame, [...(window.brndfnmessages ?? [])]);
-        Object.assign(box.style, { display: "block", margin: "auto" });
+        Object.assign(box.style, { display: "block", margin: "auto", maxWidth: "calc(100vw - 40px)" });
+        frame.style.width = "100%";
         frame.setAttribute("role", "list");
         showFocus(box);
-        if (items.length === 0)
-            return;
-        if (brndfn.calm())
-            layOutAsList(box, frame, items);
-        else
-            starters.push(layOutToMove(box, frame, items,
+        if (items.length > 0)
+            starters.push(setUp(box, frame, items,
                 Math.max(LEAST_TRAVEL, milliseconds(window.brndfnspeednormal, USUAL_TRAVEL)),
                 milliseconds(window.brndfnspeedmore, USUAL_REST)));
     }

@@ -17,7 +17,7 @@ function look() {
     const top = (selector) => Math.round(document.querySelector(selector).getBoundingClientRect().top);
     return {
         rising: top("#brndfntextanim"),
-        typed: document.getElementById("typing").innerText,
+        typed: document.getElementById("typing").firstChild.textContent,
         scrolled: top("#scroll_text a"),
         color: getComputedStyle(document.querySelector("#dance_text a")).color,
     };
@@ -42,4 +42,4 @@ testEverywhere(givePage(`<html><head>${head}</head><body>${body}</body></html>`)
     }
     await page.locator("#tool_tip a").hover();
     await page.getByRole("tooltip").waitFor();
-});
+}, { context: { viewport: { width: 1000, height: 4200 } } }); // what is out of view rests

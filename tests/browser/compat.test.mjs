@@ -41,21 +41,25 @@ testEverywhere(givePage(markup), "the repair keeps to the element it was asked f
     assert.equal(await page.getAttribute("#other", "style"), "left:7");
 });
 
+// The page's own script finds what the browser gives, falsy; the text of an effect, known by a name in it, a truthy one.
+const sniffs = (mark) => `<script>/* ${mark} */ (window.sniffed ??= []).push(Boolean(document.all), document.all != null)</script>`;
 const collections = `${include}<a id="first" href="#1">1</a><a name="second" href="#2">2</a>
+    ${sniffs("old page")}${["brndfnscrollmain2", "LinkinitSelectBox(", "writeSelectBox(topArray"].map(sniffs).join("")}
     <script>window.early = document.links("second").href.slice(-2)</script><area href="#3">`;
 
 testEverywhere(givePage(collections), "document.all and document.links are as the old text expects", async ({ page }) => {
     const seen = await page.evaluate(() => {
         document.body.append(Object.assign(document.createElement("a"), { href: "#4" }));
         return [
-            Boolean(document.all) && document.all != null && document.links instanceof HTMLCollection,
-            document.all("first").id, document.all.first.id, document.all["first"].id, document.all.item("first").id,
+            window.sniffed.join(), Boolean(document.all), typeof document.all, document.links instanceof HTMLCollection,
+            document.all("first").id, document.all.first.id, document.all.item("first").id,
             document.all.tags("A").length, document.all(0).tagName,
             window.early, document.links(1).name, document.links("nowhere"),
             Array.from(document.links, (link) => link.hash).join(),
         ];
     });
-    assert.deepEqual(seen, [true, "first", "first", "first", "first", 3, "HTML", "#2", "second", null, "#1,#2,#3,#4"]);
+    assert.deepEqual(seen, ["false,false,true,true,true,true,true,true", false, "undefined", true, "first", "first", "first",
+        3, "HTML", "#2", "second", null, "#1,#2,#3,#4"]);
 });
 
 const handlers = `<script>window.calls = []; window.onload = () => calls.push("page")</script>${include}${include}

@@ -113,6 +113,8 @@ export async function setCalm(page, bCalm) {
         await page.evaluate((calm) => window.setCalm(calm), bCalm);
     else
         await page.emulateMedia({ reducedMotion: bCalm ? "reduce" : "no-preference" });
+    // Media queries tell of a change with a frame.
+    await page.evaluate(() => new Promise((over) => requestAnimationFrame(() => requestAnimationFrame(over))));
 }
 
 const isFirefox = (page) => page.context().browser().browserType().name() === "firefox";
@@ -207,6 +209,15 @@ export async function setHidden(page, bHidden) {
         });
         document.dispatchEvent(new Event("visibilitychange"));
     }, bHidden);
+}
+
+// The page is scrolled to its end, far from what was in view, or back.
+export async function setOutOfView(page, bOut) {
+    await page.evaluate((out) => {
+        if (out)
+            document.body.insertAdjacentHTML("beforeend", '<div style="height: 5000px"></div>');
+        window.scrollTo(0, out ? 9999 : 0);
+    }, bOut);
 }
 
 // Collects what read (a function for the page) gives until done(values) is true or the time is over; consecutive
