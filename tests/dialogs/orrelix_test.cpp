@@ -37,7 +37,7 @@ TEST_F(Orrelix, IsNewWithNothingSelected) {
     EXPECT_EQ(m_Orrelix.GetHTMLBody(0, 0), "Not Select DHTML Script\r\n");
     EXPECT_EQ(m_Orrelix.GetHTMLSegmentNumber(), 1);
     EXPECT_EQ(m_Orrelix.GetResourceNumber(), 0);
-    for (const short nPosition : {-2, 0, 1})
+    for (const short nPosition : {short(-2), short(0), short(1)})
         EXPECT_EQ(m_Orrelix.GetHTMLPosition(nPosition), nPosition == 0 ? "cursor" : "script");
 }
 

@@ -55,7 +55,7 @@ TEST_P(Session, GoesAsItStands) {
     std::string text, command;
     bool bAfterComment = false;
     for (std::string line; std::getline(session, line) || !command.empty(); line.clear()) {
-        if (line.starts_with("  > ")) {
+        if (!command.empty() && line.starts_with("  > ")) {
             command += "\n" + line.substr(4);
             text += line + "\n";
             continue;
