@@ -1,12 +1,17 @@
 // What a person at a shell sees: every file of tests/host/sessions is played in a folder of its own, in which
 // the examples are, and has to come out as it stands. A command stands behind "  $ ", with "  > " before its
 // further lines; then what it wrote, and its exit code in brackets unless it is 0. Lines that aren't indented
-// say why.
-#include "tests/host/program_test.h"
+// say why. Paths of the folder and of the component's library begin with $PWD and $LIBRARY in answers.
+#include "platform/module.h"
+#include "platform/paths.h"
 #include "tests/support/expected_text.h"
+#include "tests/support/temporary_directory.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <sstream>
+#include <stdlib.h>
+#include <sys/wait.h>
 
 namespace orrelix {
 
@@ -14,7 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path kSessions = ORRELIX_SOURCE_DIR "/tests/host/sessions";
+const fs::path kSource = ORRELIX_SOURCE_DIR;
+const fs::path kSessions = kSource / "tests/host/sessions";
 
 std::vector<std::string> SessionNames() {
     std::vector<std::string> names;
@@ -26,34 +32,45 @@ std::vector<std::string> SessionNames() {
     return names;
 }
 
-class Session : public ProgramTest, public testing::WithParamInterface<std::string> {
+class Session : public testing::TestWithParam<std::string> {
 protected:
+    Session() {
+        fs::copy(kSource / "examples", m_Folder.File(""), fs::copy_options::recursive);
+        const std::string path = fs::path(ORRELIX_PROGRAM).parent_path().string() + ":" + getenv("PATH");
+        setenv("PATH", path.c_str(), 1);
+        setenv("LC_ALL", "C.UTF-8", 1);
+        for (const char* pScreen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            unsetenv(pScreen); // nobody is there to answer a dialog
+    }
+
     // What the command writes, as the session has it.
     std::string Answer(const std::string& command) const {
-        CProgramLimits limits;
-        limits.m_Directory = m_Folder.File("").string();
-        const CProgramRun run = RunProgram({"/bin/sh", "-c", "exec 2>&1\n" + command}, limits);
-        std::string output = run.m_Output, answer;
-        const std::string folder = limits.m_Directory;
-        for (size_t n = output.find(folder); n != std::string::npos; n = output.find(folder, n))
-            output.replace(n, folder.size(), "$PWD/");
-        std::istringstream lines(output);
+        const std::string folder = m_Folder.File("").string();
+        FILE* pOutput = popen(("cd " + folder + "; exec 2>&1\n" + command).c_str(), "r");
+        CString output;
+        char block[4096];
+        while (const size_t nRead = fread(block, 1, sizeof block, pOutput))
+            output += std::string_view(block, nRead);
+        const int nStatus = pclose(pOutput);
+        output.Replace(folder, "$PWD/");
+        output.Replace(SystemSpelling(GetModuleDirectory()), "$LIBRARY");
+        std::istringstream lines(std::string(output.View()));
+        std::string answer;
         for (std::string line; std::getline(lines, line);)
             answer += line.empty() ? "\n" : "  " + line + (lines.eof() ? " (and no line end)\n" : "\n");
-        return answer + (run.m_nExitCode ? "  [" + std::to_string(run.m_nExitCode) + "]\n" : "");
+        const int nExitCode = WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
+        return answer + (nExitCode ? "  [" + std::to_string(nExitCode) + "]\n" : "");
     }
+
+    const CTemporaryDirectory m_Folder;
 };
 
 } // namespace
 
 TEST_P(Session, GoesAsItStands) {
-    fs::copy(Example(""), m_Folder.File(""), fs::copy_options::recursive);
-    const std::string path = fs::path(ORRELIX_PROGRAM).parent_path().string() + ":" + getenv("PATH");
-    setenv("PATH", path.c_str(), 1);
-    setenv("LC_ALL", "C.UTF-8", 1);
     std::istringstream session(FileContent(kSessions / (GetParam() + ".txt")));
     std::string text, command;
-    bool bAfterComment = false;
+    bool bAfterComment = true;
     for (std::string line; std::getline(session, line) || !command.empty(); line.clear()) {
         if (!command.empty() && line.starts_with("  > ")) {
             command += "\n" + line.substr(4);
@@ -64,7 +81,7 @@ TEST_P(Session, GoesAsItStands) {
             text += Answer(command);
         command = line.starts_with("  $ ") ? line.substr(4) : "";
         const bool bComment = !line.empty() && !line.starts_with("  ");
-        text += bComment && !bAfterComment && !text.empty() ? "\n" : "";
+        text += bComment && !bAfterComment ? "\n" : "";
         text += bComment || !command.empty() ? line + "\n" : "";
         bAfterComment = bComment;
     }
