@@ -1,5 +1,8 @@
 #include "controls/field_dialog.h"
 
+#include "controls/image_file.h"
+#include "controls/link_target.h"
+
 namespace orrelix {
 
 void CFieldDialog::AddFields(std::initializer_list<CField> fields) {
@@ -9,6 +12,18 @@ void CFieldDialog::AddFields(std::initializer_list<CField> fields) {
 
 void CFieldDialog::AddSlider(int nSlider, CString& position) {
     m_Sliders.push_back({nSlider, position});
+}
+
+void CFieldDialog::AddLinkTarget(int nComboBox, CString& word) {
+    m_LinkTargets.push_back({nComboBox, word});
+}
+
+void CFieldDialog::AddImageFile(int nButton, CString& path) {
+    OnClick(nButton, [this, &path] {
+        UpdateData(true);
+        if (ChooseImageFile(path))
+            UpdateData(false);
+    });
 }
 
 void CFieldDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
@@ -36,6 +51,11 @@ void CFieldDialog::DoDataExchange(CDataExchange& exchange) {
         exchange.Text(field.m_nId, field.m_Text);
     for (const CField& slider : m_Sliders)
         exchange.Position(slider.m_nId, slider.m_Text);
+    for (const CField& target : m_LinkTargets) {
+        int nRow = RowOfLinkTarget(target.m_Text);
+        exchange.Index(target.m_nId, nRow);
+        TakeLinkTarget(nRow, target.m_Text);
+    }
 }
 
 void CFieldDialog::SetUpSpins() {

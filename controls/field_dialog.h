@@ -30,11 +30,18 @@ protected:
         CString& m_Text;
     };
 
-    // In the constructor, as the next two.
+    // In the constructor, as the next four.
     void AddFields(std::initializer_list<CField> fields);
 
     // A slider, whose text is its position.
     void AddSlider(int nSlider, CString& position);
+
+    // A combo box without edit part that offers the link targets. A word of none of them selects nothing, and
+    // stays until something is picked.
+    void AddLinkTarget(int nComboBox, CString& word);
+
+    // The button by which the person chooses an image file for a field.
+    void AddImageFile(int nButton, CString& path);
 
     // pSection names the settings where the picker remembers mixed colours. One colour that is picked sets all
     // of the dialog from their pickers.
@@ -73,6 +80,7 @@ private:
 
     std::vector<CField> m_Fields;
     std::vector<CField> m_Sliders;
+    std::vector<CField> m_LinkTargets;
     std::list<CColourBox> m_Boxes;
 };
 

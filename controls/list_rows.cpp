@@ -34,9 +34,24 @@ CStringArray TextsOfRow(const CListCtrl& list, int nRow) {
 
 void InsertRow(CListCtrl& list, int nRow, const CStringArray& texts) {
     list.InsertItem(nRow, texts[0]);
-    for (int nColumn = 1; nColumn < static_cast<int>(texts.GetSize()); ++nColumn)
+    ReplaceRow(list, nRow, texts);
+}
+
+void ReplaceRow(CListCtrl& list, int nRow, const CStringArray& texts) {
+    for (int nColumn = 0; nColumn < static_cast<int>(texts.GetSize()); ++nColumn)
         list.SetItemText(nRow, nColumn, texts[nColumn]);
     list.SelectItem(nRow);
+}
+
+bool MoveSelectedRow(CListCtrl& list, int nStep) {
+    const int nFrom = list.GetFirstSelected();
+    const int nTo = nFrom + nStep;
+    if (nFrom < 0 || nTo < 0 || nTo >= list.GetItemCount())
+        return false;
+    const CStringArray texts = TextsOfRow(list, nFrom);
+    list.DeleteItem(nFrom);
+    InsertRow(list, nTo, texts);
+    return true;
 }
 
 } // namespace orrelix

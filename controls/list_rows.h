@@ -22,6 +22,13 @@ CStringArray TextsOfRow(const CListCtrl& list, int nRow);
 // list view can have several.
 void InsertRow(CListCtrl& list, int nRow, const CStringArray& texts);
 
+// Gives the row, which has to exist, other texts and selects it.
+void ReplaceRow(CListCtrl& list, int nRow, const CStringArray& texts);
+
+// Puts the first selected row nStep rows further and selects it there. False where no row is selected or it has
+// nowhere to go: nothing has changed then.
+bool MoveSelectedRow(CListCtrl& list, int nStep);
+
 // Which of the buttons "Move Up" and "Move Down" a selected row allows, counted from 0; -1 allows none.
 struct CMoves {
     bool m_bUp;

@@ -1,6 +1,7 @@
 #include "core/orrelix.h"
 
 #include "dialogs/animate_text_dlg.h"
+#include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "platform/paths.h"
 #include "resources/effects.h"
@@ -43,7 +44,7 @@ constexpr struct CEffectParts {
     {GadgetOf<&COrrelix::m_Calander>, nullptr},
     {GadgetOf<&COrrelix::m_CoolLink>, nullptr},
     {GadgetOf<&COrrelix::m_ScrollText>, nullptr},
-    {GadgetOf<&COrrelix::m_FadeSelect>, nullptr},
+    {GadgetOf<&COrrelix::m_FadeSelect>, RunDialog<CFadeSelectDlg, &COrrelix::m_FadeSelect>},
     {GadgetOf<&COrrelix::m_ToolTip>, nullptr},
     {GadgetOf<&COrrelix::m_TodayCa>, nullptr},
     {GadgetOf<&COrrelix::m_DanceText>, nullptr},

@@ -14,11 +14,6 @@ protected:
         dialog.m_pGadget = &m_Gadget;
         return dialog.DoModal();
     }
-    // The state of the move buttons as a person sees it: "up", "down", "both" or "none".
-    void ShowsMoves(const std::string& moves) {
-        m_Person.ShowsEnabled("Move Up", moves == "up" || moves == "both");
-        m_Person.ShowsEnabled("Move Down", moves == "down" || moves == "both");
-    }
 
     CAnimateText m_Gadget;
     CPersonScript& m_Steps = m_Person.In("Animate Text");

@@ -5,10 +5,12 @@
 #include "controls/padding_dlg.h"
 #include "controls/url_dlg.h"
 #include "dialogs/animate_text_dlg.h"
+#include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "resources/animate_text_description.h"
 #include "resources/border_description.h"
 #include "resources/copy_resources_description.h"
+#include "resources/fade_select_description.h"
 #include "resources/font_description.h"
 #include "resources/padding_description.h"
 #include "resources/select_script_description.h"
@@ -71,6 +73,7 @@ const std::vector<CTestedDialog>& AllDialogs() {
     using Font = CCalanderFontDlg;
     using Border = CBorderPropertiesDlg;
     using Padding = CPaddingDlg;
+    using FadeItem = CFadeItemDlg;
     static const std::vector<CTestedDialog> dialogs = {
         {"animate_text", AnimateTextDescription, OfEffect<CAnimateTextDlg, CAnimateText>},
         {"border", BorderDescription,
@@ -85,6 +88,18 @@ const std::vector<CTestedDialog>& AllDialogs() {
                           {"m_FontWeight", &Font::m_FontWeight},
                           {"m_TextAlign", &Font::m_TextAlign}})},
         {"copy_resources", CopyResourcesDescription},
+        {"fade_select", FadeSelectDescription, OfEffect<CFadeSelectDlg, CFadeSelect>},
+        {"fade_select_drop_button", DropButtonDescription, OfEffect<CDropButtonDlg, CFadeSelect>},
+        {"fade_select_drop_table", DropTableDescription, OfEffect<CDropTableDlg, CFadeSelect>},
+        {"fade_select_item", FadeItemDescription,
+         OfMembers<FadeItem>({{"m_Text", &FadeItem::m_Text},
+                              {"m_ToolTip", &FadeItem::m_ToolTip},
+                              {"m_Color", &FadeItem::m_Color},
+                              {"m_Image", &FadeItem::m_Image},
+                              {"m_ImageWidth", &FadeItem::m_ImageWidth},
+                              {"m_ImageHeight", &FadeItem::m_ImageHeight},
+                              {"m_ImageBorder", &FadeItem::m_ImageBorder}})},
+        {"fade_select_selected_item", SelectedItemDescription, OfEffect<CSelectedItemDlg, CFadeSelect>},
         {"font", FontPropertiesDescription,
          OfMembers<CFontPropertiesDlg>({{"m_FontFace", &CFontPropertiesDlg::m_FontFace},
                                         {"m_FontSize", &CFontPropertiesDlg::m_FontSize},

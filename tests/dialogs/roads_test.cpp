@@ -1,0 +1,138 @@
+// The whole road of each effect: a person works in its dialogs, down to the last one; the file is written and
+// read, and the dialogs open again. Tells in tests/expected/roads which fields the work has changed, and shows
+// that Cancel in the effect's dialog leaves all of them.
+#include "core/orrelix.h"
+#include "tests/support/effect_fields.h"
+#include "tests/support/expected_text.h"
+#include "tests/support/person_test.h"
+#include "tests/support/temporary_directory.h"
+
+#include <map>
+
+namespace orrelix {
+
+namespace {
+
+using CValues = std::map<std::string, CString>;
+
+struct CRoad {
+    const char* m_pName;
+    const char* m_pType;
+    const char* m_pTitle;
+    // The work in the effect's dialog, but for its last button. `image` is a file.
+    void (*m_pWork)(CPersonScript& person, const CString& image);
+};
+
+// Fills a font dialog, which begins with this size.
+void FillFont(CPersonScript& person, const char* pShownSize, const char* pSize) {
+    person.In("Font Properties").Shows("Font Size:", pShownSize).Types("Font Size:", pSize);
+    person.Picks("Font Weight:", "bolder").Picks("Font Style:", "oblique");
+    person.Types("Specify the Font Face:", "Arial, serif").Clicks("OK");
+}
+
+void FillUrl(CPersonScript& person, const char* pShownUrl, const char* pUrl) {
+    person.In("Input an URL:").Shows("URL", pShownUrl).Types("URL", pUrl).Clicks("OK");
+}
+
+void FillPadding(CPersonScript& person) {
+    person.In("Padding Style").Types("Left:", "2").Types("Right:", "3").Types("Top:", "4");
+    person.Types("Bottom:", "5").Clicks("OK");
+}
+
+void EditFadeSelect(CPersonScript& person, const CString& image) {
+    const CString url = "The informations of this URL:";
+    // A new item's font and address are asked for from nothing each time.
+    person.Clicks("Add...").In("Item Properties").Shows("Font Color:", "c0c0c0").Shows("Width:", "");
+    person.Types("Item Text:", "News, old").Types("Item ToolTip:", "all, of it").Types("Border:", "1");
+    person.Turns("Width:", 3).Types("Height:", "50%").Clicks("Choose an Image File").ChoosesFile(image);
+    person.Shows("File Name:", image).Shows("Item Text:", "News, old").Clicks("Font More...");
+    FillFont(person, "", "12");
+    person.In("Item Properties").Clicks("Font More...");
+    FillFont(person, "", "13");
+    person.In("Item Properties").Clicks(url);
+    FillUrl(person, "", "http://first/");
+    person.In("Item Properties").Clicks(url).In("Input an URL:").Shows("URL", "").Clicks("Cancel");
+    person.In("Item Properties").Types("Font Color:", "0000ff").Clicks("OK").In("Fade Select Box");
+
+    person.SelectsRow("Items", 4).Clicks("Modify...").In("Item Properties").Clicks("Font More...");
+    FillFont(person, "13", "14");
+    person.In("Item Properties").Clicks(url);
+    FillUrl(person, "http://first/", "http://second/?a,b");
+    person.In("Item Properties").Types("Item Text:", "News").Clicks("OK").In("Fade Select Box");
+    person.Clicks("Move Up").SelectsRow("Items", 0).Clicks("Delete");
+
+    person.Clicks("Selected Item...").In("Selected Item Style").Types("Width:", "4").Clicks("Font..");
+    FillFont(person, "20", "21");
+    person.In("Selected Item Style").Picks("Link Target:", "Parent Frame(_parent)").Clicks("OK");
+    person.In("Fade Select Box").Clicks("Drop Table...").In("Drop Down Table Style");
+    person.Picks("Border Style:", "groove").Clicks("Item Padding Style:");
+    FillPadding(person);
+    person.In("Drop Down Table Style").Clicks("OK").In("Fade Select Box").Clicks("Drop Button...");
+    person.In("Drop Button Style").Types("Arrow Size:", "8").Clicks("OK");
+    // What is cancelled below stays as it is, also when something below that was not.
+    person.In("Fade Select Box").Clicks("Drop Table...").In("Drop Down Table Style");
+    person.Types("Border Width:", "99").Clicks("Item Padding Style:");
+    person.In("Padding Style").Shows("Top:", "4").Types("Left:", "99").Clicks("OK");
+    person.In("Drop Down Table Style").Clicks("Cancel").In("Fade Select Box");
+    person.Clicks("Modify...").Answers("Please select an item to modify!");
+}
+
+const CRoad kRoads[] = {
+    {"fade_select", "6", "Fade Select Box", EditFadeSelect},
+};
+
+class Road : public PersonTest, public testing::WithParamInterface<CRoad> {
+protected:
+    void Work(const char* pLastButton) {
+        m_Orrelix.SelectType(GetParam().m_pType);
+        GetParam().m_pWork(m_Person.In(GetParam().m_pTitle), m_Images.Path("photo.gif"));
+        m_Person.In(GetParam().m_pTitle).Clicks(pLastButton);
+    }
+    static CValues ValuesOf(COrrelix& orrelix) {
+        CValues values;
+        for (const CNamedText& field : FieldsOf(*orrelix.m_pGadget))
+            values[field.m_Name] = *field.m_pText;
+        return values;
+    }
+
+    COrrelix m_Orrelix;
+    const CTemporaryDirectory m_Images, m_Site;
+    const CString m_Image = m_Images.Write("photo.gif", "an image");
+};
+
+} // namespace
+
+TEST_P(Road, CancelLeavesEveryField) {
+    Work("Cancel");
+    const CValues before = ValuesOf(m_Orrelix);
+    EXPECT_FALSE(m_Orrelix.Config());
+    EXPECT_EQ(ValuesOf(m_Orrelix), before);
+}
+
+TEST_P(Road, LeadsFromTheDialogsThroughTheFileAndBack) {
+    Work("OK");
+    const CValues before = ValuesOf(m_Orrelix);
+    EXPECT_TRUE(m_Orrelix.Config());
+    EXPECT_TRUE(m_Orrelix.WriteConfigFile(m_Site.Path("page.cfg")));
+    const CValues stored = ValuesOf(m_Orrelix);
+    std::string changed;
+    for (auto [name, value] : stored) {
+        value.Replace(m_Site.Path(), "SITE\\");
+        if (const auto old = before.find(name); old == before.end() || old->second != value)
+            changed += name + " = " + std::string(value.View()) + "\n";
+    }
+    const std::string file = std::string(GetParam().m_pName) + ".txt";
+    EXPECT_TRUE(EqualsExpected(ORRELIX_SOURCE_DIR "/tests/expected/roads/" + file, changed));
+
+    COrrelix later;
+    EXPECT_TRUE(later.ReadConfigFile(m_Site.Path("page.cfg")));
+    EXPECT_EQ(ValuesOf(later), stored);
+    m_Person.Clicks("OK");
+    EXPECT_TRUE(later.Config());
+    EXPECT_EQ(ValuesOf(later), stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Road, testing::ValuesIn(kRoads),
+                         [](const auto& road) { return road.param.m_pName; });
+
+} // namespace orrelix
