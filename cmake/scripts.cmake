@@ -1,15 +1,16 @@
 # The script files, as they are shipped beside the library.
 #
 # A page counts on finding the one script file of its effect and no other, so each carries what it shares with others in
-# front of itself: the compatibility script, and the drop-down list where it is one. fade.js goes without: a page loads
-# it behind fadeselect.js. Shipped as the compatibility script, it has Slide Text and Color Link with it, which have no
-# file of their own and may stand on a page with any other effect.
+# front of itself: the compatibility script, what some ask of the page's layout, and the drop-down list where it is one.
+# fade.js goes without: a page loads it behind fadeselect.js. Shipped as the compatibility script, it has Slide Text and
+# Color Link with it, which have no file of their own and may stand on a page with any other effect.
 #
 # Three are registered as resources under another spelling than their own. Where the disk tells case apart they lie
 # there under both, so that a host that copies what is registered finds it.
 file(GLOB script_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} scripts/*.js)
-set(compatibility scripts/orrelix-compat.js scripts/moving.js scripts/slide_text.js scripts/color_link.js)
-list(REMOVE_ITEM script_sources ${compatibility} scripts/drop_down.js)
+set(compatibility orrelix-compat.js language.js moving.js slide_text.js color_link.js)
+list(TRANSFORM compatibility PREPEND scripts/)
+list(REMOVE_ITEM script_sources ${compatibility} scripts/drop_down.js scripts/layout.js)
 list(APPEND script_sources scripts/orrelix-compat.js)
 set(registered_otherwise animate.js Todayca.js Tooltip.js)
 set(registered_animate.js Animate.js)
@@ -22,6 +23,9 @@ foreach(script ${script_sources})
     list(REMOVE_ITEM parts ${compatibility})
     if(name MATCHES "^(fadeselect|select)\\.js$")
         list(PREPEND parts scripts/drop_down.js)
+    endif()
+    if(name MATCHES "^(fadeselect|select|Todayca)\\.js$")
+        list(PREPEND parts scripts/layout.js)
     endif()
     if(NOT name STREQUAL fade.js)
         list(PREPEND parts ${compatibility})

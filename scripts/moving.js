@@ -115,15 +115,6 @@
         element.addEventListener("focusout", () => handle.resume(byFocus), { signal });
     };
 
-    const STOP = {
-        en: "Stop the movement",
-        de: "Bewegung anhalten",
-        es: "Detener el movimiento",
-        fr: "Arr\u00eater le mouvement",
-        it: "Fermare il movimento",
-        ja: "\u52d5\u304d\u3092\u6b62\u3081\u308b",
-        zh: "\u505c\u6b62\u6eda\u52a8",
-    };
     const BARS = "M6 5h2v8h-2zM10 5h2v8h-2z";
     const TRIANGLE = "M7 5l6 4l-6 4z";
 
@@ -146,15 +137,14 @@
     // element where it belongs: place is "corner", of the next positioned box around, or "line", among the text.
     // It stands in a shadow tree, so that no rule of the page's reaches it and none of ours reaches the page.
     brndfn.stop = (handle, place) => {
-        const [label, language] = brndfn.inPageLanguage(STOP);
         const element = document.createElement("brndfn-stop");
         element.setAttribute("place", place);
-        element.lang = language;
+        element.lang = brndfn.ownLanguage();
         const shadow = element.attachShadow({ mode: "open" });
         shadow.adoptedStyleSheets = [look];
         shadow.innerHTML = `<button type="button">${DRAWING}</button>`;
         const [button, path] = shadow.querySelectorAll("button, path");
-        button.ariaLabel = label;
+        button.ariaLabel = brndfn.say("Stop the movement");
         let bStopped = false;
 
         function show() {

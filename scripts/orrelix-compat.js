@@ -107,7 +107,22 @@
             style.textContent = repaired;
     }
 
-    // Repairs the style attributes and the <style> elements of an effect's markup. The attribute holds dropped
+    // What an image's attributes say becomes its style, which no style sheet of the page overrules. 0 stands for a size
+    // that nobody chose: the image shows in its own.
+    function repairImage(image) {
+        for (const side of ["width", "height"]) {
+            const size = parseInt(image.getAttribute(side), 10);
+            if (size > 0)
+                image.style[side] = `${size}px`;
+            else
+                image.removeAttribute(side);
+        }
+        const border = parseInt(image.getAttribute("border"), 10);
+        if (border >= 0)
+            image.style.border = `${border}px solid`;
+    }
+
+    // Repairs the style attributes, the images and the <style> elements of an effect's markup. The attribute holds dropped
     // declarations only until a script sets one of the element's styles, so this has to come first.
     function repair(element) {
         for (const styled of [element, ...element.querySelectorAll("[style]")]) {
@@ -116,8 +131,8 @@
             if (repaired && repaired !== raw)
                 styled.setAttribute("style", repaired);
         }
-        for (const style of element.querySelectorAll("style"))
-            repairSheet(style);
+        element.querySelectorAll("img").forEach(repairImage);
+        element.querySelectorAll("style").forEach(repairSheet);
         if (element.localName === "style")
             repairSheet(element);
     }
@@ -127,12 +142,6 @@
             document.addEventListener("DOMContentLoaded", () => fn(), { once: true });
         else
             fn();
-    }
-
-    // Of words by language, those of the page's language: [words, their language]; English where it isn't among them.
-    function inPageLanguage(words) {
-        const language = document.documentElement.lang.split("-", 1)[0].toLowerCase();
-        return Object.hasOwn(words, language) ? [words[language], language] : [words.en, "en"];
     }
 
     // The live collection as a function: truthy, and callable as call(...) says.
@@ -241,5 +250,5 @@
         runAll(loadHandlers, [event]);
     });
 
-    window.brndfn = { css, repair, ready, inPageLanguage };
+    window.brndfn = { css, repair, ready };
 })();

@@ -38,16 +38,33 @@ testEverywhere("calander_plain", "draws this month as a table, today marked, and
     assert.deepEqual(await texts(today), ["1"]);
 }, { before: at("2024-02-29T23:59:59") });
 
-testEverywhere("calander_plain", "draws every kind of month", async ({ page }) => {
-    for (const month of KNOWN_MONTHS) {
+// How much two colours "rgb(…)" differ to the eye: 21 for black and white, 4.5 for a text that can be read.
+function contrast(...colors) {
+    const [dark, light] = colors.map((color) => {
+        const [red, green, blue] = color.match(/\d+/g).map((part) => ((part / 255 + 0.055) / 1.055) ** 2.4);
+        return 0.05 + 0.2126 * red + 0.7152 * green + 0.0722 * blue;
+    }).sort((a, b) => a - b);
+    return light / dark;
+}
+
+testEverywhere("calander_plain", "draws every kind of month, and a mark that can be read", async ({ page }) => {
+    for (const [i, month] of KNOWN_MONTHS.entries()) {
         const [year, nMonth, nDays, nFirst] = month;
-        const drawn = await page.evaluate((now) => {
+        const mark = ["#ff0000", "#777777", "#fefefe", "#0000ff", "#ff6820", "#008080"][i % 6];
+        const [drawn, style] = await page.evaluate(([now, color]) => {
             window.testNow = now;
-            brndfncalencalendar("#ffffff", "#ff0000");
+            brndfncalencalendar("#ffffff", color);
             const table = [...document.querySelectorAll("table")].at(-1);
+            const today = table.querySelector("[aria-current=date]");
+            const { color: text, backgroundColor, boxShadow } = getComputedStyle(today);
             table.parentElement.remove();
-            return [table.caption, ...table.querySelectorAll("td")].map((element) => element.textContent);
-        }, `${year}-${String(nMonth + 1).padStart(2, "0")}-28T12:00`);
+            return [
+                [table.caption, ...table.querySelectorAll("td")].map((element) => element.textContent),
+                { text, backgroundColor, boxShadow },
+            ];
+        }, [`${year}-${String(nMonth + 1).padStart(2, "0")}-28T12:00`, mark]);
+        assert.ok(contrast(style.text, style.backgroundColor) >= 4.5, JSON.stringify(style));
+        assert.equal(style.boxShadow === "none", contrast(style.backgroundColor, "rgb(255, 255, 255)") >= 3, mark);
         const nCells = 7 * Math.ceil((nFirst + nDays) / 7);
         assert.deepEqual(drawn, [`${MONTHS[nMonth]} ${year}`, ...cellsOf(nCells, month)]);
     }
@@ -126,13 +143,48 @@ testEverywhere("today_ca_rich", "looks as the author chose and is told to those 
     assert.equal(await page.locator(".brndfnday[aria-hidden=true]").count(), 7, "boxes that are no days");
 }, { before: at("2026-11-22T21:05") });
 
-const together = await Promise.all(["today_ca_plain", "calander_plain", "today_ca_rich"].map(pageText));
-const part = (tag) => together.map((text) => new RegExp(`<${tag}[^>]*>(.*)</${tag}>`, "is").exec(text)[1]).join("");
-testEverywhere(givePage(`<html><head>${part("head")}</head><body>${part("body")}</body></html>`), "each calendar moves alone",
-    async ({ page }) => {
+// One of them inside a form of the page's own, where the parser drops the calendar's.
+const [inForm, calender, other] = (await Promise.all(["today_ca_plain", "calander_plain", "today_ca_rich"].map(pageText)))
+    .map((text) => ["head", "body"].map((tag) => new RegExp(`<${tag}[^>]*>(.*)</${tag}>`, "is").exec(text)[1]));
+const together = (body, head = "") =>
+    givePage(`<html lang="en"><head>${head}${inForm[0]}${calender[0]}${other[0]}</head><body>${body}</body></html>`);
+
+testEverywhere(together(`<form id="own"><input name="word">${inForm[1]}<input name="other"></form>${calender[1]}${other[1]}`),
+    "each calendar moves alone, and leaves a form around it as it is", async ({ page }) => {
         await button(page, "Next month").first().click();
         await button(page, "Previous year").last().click();
         assert.deepEqual(await days(page, 0), cellsOf(37, [2026, 11, 31, 2]));
         assert.deepEqual(await days(page, 1), cellsOf(37, [2025, 10, 30, 6]));
         assert.equal(await page.getByRole("table", { name: "November 2026" }).count(), 1);
+        const own = () => [...document.getElementById("own").elements].map((element) => element.name);
+        assert.deepEqual(await page.evaluate(own), ["word", "other"]);
     }, { before: at("2026-11-22T21:05") });
+
+testEverywhere(together(calender[1] + inForm[1], "<script>document.documentElement.lang = location.hash.slice(1)</script>"),
+    "speaks the page's language", async ({ page }) => {
+        for (const [lang, month, monthName, next, day] of [
+            ["de-AT", "M\u00e4rz 2026", "M\u00e4rz", "N\u00e4chster Monat", "Mittwoch, 4. M\u00e4rz 2026"],
+            ["zh", "2026\u5e743\u6708", "March", "\u4e0b\u4e2a\u6708", "2026\u5e743\u67084\u65e5\u661f\u671f\u4e09"],
+            ["-", "March 2026", "March", "Next month", "Wednesday, March 4, 2026"],
+        ]) {
+            await page.evaluate((hash) => (location.hash = hash), lang);
+            await page.reload();
+            assert.equal(await page.locator("caption").textContent(), month);
+            assert.equal(await shown(page), `2026 ${monthName}`);
+            assert.equal(await page.locator("input[aria-current]").getAttribute("aria-label"), day);
+            assert.equal(await button(page, next).count(), 1);
+        }
+    }, { before: at("2026-03-04T12:00") });
+
+// Sizes that no text fits into, and a window that no calendar of these would fit into.
+const cramped = (text) => text.replaceAll(/(height|width): ?\d+(?=px|;)/g, (_, side) => `${side}:${side === "height" ? 6 : 70}`)
+    .replaceAll(/font-size: ?\d+pt/g, "font-size: 24pt").replace('"Hello ', '"Welcome to the mill in the valley, dear visitor, on ');
+testEverywhere(together(cramped(calender[1] + inForm[1])), "every text stands whole in a narrow window", async ({ page }) => {
+    assert.ok(await page.evaluate(() => document.scrollingElement.scrollWidth <= document.scrollingElement.clientWidth));
+    const cut = await page.evaluate(() => [...document.querySelectorAll(".brndfncalendar input, .brndfnwhole, [role=timer]")]
+        .filter((box) => box.checkVisibility() && (box.scrollWidth > box.clientWidth + 1 || box.clientHeight
+            < parseFloat(getComputedStyle(box).fontSize) || parseFloat(getComputedStyle(box).fontSize) < 11))
+        .map((box) => [box.value ?? box.textContent, box.clientWidth, box.clientHeight, getComputedStyle(box).fontSize]));
+    assert.deepEqual(cut, []);
+    assert.ok(await page.getByText("Welcome to the mill").isVisible());
+}, { before: at("2026-11-22T21:05"), context: { viewport: { width: 360, height: 640 } } });
