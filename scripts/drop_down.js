@@ -1,7 +1,7 @@
 // The drop-down list of links that Fade Select Box and Link Select Table share; the build puts it between
 // orrelix-compat.js and the script of either.
 //
-//     const dropDown = brndfn.dropDown({ box, field, text, list, rows, options, label, overCss });
+//     const dropDown = brndfn.dropDown({ box, field, text, list, rows, options, overCss });
 //
 // The box becomes what the page's text counts on: it has options and selectedIndex, and its onchange attribute
 // runs when the visitor chooses an item that has an address. The field is the combobox that keys and screen readers
@@ -14,16 +14,27 @@
     if (brndfn.dropDown)
         return;
 
+    // Nothing that the page's style sheets say of tables, cells and images holds here, nor what they say of all
+    // elements: ":not(#_)" outranks every class of theirs. On paper the list stands open below its field.
     const STYLE = `
-        .brndfn-frame { font: inherit !important; color: inherit !important; }
-        .brndfn-box { box-sizing: border-box; display: inline-block; vertical-align: top; text-align: left; }
-        .brndfn-field { user-select: none; -webkit-user-select: none; }
-        .brndfn-text { overflow: hidden; text-overflow: ellipsis; white-space: nowrap; }
-        :where(.brndfn-text, .brndfn-row) img { vertical-align: middle; margin-right: 0.3em; }
+        :where(.brndfn-table, .brndfn-table > tbody, .brndfn-table > tbody > tr, .brndfn-table > tbody > tr > td,
+            .brndfn-text img, .brndfn-row img):not(#_) { all: revert; }
+        :where(.brndfn-table > tbody > tr > td):not(#_) { padding: 1px; }
+        .brndfn-table:not(#_) { font: inherit; color: inherit; }
+        .brndfn-box:not(#_) { box-sizing: border-box; display: inline-block; vertical-align: top; text-align: left;
+            line-height: normal; print-color-adjust: exact; -webkit-print-color-adjust: exact; }
+        .brndfn-field:not(#_) { user-select: none; -webkit-user-select: none; }
+        .brndfn-text:not(#_) { overflow: hidden; text-overflow: ellipsis; white-space: nowrap; }
+        :where(.brndfn-text, .brndfn-row) img:not(#_) { vertical-align: middle; margin-right: 0.3em; }
         :where(.brndfn-list) { border: 0; padding: 0; color: inherit; }
-        .brndfn-list { position: absolute !important; visibility: visible !important; width: max-content !important;
-            inset: auto; margin: 0; box-sizing: border-box; overflow: auto; }
-        .brndfn-row { box-sizing: border-box; display: flex; align-items: center; white-space: nowrap; }`;
+        .brndfn-list:not(#_) { position: absolute; visibility: visible; width: max-content; inset: auto; margin: 0;
+            box-sizing: border-box; overflow: hidden auto; overscroll-behavior: contain; }
+        .brndfn-row:not(#_) { box-sizing: border-box; display: block; align-content: center; white-space: normal;
+            overflow-wrap: anywhere; }
+        .brndfn-row nobr { white-space: inherit; }
+        @media print {
+            .brndfn-list:not(#_) { display: block !important; position: static; opacity: 1 !important;
+                width: auto !important; max-height: none !important; } }`;
     document.head.append(Object.assign(document.createElement("style"), { textContent: STYLE }));
 
     // Stands in for the triangle of a symbol font that no visitor has today; as high as the font size says.
@@ -41,47 +52,41 @@
             element.setAttribute(name, value);
     }
 
-    // An image without alternative text is named by the item's text or, where there is none, by the address. One
-    // that was given no size (0 by 0) shows in its own.
-    function mendImages(row, address) {
-        for (const image of row.querySelectorAll("img")) {
-            if (!image.hasAttribute("alt"))
-                image.alt = row.textContent.trim() === "" ? address : "";
-            if (image.getAttribute("width") === "0" && image.getAttribute("height") === "0") {
-                image.removeAttribute("width");
-                image.removeAttribute("height");
-            }
-        }
+    // An image without alternative text is named by the item's text or, where there is none, by the address.
+    function nameImages(row, address) {
+        for (const image of row.querySelectorAll("img:not([alt])"))
+            image.alt = row.textContent.trim() === "" ? address : "";
     }
 
     class DropDown {
         // box      the element that answers as "this" in its onchange attribute
         // field    opens the list; text, within it, shows the chosen item
         // list     holds rows, one element for each of options (objects whose value is the address)
-        // label    the name for a screen reader
         // overCss  what the marked row wears on top of its own style
         // nShown   how many rows the open list shows before it scrolls
         // onOpen() is called when the list is there, onClose(hide) when it is to go: by calling hide
         constructor(parts) {
             Object.assign(this, { nShown: Infinity, onOpen() {}, onClose: (hide) => hide() }, parts);
+            this.frame = this.box.closest("table");
             this.bOpen = false;
             this.chosen = 0;
             this.marked = undefined; // {index, styles}: the row that wears overCss, and what it wore before
             this.typed = { text: "", at: 0 };
             this.bByKeys = false; // a key came last: rows that pass under a resting pointer tell nothing
-            this.place = this.place.bind(this);
-            this.pressed = this.pressed.bind(this);
+            this.pointer = undefined; // where it was last over the list
+            for (const listener of ["pressed", "layOut", "scrolled"])
+                this[listener] = this[listener].bind(this);
             this.prepare();
             this.listen();
             this.setChosen(0);
         }
 
         prepare() {
-            const { box, field, text, list, rows, options, label } = this;
+            const { box, field, frame, text, list, rows, options } = this;
             const id = `brndfn-list-${++nLists}`;
+            const label = brndfn.say("Links");
             box.classList.add("brndfn-box");
-            const frame = box.closest("table");
-            frame.classList.add("brndfn-frame");
+            frame.classList.add("brndfn-table");
             frame.setAttribute("role", "presentation");
             text.classList.add("brndfn-text");
             field.classList.add("brndfn-field");
@@ -94,7 +99,7 @@
             rows.forEach((row, index) => {
                 row.classList.add("brndfn-row");
                 setAttributes(row, { id: `${id}-${index}`, role: "option", "aria-selected": false });
-                mendImages(row, options[index].value);
+                nameImages(row, options[index].value);
             });
             Object.defineProperty(box, "options", { get: () => options });
             Object.defineProperty(box, "selectedIndex", {
@@ -104,7 +109,7 @@
         }
 
         listen() {
-            const { box, list } = this;
+            const { box, frame, list } = this;
             box.addEventListener("keydown", (event) => this.key(event));
             box.addEventListener("focusout", (event) => {
                 if (!box.contains(event.relatedTarget))
@@ -115,10 +120,23 @@
                 if (event.target !== list)
                     event.preventDefault();
             });
-            list.addEventListener("mousemove", (event) => {
-                this.bByKeys = false;
-                this.over(event);
-            });
+            list.addEventListener("mousemove", (event) => this.over(event));
+            brndfn.onResize(frame.parentElement, () => this.keepInWindow());
+        }
+
+        // Moves the box to the left, and makes it narrower, where the page would have to scroll sideways for it.
+        keepInWindow() {
+            const { box, frame } = this;
+            this.left ??= parseFloat(getComputedStyle(frame).left) || 0;
+            frame.style.left = `${this.left}px`;
+            box.style.maxWidth = "";
+            const tooFar = frame.getBoundingClientRect().right - brndfn.rightEdge(frame) + WINDOW_EDGE;
+            if (tooFar <= 0)
+                return;
+            const moved = Math.min(tooFar, Math.max(this.left, 0));
+            frame.style.left = `${this.left - moved}px`;
+            if (tooFar > moved)
+                box.style.maxWidth = `${box.offsetWidth - (tooFar - moved)}px`;
         }
 
         setChosen(index) {
@@ -153,13 +171,13 @@
             this.bOpen = true;
             if (!this.list.matches(":popover-open"))
                 this.list.showPopover();
-            this.steadyRows();
-            this.place();
+            this.pointer = undefined;
+            this.layOut();
             this.field.setAttribute("aria-expanded", true);
             this.moveTo(this.chosen);
             document.addEventListener("pointerdown", this.pressed, true);
-            document.addEventListener("scroll", this.place, { capture: true, passive: true });
-            window.addEventListener("resize", this.place);
+            document.addEventListener("scroll", this.scrolled, { capture: true, passive: true });
+            window.addEventListener("resize", this.layOut);
             this.onOpen();
         }
 
@@ -168,8 +186,8 @@
                 return;
             this.bOpen = false;
             document.removeEventListener("pointerdown", this.pressed, true);
-            document.removeEventListener("scroll", this.place, { capture: true });
-            window.removeEventListener("resize", this.place);
+            document.removeEventListener("scroll", this.scrolled, { capture: true });
+            window.removeEventListener("resize", this.layOut);
             this.field.setAttribute("aria-expanded", false);
             this.field.removeAttribute("aria-activedescendant");
             if (this.list.contains(document.activeElement))
@@ -186,46 +204,61 @@
                 this.close();
         }
 
-        // Below the box, or above it where there is more room; never out of the window.
-        place(event) {
-            const { list, box, rows } = this;
-            if (event?.target === list)
-                return;
-            const view = document.scrollingElement ?? document.documentElement;
-            const at = box.getBoundingClientRect();
-            list.style.minWidth = `${Math.max(at.width, this.width)}px`;
-            list.style.maxWidth = `${view.clientWidth - 2 * WINDOW_EDGE}px`;
-            list.style.maxHeight = "none";
-            const last = rows[Math.min(this.nShown, rows.length) - 1];
-            const borders = list.offsetHeight - list.clientHeight;
-            const wanted = last.offsetTop + last.offsetHeight + borders;
-            const above = at.top - WINDOW_EDGE;
-            const below = view.clientHeight - at.bottom - WINDOW_EDGE;
-            const bUp = wanted > below && above > below;
-            const height = Math.min(wanted, Math.max(bUp ? above : below, rows[0].offsetHeight));
-            const left = Math.min(at.left, view.clientWidth - WINDOW_EDGE - list.offsetWidth);
-            list.style.maxHeight = `${height}px`;
-            list.style.left = `${Math.max(left, WINDOW_EDGE) + window.scrollX}px`;
-            list.style.top = `${(bUp ? at.top - height : at.bottom) + window.scrollY}px`;
+        // The list goes with its box; what else scrolls on the page is nothing to it.
+        scrolled(event) {
+            if (event.target.contains(this.box))
+                this.place();
         }
 
-        // Makes each row as high, and the list as wide, as the larger of its two looks, so that nothing jumps under
+        // Gives the list its size: as wide as its widest row, as high as its rows, and never out of the window, where
+        // long texts go on in a second line.
+        layOut() {
+            const { list, box, rows } = this;
+            const view = document.scrollingElement ?? document.documentElement;
+            const at = box.getBoundingClientRect();
+            const room = view.clientWidth - 2 * WINDOW_EDGE;
+            const nScrolled = list.scrollTop;
+            list.style.maxHeight = "none";
+            this.steadyRows(at.width, room);
+            const last = rows[Math.min(this.nShown, rows.length) - 1];
+            const wanted = last.offsetTop + last.offsetHeight + list.offsetHeight - list.clientHeight;
+            const sides = list.offsetWidth - list.clientWidth;
+            const above = at.top - WINDOW_EDGE;
+            const below = view.clientHeight - at.bottom - WINDOW_EDGE;
+            this.bUp = wanted > below && above > below;
+            const height = Math.min(wanted, Math.max(this.bUp ? above : below, rows[0].offsetHeight));
+            list.style.maxHeight = `${height}px`;
+            const scrollBar = list.offsetWidth - list.clientWidth - sides;
+            list.style.width = `${Math.min(list.offsetWidth + scrollBar, room)}px`;
+            list.scrollTop = nScrolled;
+            this.place();
+        }
+
+        // Below the box, or above it where there is more room.
+        place() {
+            const { list, box, bUp } = this;
+            const view = document.scrollingElement ?? document.documentElement;
+            const at = box.getBoundingClientRect();
+            const left = Math.min(at.left, view.clientWidth - WINDOW_EDGE - list.offsetWidth);
+            list.style.left = `${Math.max(left, WINDOW_EDGE) + window.scrollX}px`;
+            list.style.top = `${(bUp ? at.top - list.offsetHeight : at.bottom) + window.scrollY}px`;
+        }
+
+        // Makes the list as wide, and each row as high, as the larger of its two looks, so that nothing jumps under
         // the pointer when the mark moves.
-        steadyRows() {
+        steadyRows(least, most) {
             const { list, rows } = this;
-            list.style.minWidth = "";
+            list.style.width = "";
             for (const row of rows)
                 row.style.minHeight = "";
-            const heights = rows.map((row) => row.offsetHeight);
-            const width = list.offsetWidth;
             const families = rows.map(familyOf);
+            const width = list.offsetWidth;
             const styles = rows.map((row, index) => this.dress(row, families[index]));
+            list.style.width = `${Math.min(Math.max(least, width, list.offsetWidth), most)}px`;
             const markedHeights = rows.map((row) => row.offsetHeight);
-            this.width = Math.max(width, list.offsetWidth);
-            rows.forEach((row, index) => {
-                undress(styles[index]);
-                row.style.minHeight = `${Math.max(heights[index], markedHeights[index])}px`;
-            });
+            styles.forEach(undress);
+            const heights = rows.map((row) => row.offsetHeight);
+            rows.forEach((row, index) => (row.style.minHeight = `${Math.max(heights[index], markedHeights[index])}px`));
         }
 
         // Gives the row the look of the mark; the result is for undress. An item's own font and colour stand on a
@@ -256,8 +289,13 @@
             return this.rows.indexOf(event.target.closest(".brndfn-row"));
         }
 
+        // Some browsers tell of a pointer that moves when rows pass under a resting one: its place tells them apart.
         over(event) {
+            const { screenX, screenY } = event;
             const index = this.rowOf(event);
+            if (this.pointer && (this.pointer.screenX !== screenX || this.pointer.screenY !== screenY))
+                this.bByKeys = false;
+            this.pointer = { screenX, screenY };
             if (!this.bByKeys && this.bOpen && index >= 0)
                 this.mark(index);
         }
@@ -277,7 +315,7 @@
             if (event.ctrlKey || event.metaKey)
                 return;
             this.bByKeys = true;
-            const bTyped = event.key.length === 1 && (event.key !== " " || this.isTyping(event));
+            const bTyped = event.key.length === 1 && !event.altKey && (event.key !== " " || this.isTyping(event));
             if (bTyped ? !this.type(event) : !this.command(event))
                 return;
             event.preventDefault();

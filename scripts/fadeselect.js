@@ -73,7 +73,6 @@
 
         const dropDown = brndfn.dropDown({
             box, field, text, list, rows, options,
-            label: prefix || "Links",
             overCss: brndfn.css(`${overCss}; border: ${sizedBorderCss}`),
             onOpen: () => brndfn.fade(list, 1, steps, milliseconds),
             onClose(hide) {

@@ -10,9 +10,9 @@
     // The lists are hidden while the page still loads, so that nothing below them jumps.
     const STYLE = `
         span[size] > ${LIST}:not(:popover-open) { display: none; }
-        .brndfn-link-field { table-layout: fixed; width: 100%; font: inherit; color: inherit; }
-        .brndfn-link-field .brndfn-text { padding: 1px 4px; }
-        .brndfn-link-field .coolButton { box-sizing: border-box; width: 20px; padding: 0; font-size: 10px;
+        .brndfn-link-field:not(#_) { table-layout: fixed; width: 100%; border-spacing: 0; }
+        .brndfn-link-field:not(#_) .brndfn-text { padding: 1px 4px; }
+        .brndfn-link-field:not(#_) .coolButton { box-sizing: border-box; width: 20px; padding: 0; font-size: 10px;
             border: 2px outset ButtonFace; background: ButtonFace; color: ButtonText; }`;
     document.head.append(Object.assign(document.createElement("style"), { textContent: STYLE }));
 
@@ -28,7 +28,7 @@
             brndfn.repair(frame.previousElementSibling);
         box.size = Number(box.getAttribute("size")) || rows.length;
         button.innerHTML = brndfn.dropDownArrow;
-        field.classList.add("brndfn-link-field");
+        field.classList.add("brndfn-table", "brndfn-link-field");
         list.style.cssText = brndfn.css(`border: ${sizedBorderCss}`);
         for (const element of field.querySelectorAll("tbody, tr, td"))
             element.setAttribute("role", "none");
@@ -37,7 +37,6 @@
         return brndfn.dropDown({
             box, field, text, list, rows,
             options: rows.map((row) => ({ value: row.getAttribute("value") ?? "", text: row.textContent })),
-            label: box.id || "Links",
             overCss: brndfn.css(overCss),
             nShown: box.size,
         });
