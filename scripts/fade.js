@@ -3,8 +3,8 @@
 //     brndfn.fade(element, opacity, steps, milliseconds, done);
 //
 // takes the element to that opacity (0 or 1) in equal steps with so many milliseconds between two of them, and then
-// calls done. A fade that is under way turns round where it is. For a visitor who asked for reduced motion, and with
-// no steps, the element is there, or gone, at once.
+// calls done. A fade that is under way turns round where it is. For a visitor who asked for reduced motion, with no
+// steps, and where nobody looks, the element is there, or gone, at once.
 (() => {
     "use strict";
 
@@ -12,23 +12,23 @@
     const running = new WeakMap();
 
     brndfn.fade = (element, opacity, steps, milliseconds, done = () => {}) => {
-        running.get(element)?.stop();
+        clearInterval(running.get(element));
         const from = Number(getComputedStyle(element).opacity);
         const nSteps = brndfn.calm() ? 0 : Math.round(Math.abs(opacity - from) * steps);
         let nDone = 0;
 
         function step() {
             nDone++;
-            const bLast = !(nDone < nSteps);
+            const bLast = !(nDone < nSteps) || document.hidden;
             element.style.opacity = bLast ? opacity : from + ((opacity - from) * nDone) / nSteps;
             if (!bLast)
                 return;
-            running.get(element)?.stop();
+            clearInterval(running.get(element));
             running.delete(element);
             done();
         }
         if (nSteps > 0)
-            running.set(element, brndfn.every(element, milliseconds, step));
+            running.set(element, setInterval(step, milliseconds));
         else
             step();
     };

@@ -1,16 +1,17 @@
 // ToolTip: when and where the tip shows, in real time.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, testEverywhere, watch } from "./harness.mjs";
+import { givePage, pageText, styleOf, tap, testEverywhere, watch } from "./harness.mjs";
 
 const PLAIN = await pageText("tool_tip_plain");
 const TITLE = /id="([^"]*)" tooltip=/.exec(PLAIN)[1];
 
 // The plain page with its effect written for other times, as often as there are titles.
-function quick({ show = 60_000, titles = [TITLE], change = (effect) => effect } = {}) {
+function quickText({ show = 60_000, titles = [TITLE], change = (effect) => effect } = {}) {
     const timed = PLAIN.replace(/delayTime = \d+/, "delayTime = 300").replace(/showTime = \d+/, `showTime = ${show}`);
-    return givePage(timed.replace(/<SCRIPT LANGUAGE[^]*?<a .*<\/a>/, (effect) =>
-        titles.map((title) => `<p>${change(effect).replaceAll(TITLE, title)}</p>`).join("\r\n")));
+    return timed.replace(/<SCRIPT LANGUAGE[^]*?<a .*<\/a>/, (effect) =>
+        titles.map((title) => `<p>${change(effect).replaceAll(TITLE, title)}</p>`).join("\r\n"));
 }
+const quick = (options) => givePage(quickText(options));
 
 const shown = (page) => page.locator("[role=tooltip]:visible");
 const element = (page, title = TITLE) => page.locator(`[id="${title}"]`);
@@ -75,8 +76,9 @@ const inSpan = (effect) => effect.replace(/<a href="[^"]*" /, "<span").replace(/
 testEverywhere(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show beside their elements on keyboard focus, in the window",
     async ({ page }) => {
         await element(page, "Two").evaluate((span) => (span.style.cssText = "position:fixed; right:2px; bottom:2px"));
-        for (const title of ["one", "Two"]) {
-            await page.keyboard.press("Tab");
+        for (const [title, keys] of [["one", ["Tab"]], ["Two", ["Tab", "Tab"]]]) { // past the stop of the first
+            for (const key of keys)
+                await page.keyboard.press(key);
             assert.equal(await page.evaluate(() => document.activeElement.id), title);
             await until(page, 1);
             const [tip, it] = [await shown(page).boundingBox(), await element(page, title).boundingBox()];
@@ -86,6 +88,66 @@ testEverywhere(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show
             assert.equal((await page.locator(`[id="${id}"]`).textContent()).trim(), "visit our homepage");
         }
     });
+
+testEverywhere(quick({ change: (effect) => effect.replace(/href="[^"]*"/, 'href="#followed"') }),
+    "a tap shows it, the next follows the link; a tap elsewhere and Escape take it away", async ({ page }) => {
+        const followed = () => page.evaluate(() => location.hash === "#followed");
+        for (const leaveIt of [() => tap(page, { x: 600, y: 500 }), () => page.keyboard.press("Escape")]) {
+            await tap(page, element(page));
+            await until(page, 1);
+            await leaveIt();
+            await until(page, 0);
+        }
+        assert.equal(await followed(), false);
+        await tap(page, { x: 600, y: 500 });
+        for (const bFollowed of [false, true]) {
+            await tap(page, element(page));
+            await until(page, 1);
+            assert.equal(await followed(), bFollowed);
+        }
+    });
+
+// Where others have misplaced, covered or hidden it.
+testEverywhere(givePage(quickText({ show: 400 }).replace("<body>", '<body style="transform: translate(40px, 30px)">')
+    .replace(/<main[^>]*>/, '<dialog style="overflow: auto; height: 90px">$&<div id="ticker" style="height: 20px; overflow: auto">a<br>b</div>')
+    .replace("</main>", '</main><p style="height: 900px"></p></dialog>')),
+"in a dialog of a shifted page it stays with the focus, whatever scrolls, and its movement is stopped by keys",
+async ({ page }) => {
+    await page.evaluate(() => {
+        document.querySelector("dialog").showModal();
+        document.activeElement.blur();
+    });
+    await page.keyboard.press("Tab");
+    await element(page).focus();
+    await until(page, 1);
+    const atElement = async () => {
+        const [tip, it] = [await shown(page).boundingBox(), await element(page).boundingBox()];
+        assert.ok(Math.hypot(tip.x - it.x, tip.y - it.y - it.height) < 14, JSON.stringify([tip, it]));
+        assert.ok(await shown(page).evaluate((box) => {
+            const { left, top } = box.getBoundingClientRect();
+            return box.contains(document.elementFromPoint(left + 3, top + 3));
+        }), "on top");
+    };
+    await atElement();
+    const scroll = (selector) => page.evaluate((which) => new Promise((done) => {
+        document.addEventListener("scroll", () => requestAnimationFrame(done), { capture: true, once: true });
+        document.querySelector(which).scrollTop += 5;
+    }), selector);
+    for (const selector of ["#ticker", "dialog"]) {
+        await scroll(selector);
+        await atElement();
+    }
+    await page.keyboard.press("Tab");
+    const button = page.getByRole("button", { name: "Stop the movement" });
+    await page.keyboard.press("Enter");
+    assert.equal(await button.getAttribute("aria-pressed"), "true");
+    await page.waitForTimeout(500);
+    assert.equal(await shown(page).count(), 1, "longer than its time");
+    await page.keyboard.press("Escape");
+    await until(page, 0);
+    assert.equal(await page.evaluate(() => document.activeElement.id), TITLE, "the focus is back");
+    assert.ok(await page.locator("dialog").isVisible());
+});
 
 testEverywhere(quick(), "with reduced motion the text stands and is readable whole", async ({ page }) => {
     await element(page).hover();
