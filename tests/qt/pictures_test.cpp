@@ -4,13 +4,8 @@
 //
 // Without it the windows are opened and worked all the same.
 #include "controls/border_dlg.h"
-#include "controls/font_dlg.h"
-#include "controls/padding_dlg.h"
-#include "controls/url_dlg.h"
-#include "core/orrelix.h"
-#include "dialogs/copy_resources.h"
 #include "tests/qt/qt_person.h"
-#include "tests/support/temporary_directory.h"
+#include "tests/support/all_dialogs.h"
 #include "tests/support/user_settings.h"
 
 #include <QApplication>
@@ -54,46 +49,18 @@ std::function<void(CDialog&)> Take(const char* pName) {
 
 } // namespace
 
-TEST(Pictures, OfTheWindows) {
+TEST(Pictures, OfEveryDialog) {
     const CUserSettings settings;
     CQtPerson person;
-    const CString scripts = "DHTML Scripts", clashes = "Files with clashing names";
-    person.In("Select a DHTML Scripts").SelectsRow(scripts, 1).Then(Take("select_script"));
-    person.DoubleClicks(scripts, "Animate Text").In("Animate Text").SelectsRow("Messages", 2);
-    person.Then(Take("animate_text")).OpensColours("Text Font Color:").Then(Take("animate_text_colours"));
-    person.PressesInPopup({PopupKey::Down, PopupKey::Escape}).Clicks("Font...").In("Font Properties");
-    person.DoubleClicks("Double Click to Insert into above:", 0).Picks("Font Weight:", "bold");
-    person.Then(Take("font")).Clicks("Cancel").In("Animate Text").Clicks("Cancel");
-    COrrelix().Config();
-
-    person.In("Slide Text").Types("Text Title:", "Spring news").Then(Take("slide_text"));
-    person.OpensColours("Text Area / Color:").PressesInPopup({PopupKey::Down, PopupKey::Right});
-    person.Then(Take("colour_popup")).PressesInPopup({PopupKey::Escape}).Clicks("Cancel");
-    COrrelix orrelix;
-    orrelix.SelectType("2");
-    orrelix.Config();
-
-    CUrlDlg url;
-    url.m_Url = "http://www.example.com/";
-    CPaddingDlg padding;
-    CBorderPropertiesDlg border;
-    CCalanderFontDlg font;
-    for (const auto& [pName, pDialog] : std::initializer_list<std::pair<const char*, CDialog*>>{
-             {"url", &url}, {"padding", &padding}, {"border", &border}, {"calender_font", &font}}) {
-        person.In(pDialog->GetDescription().m_pTitle).Then(Take(pName)).PressesEscape();
-        pDialog->DoModal();
+    for (const CTestedDialog& tested : AllDialogs()) {
+        person.In(tested.m_pDescription().m_pTitle).Then(Take(tested.m_pName));
+        person.PressesEscape();
+        tested.m_Edit ? tested.m_Edit()->Run() : CDialog(tested.m_pDescription()).DoModal();
     }
-
-    const CTemporaryDirectory directory;
-    CString photo = directory.Write("photo.gif", "x"), logo = directory.Write("logo.gif", "x");
-    person.In("Copy Resources").SelectsRow(clashes, 0).Then(Take("copy_resources")).Clicks("Browse ...");
-    person.In("Browse Files").Then(Take("browse_files")).PressesEscape().In("Copy Resources");
-    person.Clicks("Rename").Then(Take("rename")).CancelsRenaming(clashes).PressesEscape();
-    CCopyResourcesDlg copy;
-    copy.m_Destination = directory.Path() + "\\";
-    copy.AddClash(photo);
-    copy.AddClash(logo);
-    copy.DoModal();
+    person.In("Border Properties").OpensColours("Border Color");
+    person.PressesInPopup({PopupKey::Down, PopupKey::Right}).Then(Take("colours"));
+    person.PressesInPopup({PopupKey::Escape}).PressesEscape();
+    CBorderPropertiesDlg().DoModal();
 }
 
 } // namespace orrelix
