@@ -15,9 +15,13 @@ class CComboBoxRows : public CRowsModel {
 public:
     explicit CComboBoxRows(const CComboBox& combo) : m_Combo(combo) {}
 
+    QString TextAt(int nRow, int = 0) const override {
+        const char* pShown = m_Combo.GetShownText(nRow);
+        return pShown ? QString::fromUtf8(pShown) : LinesToQt(m_Combo.GetLBText(nRow));
+    }
+
 private:
     int CountRows() const override { return m_Combo.GetCount(); }
-    QString TextAt(int nRow, int) const override { return LinesToQt(m_Combo.GetLBText(nRow)); }
 
     const CComboBox& m_Combo;
 };
@@ -110,7 +114,7 @@ private:
     int LongestRow() const {
         qsizetype nLongest = 10;
         for (int nRow = 0; nRow < qMin(m_Combo.GetCount(), 50); ++nRow)
-            nLongest = qMax(nLongest, ToQt(m_Combo.GetLBText(nRow)).size());
+            nLongest = qMax(nLongest, m_Rows.TextAt(nRow).size());
         return static_cast<int>(qMin<qsizetype>(nLongest, 40));
     }
 

@@ -7,23 +7,28 @@
 namespace orrelix {
 
 void CComboBox::OnCreate(const CControlDescription& description) {
-    m_Rows.RemoveAll();
+    m_Rows.clear();
     m_nCurSel = -1;
     m_bSorted = description.Has(STYLE_SORTED);
     m_bEditPart = !description.Has(STYLE_LIST_ONLY);
-    for (const char* pChoice : description.m_Choices)
-        AddString(pChoice);
+    for (const CChoice& choice : description.m_Choices)
+        AddString(choice.m_pValue, choice.m_pShown);
 }
 
 CString CComboBox::GetLBText(int nRow) const {
-    return nRow >= 0 && nRow < GetCount() ? m_Rows[nRow] : CString();
+    return HasRow(nRow) ? Row(nRow).m_Text : CString();
 }
 
-int CComboBox::AddString(const CString& text) {
-    const auto place =
-        m_bSorted ? std::upper_bound(m_Rows.begin(), m_Rows.end(), text, SortsBefore) : m_Rows.end();
+int CComboBox::AddString(const CString& text, const char* pShown) {
+    auto place = m_Rows.end();
+    if (m_bSorted) {
+        place =
+            std::upper_bound(m_Rows.begin(), m_Rows.end(), text, [](const CString& left, const CRow& right) {
+                return SortsBefore(left, right.m_Text);
+            });
+    }
     const int nRow = static_cast<int>(place - m_Rows.begin());
-    m_Rows.InsertAt(nRow, text);
+    m_Rows.insert(place, {text, pShown});
     if (nRow <= m_nCurSel)
         ++m_nCurSel;
     TellObserver(ControlChange::RowsInserted, nRow, 1);
@@ -32,7 +37,7 @@ int CComboBox::AddString(const CString& text) {
 
 void CComboBox::ResetContent() {
     const int nCount = GetCount();
-    m_Rows.RemoveAll();
+    m_Rows.clear();
     TellObserver(ControlChange::RowsRemoved, 0, nCount);
     Show(-1, "");
 }
@@ -42,7 +47,8 @@ void CComboBox::SetCurSel(int nRow) {
 }
 
 void CComboBox::SetWindowText(const CString& text) {
-    const auto row = std::find(m_Rows.begin(), m_Rows.end(), text);
+    const auto row =
+        std::find_if(m_Rows.begin(), m_Rows.end(), [&](const CRow& other) { return other.m_Text == text; });
     if (row != m_Rows.end())
         SetCurSel(static_cast<int>(row - m_Rows.begin()));
     else
@@ -57,7 +63,7 @@ void CComboBox::PersonTypes(CPersonKey, const CString& text) {
 }
 
 void CComboBox::PersonPicks(CPersonKey, int nRow) {
-    if (!IsWindowEnabled() || nRow < 0 || nRow >= GetCount())
+    if (!IsWindowEnabled() || !HasRow(nRow))
         return;
     SetCurSel(nRow);
     NotifyDialog(Notification::ListClosed);

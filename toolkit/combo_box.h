@@ -4,8 +4,9 @@
 // from 0; -1 stands for no row.
 #pragma once
 
-#include "platform/array.h"
 #include "toolkit/control.h"
+
+#include <vector>
 
 namespace orrelix {
 
@@ -13,11 +14,14 @@ class CComboBox : public CControl {
 public:
     bool HasEditPart() const { return m_bEditPart; }
 
-    int GetCount() const { return static_cast<int>(m_Rows.GetSize()); }
+    int GetCount() const { return static_cast<int>(m_Rows.size()); }
     CString GetLBText(int nRow) const;
 
-    // The row where the text went: the end, or its place in a sorted list.
-    int AddString(const CString& text);
+    // What stands in the list for the row's text, in UTF-8; null where the text itself does.
+    const char* GetShownText(int nRow) const { return HasRow(nRow) ? Row(nRow).m_pShown : nullptr; }
+
+    // The row where the text went: the end, or its place in a sorted list. pShown as in CChoice, not owned.
+    int AddString(const CString& text, const char* pShown = nullptr);
     // Takes away the rows, the selection and the text.
     void ResetContent();
 
@@ -41,9 +45,16 @@ protected:
     void OnCreate(const CControlDescription& description) override;
 
 private:
+    struct CRow {
+        CString m_Text;
+        const char* m_pShown;
+    };
+
+    bool HasRow(int nRow) const { return nRow >= 0 && nRow < GetCount(); }
+    const CRow& Row(int nRow) const { return m_Rows[static_cast<size_t>(nRow)]; }
     void Show(int nRow, const CString& text);
 
-    CStringArray m_Rows;
+    std::vector<CRow> m_Rows;
     int m_nCurSel = -1;
     bool m_bSorted = false;
     bool m_bEditPart = true;

@@ -140,7 +140,7 @@ CDialogItem ListView(int nId, const char* pLabel, unsigned nStyle, const char* p
                     .m_nStyle = nStyle});
 }
 
-CDialogItem ComboBox(int nId, const char* pLabel, std::vector<const char*> choices, unsigned nStyle) {
+CDialogItem ComboBox(int nId, const char* pLabel, std::vector<CChoice> choices, unsigned nStyle) {
     return Control({.m_Kind = ControlKind::ComboBox,
                     .m_nId = nId,
                     .m_pLabel = pLabel,

@@ -51,6 +51,15 @@ enum ControlStyle : unsigned {
     STYLE_EDIT_LABELS = 256,        // a list view whose labels the person may edit
 };
 
+// One row of a combo box: the value that the program reads, and, where that isn't fit to be read by a person,
+// the text that stands for it in the list.
+struct CChoice {
+    CChoice(const char* pValue, const char* pShown = nullptr) : m_pValue(pValue), m_pShown(pShown) {}
+
+    const char* m_pValue;
+    const char* m_pShown; // in UTF-8, whatever the code page; null: the value itself
+};
+
 struct CControlDescription {
     ControlKind m_Kind = ControlKind::Static;
     int m_nId = 0;
@@ -58,7 +67,7 @@ struct CControlDescription {
     const char* m_pCaption = ""; // the text of a button or static text
     const char* m_pName = "";    // what a screen reader says where label and caption don't tell enough
     unsigned m_nStyle = STYLE_NONE;
-    std::vector<const char*> m_Choices = {}; // rows of a combo box, in the order of adding
+    std::vector<CChoice> m_Choices = {}; // rows of a combo box, in the order of adding
     int m_nBuddy = 0; // the edit box of a spin control or of an owner-drawn button beside it
     int m_nLower = 0; // range of a spin control or slider
     int m_nUpper = 0;
@@ -125,8 +134,9 @@ CDialogItem Colour(int nId, const char* pLabel);
 CDialogItem Button(int nId, const char* pCaption, const char* pLabel = "", const char* pName = "");
 CDialogItem ListBox(int nId, const char* pLabel, unsigned nStyle, const char* pName = "");
 CDialogItem ListView(int nId, const char* pLabel, unsigned nStyle, const char* pName = "");
-CDialogItem ComboBox(int nId, const char* pLabel, std::vector<const char*> choices,
-                     unsigned nStyle = STYLE_NONE);
+// Choices are values, "bold", or values with the text that stands for them in a list without an edit part,
+// {"\xd2\xbb", "Chinese"}.
+CDialogItem ComboBox(int nId, const char* pLabel, std::vector<CChoice> choices, unsigned nStyle = STYLE_NONE);
 CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pTo, int nLower, int nUpper,
                    int nTicks);
 

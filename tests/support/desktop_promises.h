@@ -52,7 +52,11 @@ TEST_P(DesktopPromises, WhatThePersonLeavesReachesTheFields) {
         .Types("Lines:", "one\r\n\r\nthree \xc2\xa0\xe2\x80\xa8")
         .Types("Digits:", "4a5")
         .Types("Kind:", "violet")
-        .Picks("Fixed:", "two")
+        .Picks("Fixed:", "Chinese \xe4\xb8\x80")
+        .Shows("Fixed:", "Chinese \xe4\xb8\x80")
+        .Then([](CDialog& dialog) {
+            EXPECT_EQ(dialog.Item<CComboBox>(promises::Id::Fixed).GetWindowText(), "\xd2\xbb");
+        })
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Text, "Gr\xc3\xbc\xc3\x9f"

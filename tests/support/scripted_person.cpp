@@ -25,6 +25,11 @@ CString JoinedCells(const CListCtrl& list, int nRow) {
     return cells;
 }
 
+CString ShownRow(const CComboBox& box, int nRow) {
+    const char* pShown = box.GetShownText(nRow);
+    return pShown ? CString(pShown) : box.GetLBText(nRow);
+}
+
 } // namespace
 
 void CScriptedPerson::RunDialog(CDialog& dialog) {
@@ -136,6 +141,12 @@ void CScriptedPerson::PressEnter(CDialog& dialog) {
     });
 }
 
+CString CScriptedPerson::TextOf(const CTarget& target) {
+    const auto* pBox = As<CComboBox>(target);
+    return pBox && !pBox->HasEditPart() && pBox->GetCurSel() >= 0 ? ShownRow(*pBox, pBox->GetCurSel())
+                                                                  : target.m_Control.GetWindowText();
+}
+
 int CScriptedPerson::PositionOf(const CTarget& target) {
     return As<CSliderCtrl>(target)->GetPos();
 }
@@ -144,7 +155,7 @@ std::vector<CString> CScriptedPerson::RowsOf(const CTarget& target) {
     std::vector<CString> rows;
     if (auto* pBox = As<CComboBox>(target)) {
         for (int nRow = 0; nRow < pBox->GetCount(); ++nRow)
-            rows.push_back(pBox->GetLBText(nRow));
+            rows.push_back(ShownRow(*pBox, nRow));
     } else if (auto* pList = As<CListCtrl>(target)) {
         for (int nRow = 0; nRow < pList->GetItemCount(); ++nRow)
             rows.push_back(JoinedCells(*pList, nRow));

@@ -47,7 +47,7 @@ public:
     void MoveInPopup(CPoint point) override { m_pPopup->OnMouseMove(Person(), point); }
     void ReleaseInPopup(CPoint point) override { m_pPopup->OnLeftButtonUp(Person(), point); }
     void PressInPopup(PopupKey key) override { m_pPopup->OnKeyDown(Person(), key); }
-    CString TextOf(const CTarget& target) override { return target.m_Control.GetWindowText(); }
+    CString TextOf(const CTarget& target) override;
     bool IsEnabled(const CTarget& target) override { return target.m_Control.IsWindowEnabled(); }
     int PositionOf(const CTarget& target) override;
     std::vector<CString> RowsOf(const CTarget& target) override;
