@@ -1,5 +1,6 @@
 #include "controls/field_dialog.h"
 
+#include "controls/font_dlg.h"
 #include "controls/image_file.h"
 #include "controls/link_target.h"
 
@@ -32,6 +33,11 @@ void CFieldDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
     Attach(PickerOf(nEdit), box.m_Picker);
     SetHandler(nEdit, Notification::Changed, [this, &box] { OnColourTyped(box); });
     SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColourPicked(); });
+}
+
+void CFieldDialog::AddFont(int nButton, const CFontFields& font) {
+    OnClick(nButton, [font] { EditFont(font); });
+    ShowBeside(nButton, [font] { return FontInWords(font); });
 }
 
 void CFieldDialog::ShowTextsLast() {

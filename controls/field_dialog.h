@@ -11,6 +11,7 @@
 #pragma once
 
 #include "controls/colour_picker.h"
+#include "controls/font_fields.h"
 #include "toolkit/dialog.h"
 
 #include <initializer_list>
@@ -30,7 +31,7 @@ protected:
         CString& m_Text;
     };
 
-    // In the constructor, as the next four.
+    // In the constructor, as the next five.
     void AddFields(std::initializer_list<CField> fields);
 
     // A slider, whose text is its position.
@@ -46,6 +47,9 @@ protected:
     // pSection names the settings where the picker remembers mixed colours. One colour that is picked sets all
     // of the dialog from their pickers.
     void AddColour(int nEdit, CString& colour, const char* pSection);
+
+    // A button that opens CFontPropertiesDlg on the font. Beside it stands what font that is.
+    void AddFont(int nButton, const CFontFields& font);
 
     // The two orders in which a dialog starts, for OnInitDialog. They decide what the boxes show.
 

@@ -6,14 +6,6 @@
 
 namespace orrelix {
 
-// The four texts of a font, which lie in an effect or in a dialog's copy of it.
-struct CFontFields {
-    CString& m_Face;
-    CString& m_Size;
-    CString& m_Weight;
-    CString& m_Style;
-};
-
 // What the two have in common: the list of the system's font families, of which a double click puts one into
 // the box of font faces, so that the box grows into a CSS family list.
 class CFontDlg : public CFieldDialog {

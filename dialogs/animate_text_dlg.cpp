@@ -1,6 +1,5 @@
 #include "dialogs/animate_text_dlg.h"
 
-#include "controls/font_dlg.h"
 #include "resources/animate_text_description.h"
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
@@ -32,12 +31,10 @@ CAnimateTextDlg::CAnimateTextDlg() : CGadgetDialog(AnimateTextDescription()) {
     AddColour(Id::TextColor, m_Copy.m_TextColor, "ANIFont");
     AddColour(Id::BackColor, m_Copy.m_BackColor, "ANIFont");
     AddRemoteDirectory(Id::ScriptPath, m_Copy.m_ScriptPath);
-    OnClick(Id::Font, [this] {
-        EditFont({.m_Face = m_Copy.m_FontFamily,
-                  .m_Size = m_Copy.m_FontSize,
-                  .m_Weight = m_Copy.m_FontWeight,
-                  .m_Style = m_Copy.m_FontStyle});
-    });
+    AddFont(Id::Font, {.m_Face = m_Copy.m_FontFamily,
+                       .m_Size = m_Copy.m_FontSize,
+                       .m_Weight = m_Copy.m_FontWeight,
+                       .m_Style = m_Copy.m_FontStyle});
     SetHandlers<CAnimateTextDlg>({
         {Id::Add, Notification::Clicked, &CAnimateTextDlg::OnAdd},
         {Id::Delete, Notification::Clicked, &CAnimateTextDlg::OnDelete},

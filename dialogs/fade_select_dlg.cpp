@@ -46,7 +46,9 @@ CFadeItemDlg::CFadeItemDlg(bool bModify) : CFieldDialog(FadeItemDescription()), 
     AddColour(Id::FontColor, m_Color, kSection);
     AddImageFile(Id::ChooseImage, m_Image);
     OnClick(Id::Font, [this] { OnFont(); });
+    ShowBeside(Id::Font, [this] { return FontInWords({m_FontFace, m_FontSize, m_FontWeight, m_FontStyle}); });
     OnClick(Id::Url, [this] { OnUrl(); });
+    ShowBeside(Id::Url, [this] { return m_Url; });
 }
 
 void CFadeItemDlg::OnFont() {
@@ -80,12 +82,10 @@ CSelectedItemDlg::CSelectedItemDlg() : CGadgetDialog(SelectedItemDescription()) 
     AddColour(Id::ItemColor, m_Copy.m_OverBackColor, kSection);
     AddColour(Id::TextColor, m_Copy.m_OverTextColor, kSection);
     AddLinkTarget(Id::Target, m_Copy.m_Target);
-    OnClick(Id::Font, [this] {
-        EditFont({.m_Face = m_Copy.m_OverFont,
-                  .m_Size = m_Copy.m_OverFontSize,
-                  .m_Weight = m_Copy.m_OverFontWeight,
-                  .m_Style = m_Copy.m_OverFontStyle});
-    });
+    AddFont(Id::Font, {.m_Face = m_Copy.m_OverFont,
+                       .m_Size = m_Copy.m_OverFontSize,
+                       .m_Weight = m_Copy.m_OverFontWeight,
+                       .m_Style = m_Copy.m_OverFontStyle});
 }
 
 CDropTableDlg::CDropTableDlg() : CGadgetDialog(DropTableDescription()) {

@@ -22,6 +22,7 @@ void CSelectScriptDlg::DoDataExchange(CDataExchange& exchange) {
 }
 
 void CSelectScriptDlg::OnInitDialog() {
+    m_Names.RemoveAll(); // a run that an exception broke off has left them
     for (const CEffect& effect : kEffects)
         m_Names.Add(effect.m_pName);
     CListBox& list = Item<CListBox>(SelectScriptId::Names);

@@ -1,6 +1,5 @@
 #include "dialogs/text_show_dlg.h"
 
-#include "controls/font_dlg.h"
 #include "resources/text_show_description.h"
 
 namespace orrelix {
@@ -29,18 +28,14 @@ CTextShowDlg::CTextShowDlg() : CGadgetDialog(TextShowDescription()) {
     AddSlider(Id::Speed, m_Copy.m_Speed);
     AddColour(Id::TextColor, m_Copy.m_TextColor, kSection);
     AddColour(Id::TitleColor, m_Copy.m_TitleColor, kSection);
-    OnClick(Id::TitleFont, [this] {
-        EditFont({.m_Face = m_Copy.m_TitleFontFamily,
-                  .m_Size = m_Copy.m_TitleFontSize,
-                  .m_Weight = m_Copy.m_TitleFontWeight,
-                  .m_Style = m_Copy.m_TitleFontStyle});
-    });
-    OnClick(Id::TextFont, [this] {
-        EditFont({.m_Face = m_Copy.m_TextFontFamily,
-                  .m_Size = m_Copy.m_TextFontSize,
-                  .m_Weight = m_Copy.m_TextFontWeight,
-                  .m_Style = m_Copy.m_TextFontStyle});
-    });
+    AddFont(Id::TitleFont, {.m_Face = m_Copy.m_TitleFontFamily,
+                            .m_Size = m_Copy.m_TitleFontSize,
+                            .m_Weight = m_Copy.m_TitleFontWeight,
+                            .m_Style = m_Copy.m_TitleFontStyle});
+    AddFont(Id::TextFont, {.m_Face = m_Copy.m_TextFontFamily,
+                           .m_Size = m_Copy.m_TextFontSize,
+                           .m_Weight = m_Copy.m_TextFontWeight,
+                           .m_Style = m_Copy.m_TextFontStyle});
 }
 
 void CTextShowDlg::ShowCopy() {

@@ -28,6 +28,12 @@ CAdapterPtr MakeEditOrNumber(const CControlDescription& description, CDialog& di
     return MakeEditAdapter(edit, description, bShort, stage, parent);
 }
 
+std::function<CString()> TextBeside(const CDialog& dialog, int nButton) {
+    if (!dialog.ShowsBeside(nButton))
+        return nullptr;
+    return [&dialog, nButton] { return dialog.GetTextBeside(nButton); };
+}
+
 CAdapterPtr MakeByKind(const CControlDescription& description, CDialog& dialog, CStage& stage,
                        QWidget& parent) {
     const int nId = description.m_nId;
@@ -37,13 +43,14 @@ CAdapterPtr MakeByKind(const CControlDescription& description, CDialog& dialog, 
     case ControlKind::Edit:
         return MakeEditOrNumber(description, dialog, stage, parent);
     case ControlKind::Button:
-        return MakeButtonAdapter(dialog.Item<CButton>(nId), description, stage, parent);
+        return MakeButtonAdapter(dialog.Item<CButton>(nId), description, TextBeside(dialog, nId), stage,
+                                 parent);
     case ControlKind::OwnerDrawnButton:
         return MakeOwnerDrawnButtonAdapter(dialog.Item<COwnerDrawnButton>(nId), stage, parent);
     case ControlKind::ListBox:
         return MakeListBoxAdapter(dialog.Item<CListBox>(nId), stage, parent);
     case ControlKind::ListCtrl:
-        return MakeListViewAdapter(dialog.Item<CListCtrl>(nId), stage, parent);
+        return MakeListViewAdapter(dialog.Item<CListCtrl>(nId), description, stage, parent);
     case ControlKind::ComboBox:
         return MakeComboBoxAdapter(dialog.Item<CComboBox>(nId), stage, parent);
     case ControlKind::Slider:

@@ -23,11 +23,13 @@ CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description,
                             QWidget& parent);
 // One box with arrows for the two controls.
 CAdapterPtr MakeNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent);
-CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& description, CStage& stage,
-                              QWidget& parent);
+// textBeside gives what stands beside the button; null where nothing does.
+CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& description,
+                              std::function<CString()> textBeside, CStage& stage, QWidget& parent);
 CAdapterPtr MakeOwnerDrawnButtonAdapter(COwnerDrawnButton& button, CStage& stage, QWidget& parent);
 CAdapterPtr MakeListBoxAdapter(CListBox& list, CStage& stage, QWidget& parent);
-CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent);
+CAdapterPtr MakeListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage,
+                                QWidget& parent);
 CAdapterPtr MakeComboBoxAdapter(CComboBox& combo, CStage& stage, QWidget& parent);
 CAdapterPtr MakeSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
                               QWidget& parent);

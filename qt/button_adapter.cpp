@@ -2,18 +2,56 @@
 #include "qt/canvas.h"
 #include "qt/text.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 
 namespace orrelix {
 
 namespace {
 
+// One line, of which what doesn't fit is left out; a tip tells it then.
+class CElidedLabel : public QLabel {
+public:
+    explicit CElidedLabel(QWidget* pParent) : QLabel(pParent) { setTextFormat(Qt::PlainText); }
+
+    QSize sizeHint() const override {
+        return {fontMetrics().averageCharWidth() * 20, QLabel::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override {
+        return {fontMetrics().averageCharWidth() * 8, QLabel::minimumSizeHint().height()};
+    }
+
+    void ShowWhole(const QString& text) {
+        m_Whole = text;
+        Elide();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* pEvent) override {
+        QLabel::resizeEvent(pEvent);
+        Elide();
+    }
+
+private:
+    void Elide() {
+        setText(fontMetrics().elidedText(m_Whole, Qt::ElideRight, contentsRect().width()));
+        setToolTip(text() == m_Whole ? QString() : PlainTip(m_Whole));
+    }
+
+    QString m_Whole;
+};
+
+// A button, and beside it what it leads to, if the dialog tells.
 class CButtonAdapter : public CControlAdapter {
 public:
-    CButtonAdapter(CButton& button, const CControlDescription& description, CStage& stage, QWidget& parent)
+    CButtonAdapter(CButton& button, const CControlDescription& description,
+                   std::function<CString()> textBeside, CStage& stage, QWidget& parent)
         : CControlAdapter(button, stage), m_pCaption(description.m_pCaption),
-          m_pButton(new QPushButton(&parent)) {
+          m_TextBeside(std::move(textBeside)), m_pButton(new QPushButton(&parent)), m_pPlaced(m_pButton) {
         m_pButton->setDefault(description.Has(STYLE_DEFAULT));
+        if (m_TextBeside)
+            AddLabel(parent);
         connect(m_pButton, &QPushButton::clicked, this, [this, &button] {
             Stage().FinishEditing();
             Play([&](CPersonKey key) { button.PersonClicks(key); });
@@ -21,11 +59,36 @@ public:
     }
 
     QWidget* Widget() const override { return m_pButton; }
-    void ShowAll() override { m_pButton->setText(CaptionToQt(m_pCaption, Control().GetWindowText())); }
+    QWidget* Placed() const override { return m_pPlaced; }
+
+    void ShowAll() override {
+        m_pButton->setText(CaptionToQt(m_pCaption, Control().GetWindowText()));
+        ShowAfterAct();
+    }
+
+    void ShowAfterAct() override {
+        if (!m_TextBeside)
+            return;
+        const QString text = ToQt(m_TextBeside());
+        m_pLabel->ShowWhole(text);
+        m_pButton->setAccessibleDescription(text);
+    }
 
 private:
+    void AddLabel(QWidget& parent) {
+        m_pPlaced = new QWidget(&parent);
+        m_pLabel = new CElidedLabel(m_pPlaced);
+        auto* pLine = new QHBoxLayout(m_pPlaced);
+        pLine->setContentsMargins(0, 0, 0, 0);
+        pLine->addWidget(m_pButton);
+        pLine->addWidget(m_pLabel, 1);
+    }
+
     const char* m_pCaption;
+    const std::function<CString()> m_TextBeside;
     QPushButton* m_pButton;
+    QWidget* m_pPlaced; // the button, or a box around it and the label
+    CElidedLabel* m_pLabel = nullptr;
 };
 
 class COwnerDrawnWidget : public QAbstractButton {
@@ -67,9 +130,9 @@ private:
 
 } // namespace
 
-CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& description, CStage& stage,
-                              QWidget& parent) {
-    return std::make_unique<CButtonAdapter>(button, description, stage, parent);
+CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& description,
+                              std::function<CString()> textBeside, CStage& stage, QWidget& parent) {
+    return std::make_unique<CButtonAdapter>(button, description, std::move(textBeside), stage, parent);
 }
 
 CAdapterPtr MakeOwnerDrawnButtonAdapter(COwnerDrawnButton& button, CStage& stage, QWidget& parent) {

@@ -106,7 +106,7 @@ private:
         m_pBox->setCurrentIndex(m_Combo.GetCurSel());
         if (!pEdit)
             return;
-        CControlAdapter::ShowText(*pEdit);
+        CControlAdapter::ShowText(*pEdit, m_Combo.GetWindowText());
         if (pEdit->text() == before)
             pEdit->setCursorPosition(nCursor);
     }

@@ -32,8 +32,8 @@ void CControlAdapter::ListenTo(QLineEdit& box, std::function<void(const CString&
     });
 }
 
-void CControlAdapter::ShowText(QLineEdit& box) {
-    const QString text = ToQt(m_Control.GetWindowText());
+void CControlAdapter::ShowText(QLineEdit& box, const CString& shown) {
+    const QString text = ToQt(shown);
     if (box.text() == text)
         return;
     CShowing showing(*this);

@@ -50,6 +50,8 @@ public:
         ShowAll();
     }
     virtual void FinishEditing() {}
+    // Shows what may be new after any act of the person, beyond what the control itself tells.
+    virtual void ShowAfterAct() {}
 
     const CControl& Control() const { return m_Control; }
 
@@ -64,9 +66,9 @@ protected:
 
     // Calls typed(text) for each text that the person puts into the box.
     void ListenTo(QLineEdit& box, std::function<void(const CString&)> typed);
-    // Puts the control's text into the box, where it differs. The cursor stays before the text that it stands
+    // Puts the text, which is the control's, into the box, where it differs. The cursor stays before the text that it stands
     // before; in a box that the person isn't in, the start of the text shows.
-    void ShowText(QLineEdit& box);
+    void ShowText(QLineEdit& box, const CString& text);
 
     class CShowing {
     public:

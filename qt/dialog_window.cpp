@@ -71,6 +71,8 @@ void CDialogWindow::Play(const std::function<void(CPersonKey)>& act) {
         return;
     try {
         act(m_Key);
+        for (const auto& pAdapter : m_Adapters)
+            pAdapter->ShowAfterAct();
     } catch (...) {
         Fail();
     }

@@ -33,19 +33,21 @@ class CLineAdapter : public CControlAdapter {
 public:
     CLineAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
                  QWidget& parent)
-        : CControlAdapter(edit, stage), m_pBox(new CLineBox(&parent, bShort ? kShortText : kUsualText)) {
+        : CControlAdapter(edit, stage), m_Edit(edit),
+          m_pBox(new CLineBox(&parent, bShort ? kShortText : kUsualText)) {
         if (description.Has(STYLE_DIGITS))
             m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
-        ListenTo(*m_pBox, [this, &edit](const CString& text) {
-            Play([&](CPersonKey key) { edit.PersonTypes(key, text); });
+        ListenTo(*m_pBox, [this](const CString& text) {
+            Play([&](CPersonKey key) { m_Edit.PersonTypes(key, m_Edit.FromPerson(text)); });
             ShowAll(); // the control may have taken only a part of it
         });
     }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(*m_pBox); }
+    void ShowAll() override { ShowText(*m_pBox, m_Edit.ForPerson()); }
 
 private:
+    CEdit& m_Edit;
     CLineBox* m_pBox;
 };
 

@@ -16,11 +16,13 @@ namespace {
 
 class CListCtrlRows : public CRowsModel {
 public:
-    explicit CListCtrlRows(const CListCtrl& list) : m_List(list) {}
+    CListCtrlRows(const CListCtrl& list, bool bPaths) : m_List(list), m_bPaths(bPaths) {}
 
     QVariant data(const QModelIndex& index, int nRole) const override {
         if (nRole == Qt::DecorationRole && index.column() == 0)
             return IconOf(m_List.GetItemImage(index.row()));
+        if (nRole == kHotRole)
+            return index.row() == m_List.GetHotItem();
         return CRowsModel::data(index, nRole);
     }
 
@@ -41,7 +43,8 @@ private:
     int CountRows() const override { return m_List.GetItemCount(); }
     int CountColumns() const override { return m_List.IsReport() ? m_List.GetColumnCount() : 1; }
     QString TextAt(int nRow, int nColumn) const override {
-        return LinesToQt(m_List.GetItemText(nRow, nColumn));
+        const CString text = m_List.GetItemText(nRow, nColumn);
+        return m_bPaths ? PathToQt(text) : LinesToQt(text);
     }
 
     QVariant IconOf(int nImage) const {
@@ -56,13 +59,14 @@ private:
     }
 
     const CListCtrl& m_List;
+    const bool m_bPaths;
     mutable QHash<QString, QIcon> m_Icons;
 };
 
 // Shows the hot row and edits labels in place. What becomes of an edited label is the dialog's business.
 class CLabelDelegate : public QStyledItemDelegate {
 public:
-    CLabelDelegate(const CListCtrl& list, QObject* pParent) : QStyledItemDelegate(pParent), m_List(list) {}
+    using QStyledItemDelegate::QStyledItemDelegate;
 
     std::function<bool(int)> m_OnStart;
     std::function<void(const QString&, bool)> m_OnEnd;
@@ -82,11 +86,8 @@ public:
 protected:
     void initStyleOption(QStyleOptionViewItem* pOption, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(pOption, index);
-        pOption->state.setFlag(QStyle::State_MouseOver, index.row() == m_List.GetHotItem());
+        pOption->state.setFlag(QStyle::State_MouseOver, index.data(kHotRole).toBool());
     }
-
-private:
-    const CListCtrl& m_List;
 };
 
 class CReportView : public CRowsView<QTreeView> {
@@ -143,9 +144,9 @@ public:
 template <class TView>
 class CListViewAdapter : public CControlAdapter {
 public:
-    CListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent)
-        : CControlAdapter(list, stage), m_List(list), m_Rows(list), m_pView(new TView(&parent)),
-          m_pDelegate(new CLabelDelegate(list, m_pView)) {
+    CListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage, QWidget& parent)
+        : CControlAdapter(list, stage), m_List(list), m_Rows(list, description.Has(STYLE_PATH)),
+          m_pView(new TView(&parent)), m_pDelegate(new CLabelDelegate(m_pView)) {
         ListenToView();
         ListenToLabels();
         m_pView->setModel(&m_Rows);
@@ -247,10 +248,11 @@ private:
 
 } // namespace
 
-CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent) {
+CAdapterPtr MakeListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage,
+                                QWidget& parent) {
     if (list.IsReport())
-        return std::make_unique<CListViewAdapter<CReportView>>(list, stage, parent);
-    return std::make_unique<CListViewAdapter<CFileView>>(list, stage, parent);
+        return std::make_unique<CListViewAdapter<CReportView>>(list, description, stage, parent);
+    return std::make_unique<CListViewAdapter<CFileView>>(list, description, stage, parent);
 }
 
 } // namespace orrelix

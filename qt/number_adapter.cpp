@@ -61,7 +61,7 @@ public:
     ~CNumberAdapter() override { m_Spin.SetObserver(nullptr); }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(m_pBox->Line()); }
+    void ShowAll() override { ShowText(m_pBox->Line(), Control().GetWindowText()); }
 
 private:
     // The position shows as the edit box's text; what is left to show is which arrows work.

@@ -95,7 +95,7 @@ bool CPopupFrame::event(QEvent* pEvent) {
 void CPopupFrame::ShowToolTip(const QHelpEvent& help) {
     for (const CToolTipText& tip : m_pPopup->GetToolTips()) {
         if (tip.m_Rect.PtInRect({help.pos().x(), help.pos().y()}))
-            return QToolTip::showText(help.globalPos(), ToQt(tip.m_Text), this, ToQt(tip.m_Rect));
+            return QToolTip::showText(help.globalPos(), PlainTip(ToQt(tip.m_Text)), this, ToQt(tip.m_Rect));
     }
     QToolTip::hideText();
 }

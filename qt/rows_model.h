@@ -6,6 +6,9 @@
 
 namespace orrelix {
 
+// The role that tells whether a row is hot.
+inline constexpr int kHotRole = Qt::UserRole;
+
 class CRowsModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;

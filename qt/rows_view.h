@@ -2,6 +2,8 @@
 // did. Qt's own signals come several to an event, in the middle of it, and from the program's changes too.
 #pragma once
 
+#include "qt/text.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -123,7 +125,8 @@ private:
     bool ShowWholeText(const QHelpEvent& help) {
         const QModelIndex index = this->indexAt(help.pos());
         const bool bCut = this->sizeHintForIndex(index).width() > this->visualRect(index).width();
-        QToolTip::showText(help.globalPos(), bCut ? index.data(Qt::EditRole).toString() : QString(), this);
+        QToolTip::showText(help.globalPos(), bCut ? PlainTip(index.data(Qt::EditRole).toString()) : QString(),
+                           this);
         return true;
     }
 

@@ -28,7 +28,8 @@ private:
 class CStaticAdapter : public CControlAdapter {
 public:
     CStaticAdapter(CStatic& text, const CControlDescription& description, CStage& stage, QWidget& parent)
-        : CControlAdapter(text, stage), m_pLabel(new CTextLabel(&parent, !*description.m_pCaption)) {
+        : CControlAdapter(text, stage), m_bPath(description.Has(STYLE_PATH)),
+          m_pLabel(new CTextLabel(&parent, !*description.m_pCaption)) {
         if (description.Has(STYLE_SUNKEN)) {
             m_pLabel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
             m_pLabel->setMargin(2);
@@ -36,9 +37,13 @@ public:
     }
 
     QWidget* Widget() const override { return m_pLabel; }
-    void ShowAll() override { m_pLabel->setText(LinesToQt(Control().GetWindowText())); }
+    void ShowAll() override {
+        const CString& text = Control().GetWindowText();
+        m_pLabel->setText(m_bPath ? PathToQt(text) : LinesToQt(text));
+    }
 
 private:
+    const bool m_bPath;
     CTextLabel* m_pLabel;
 };
 

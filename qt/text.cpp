@@ -5,6 +5,7 @@
 
 #include <QStringDecoder>
 #include <QStringEncoder>
+#include <QTextDocument>
 
 namespace orrelix {
 
@@ -96,6 +97,10 @@ QString PathToQt(const CString& path) {
 
 CString PathFromQt(QString path) {
     return FromQt(path.replace('/', '\\'));
+}
+
+QString PlainTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 QString CaptionToQt(const char* pDescribed, const CString& shown) {

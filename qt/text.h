@@ -21,6 +21,9 @@ CString LinesFromQt(QString text);
 QString PathToQt(const CString& path);
 CString PathFromQt(QString path);
 
+// The text of a tool tip that shows the text as it is, whatever marks are in it.
+QString PlainTip(const QString& text);
+
 // A caption as Qt wants it: the description's, with its mnemonic, as long as the control still shows it; else
 // the control's own text, in which "&" is a plain character.
 QString CaptionToQt(const char* pDescribed, const CString& shown);

@@ -1,19 +1,20 @@
 // What the lists of combo boxes offer in more than one dialog.
 #pragma once
 
+#include "toolkit/dialog_description.h"
+
 #include <vector>
 
 namespace orrelix {
 
-inline const std::vector<const char*> kBorderStyles = {"none",   "dotted", "dashed", "solid", "double",
-                                                       "groove", "ridge",  "inset",  "outset"};
-inline const std::vector<const char*> kAligns = {"left", "center", "right"};
+inline const std::vector<CChoice> kBorderStyles = {"none",   "dotted", "dashed", "solid", "double",
+                                                   "groove", "ridge",  "inset",  "outset"};
+inline const std::vector<CChoice> kAligns = {"left", "center", "right"};
 // "lineth-rough" as files and pages know it.
-inline const std::vector<const char*> kDecorations = {"none", "underline", "overline", "lineth-rough",
-                                                      "blink"};
+inline const std::vector<CChoice> kDecorations = {"none", "underline", "overline", "lineth-rough", "blink"};
 
 // The targets of a link, of which controls/link_target.h knows the words.
-inline const std::vector<const char*> kLinkTargets = {"", "Same Frame(_self)", "Whole Page(_top)",
-                                                      "New Browser Window(_blank)", "Parent Frame(_parent)"};
+inline const std::vector<CChoice> kLinkTargets = {"", "Same Frame(_self)", "Whole Page(_top)",
+                                                  "New Browser Window(_blank)", "Parent Frame(_parent)"};
 
 } // namespace orrelix

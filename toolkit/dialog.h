@@ -75,6 +75,13 @@ public:
         return *pControl;
     }
 
+    // What stands beside a button, such as a few words on what it leads to. Only buttons of which ShowsBeside is
+    // true have something beside them; what it is may be new after each act of the person.
+    bool ShowsBeside(int nButton) const { return m_Beside.count(nButton) > 0; }
+    CString GetTextBeside(int nButton) const {
+        return ShowsBeside(nButton) ? m_Beside.at(nButton)() : CString();
+    }
+
     // A disabled dialog takes nothing from the person; its popup does.
     void EnableWindow(bool bEnable);
     bool IsWindowEnabled() const { return m_bEnabled; }
@@ -121,6 +128,9 @@ protected:
     void SetHandler(int nId, Notification notification, std::function<void()> handler);
     void SetMessageHandler(int nMessage, std::function<void(unsigned long, long)> handler);
 
+    // Puts a text beside a button; see GetTextBeside. In the constructor.
+    void ShowBeside(int nButton, std::function<CString()> text) { m_Beside[nButton] = std::move(text); }
+
     // Puts an owner-drawn button, a member of the dialog, in its place. In the constructor.
     void Attach(int nId, COwnerDrawnButton& button);
 
@@ -133,6 +143,7 @@ private:
     const CDialogDescription& m_Description;
     std::map<int, CControl*> m_Items;
     std::map<int, COwnerDrawnButton*> m_Attached;
+    std::map<int, std::function<CString()>> m_Beside;
     std::map<std::pair<int, Notification>, std::function<void()>> m_Handlers;
     std::map<int, std::function<void(unsigned long, long)>> m_MessageHandlers;
     std::vector<std::unique_ptr<CControl>> m_Controls;

@@ -109,10 +109,10 @@ CDialogItem Number(int nId, const char* pLabel, int nLower, int nUpper, unsigned
 }
 
 CDialogItem Colour(int nId, const char* pLabel) {
-    return Row({Edit(nId, pLabel), Control({.m_Kind = ControlKind::OwnerDrawnButton,
-                                            .m_nId = PickerOf(nId),
-                                            .m_pName = pLabel,
-                                            .m_nBuddy = nId})});
+    return Row({Edit(nId, pLabel, STYLE_COLOUR), Control({.m_Kind = ControlKind::OwnerDrawnButton,
+                                                          .m_nId = PickerOf(nId),
+                                                          .m_pName = pLabel,
+                                                          .m_nBuddy = nId})});
 }
 
 CDialogItem Button(int nId, const char* pCaption, const char* pLabel, const char* pName) {

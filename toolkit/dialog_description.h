@@ -49,6 +49,8 @@ enum ControlStyle : unsigned {
     STYLE_REPORT = 64,              // a list view with columns; without this it is in list mode
     STYLE_MULTIPLE_SELECTION = 128, // a list view where several rows can be selected
     STYLE_EDIT_LABELS = 256,        // a list view whose labels the person may edit
+    STYLE_COLOUR = 512,             // an edit box for six hexadecimal digits
+    STYLE_PATH = 1024,              // holds the component's own paths; the person sees and types the system's
 };
 
 // One row of a combo box: the value that the program reads, and, where that isn't fit to be read by a person,
@@ -58,6 +60,8 @@ struct CChoice {
 
     const char* m_pValue;
     const char* m_pShown; // in UTF-8, whatever the code page; null: the value itself
+
+    const char* Shown() const { return m_pShown ? m_pShown : m_pValue; }
 };
 
 struct CControlDescription {

@@ -1,5 +1,6 @@
 #include "toolkit/edit.h"
 
+#include "platform/paths.h"
 #include "toolkit/dialog_description.h"
 
 #include <algorithm>
@@ -9,6 +10,18 @@ namespace orrelix {
 void CEdit::OnCreate(const CControlDescription& description) {
     m_bMultiLine = description.Has(STYLE_MULTI_LINE);
     m_bDigits = description.Has(STYLE_DIGITS);
+    m_bColour = description.Has(STYLE_COLOUR);
+    m_bPath = description.Has(STYLE_PATH);
+}
+
+CString CEdit::ForPerson() const {
+    return m_bPath ? CString(SystemSpelling(GetWindowText())) : GetWindowText();
+}
+
+CString CEdit::FromPerson(const CString& text) const {
+    if (m_bPath)
+        return FromSystemPath(text);
+    return m_bColour && text.Left(1) == "#" ? text.Mid(1) : text;
 }
 
 void CEdit::PersonTypes(CPersonKey, const CString& text) {

@@ -33,7 +33,8 @@ protected:
 
 TEST_F(CopyResources, OkOverwritesAndPointsEveryTextOfAPathAtTheCopy) {
     EXPECT_EQ(m_Dialog.m_nClashes, 3);
-    m_Person.In("Copy Resources").Shows("Destination", "Destination Directory: " + m_Site.Path());
+    m_Person.In("Copy Resources")
+        .Shows("Destination", CString("Destination Directory: ") + m_Site.File("").c_str());
     m_Person.Then([](CDialog& dialog) {
         const CListCtrl& list = dialog.Item<CListCtrl>(CopyResourcesId::Clashes);
         EXPECT_EQ(list.GetItemCount(), 2) << "one row for each source path";

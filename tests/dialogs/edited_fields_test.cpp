@@ -77,7 +77,7 @@ protected:
                        const std::function<void(const char*)>& act) {
         switch (control.m_Kind) {
         case ControlKind::ComboBox:
-            m_Person.Picks(name, control.m_Choices.back());
+            m_Person.Picks(name, control.m_Choices.back().Shown());
             act(" picked");
             if (control.Has(STYLE_LIST_ONLY))
                 return;

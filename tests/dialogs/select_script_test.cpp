@@ -35,6 +35,8 @@ TEST_F(SelectScript, OkWithoutASelectionKeepsTheDialogOpen) {
 TEST_F(SelectScript, ASecondRunBeginsAfresh) {
     m_Steps.SelectsRow(m_List, 3).Clicks("Cancel");
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
+    m_Steps.Then([](CDialog&) { throw std::bad_alloc(); });
+    EXPECT_THROW(m_Dialog.DoModal(), std::bad_alloc);
     m_Steps.ShowsRows(m_List, kNames).ShowsSelected(m_List, {}).PressesEscape();
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
 }

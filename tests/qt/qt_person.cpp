@@ -1,6 +1,7 @@
 #include "tests/qt/qt_person.h"
 
 #include "qt/application.h"
+#include "qt/rows_model.h"
 #include "qt/text.h"
 #include "toolkit/file_dialog.h"
 
@@ -118,16 +119,20 @@ void CQtPerson::PlayNext(CDialog& dialog) {
         return;
     if (!QApplication::activeWindow())
         return Window().activateWindow(); // as a window manager does when the one before it closes
-    if (PlayStep(dialog, *this))
-        return;
+    try {
+        if (PlayStep(dialog, *this))
+            return;
+    } catch (...) {
+        return Window().Fail();
+    }
     if (m_pOpenPopup)
         m_pOpenPopup->OnDeactivate(Person());
     dialog.PersonCloses(Person());
 }
 
 int CQtPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
-    WhenItIsUp<QMessageBox>([this](QMessageBox& box) {
-        const int nAnswer = AnswerMessageBox(LinesFromQt(box.text()));
+    WhenItIsUp<QMessageBox>([this, kind](QMessageBox& box) {
+        const int nAnswer = AnswerMessageBox(LinesFromQt(box.text()), kind);
         QTest::mouseClick(box.button(nAnswer == IDOK ? QMessageBox::Ok : QMessageBox::Cancel),
                           Qt::LeftButton);
     });
@@ -136,15 +141,15 @@ int CQtPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
 
 bool CQtPerson::RunFileDialog(CFileDialog& dialog) {
     WhenItIsUp<QFileDialog>([this](QFileDialog& window) {
-        const auto answer = AnswerFileDialog();
-        if (!answer)
-            return QTest::keyClick(&window, Qt::Key_Escape);
+        const CFileAnswer answer = AnswerFileDialog();
         for (QLineEdit* pBox : window.findChildren<QLineEdit*>()) {
-            if (pBox->accessibleName() == "Web Path")
-                ReplaceText(*pBox, ToQt(answer->m_AddedText));
+            if (answer.m_AddedText && pBox->accessibleName() == "Web Path")
+                ReplaceText(*pBox, ToQt(*answer.m_AddedText));
         }
+        if (!answer.m_Path)
+            return QTest::keyClick(&window, Qt::Key_Escape);
         QLineEdit& name = *window.findChild<QLineEdit*>("fileNameEdit");
-        ReplaceText(name, PathToQt(answer->m_Path));
+        ReplaceText(name, PathToQt(*answer.m_Path));
         QTest::keyClick(&name, Qt::Key_Return);
     });
     return CQtDesktop::RunFileDialog(dialog);
@@ -293,6 +298,19 @@ std::vector<CString> CQtPerson::RowsOf(const CTarget& target) {
         rows.push_back(cells);
     }
     return rows;
+}
+
+int CQtPerson::HotRowOf(const CTarget& target) {
+    const QAbstractItemModel& model = *As<QAbstractItemView>(target).model();
+    for (int nRow = 0; nRow < model.rowCount(); ++nRow) {
+        if (model.index(nRow, 0).data(kHotRole).toBool())
+            return nRow;
+    }
+    return -1;
+}
+
+CString CQtPerson::TextBeside(const CTarget& target) {
+    return FromQt(WidgetOf(target).accessibleDescription());
 }
 
 std::vector<int> CQtPerson::SelectedRowsOf(const CTarget& target) {

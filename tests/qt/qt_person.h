@@ -42,6 +42,8 @@ public:
     int PositionOf(const CTarget& target) override;
     std::vector<CString> RowsOf(const CTarget& target) override;
     std::vector<int> SelectedRowsOf(const CTarget& target) override;
+    int HotRowOf(const CTarget& target) override;
+    CString TextBeside(const CTarget& target) override;
 
     // The window in front, which must be a dialog's.
     static CDialogWindow& Window();

@@ -67,6 +67,20 @@ TEST_P(DesktopPromises, WhatThePersonLeavesReachesTheFields) {
     EXPECT_EQ(m_Dialog.m_nFixed, 2);
 }
 
+TEST_P(DesktopPromises, PathsAndColoursAreTypedAsAPersonKnowsThem) {
+    m_Dialog.m_Path = "\\home\\ann\\a.gif";
+    m_Person.In("Everything")
+        .Shows("Path:", "/home/ann/a.gif")
+        .Types("Path:", "/srv/b.gif")
+        .Shows("Path:", "/srv/b.gif")
+        .Types("Boxes / Colour:", "#12aBef")
+        .Shows("Boxes / Colour:", "12aBef")
+        .Clicks("OK");
+    EXPECT_EQ(m_Dialog.DoModal(), IDOK);
+    EXPECT_EQ(m_Dialog.m_Path, "\\srv\\b.gif");
+    EXPECT_EQ(m_Dialog.m_Colour, "12aBef");
+}
+
 TEST_P(DesktopPromises, ABoxForDigitsTakesNothingElseAndKeepsWhatTheProgramPutIn) {
     m_Dialog.m_Digits = "50%";
     m_Person.In("Everything");
@@ -150,6 +164,9 @@ TEST_P(DesktopPromises, SeveralRowsOfAListViewAreSelected) {
         })
         .ShowsRows("View:", {"top | ", "item 1 | link 1", "item 2 | link 2"})
         .ShowsSelected("View:", {2})
+        .ShowsHotRow("View:", -1)
+        .Then([](CDialog& dialog) { dialog.Item<CListCtrl>(promises::Id::View).SetHotItem(1); })
+        .ShowsHotRow("View:", 1)
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Log.Left(5), "view ");
@@ -197,11 +214,13 @@ TEST_P(DesktopPromises, DialogsNestAndTheOuterOneGoesOn) {
     };
     m_Person.In("Everything")
         .Types("Text:", "outer")
+        .ShowsBeside("More...", "text ")
         .Clicks("More...")
         .Shows("Text:", "inner")
         .Types("Text:", "changed")
         .Clicks("OK")
         .Shows("Text:", "outer")
+        .ShowsBeside("More...", "text changed")
         .Clicks("Cancel");
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(m_Dialog.m_Log, "text changed");
@@ -239,17 +258,19 @@ TEST_P(DesktopPromises, AFileIsChosenAndTheAddedBoxIsRead) {
     const CString path = directory.Write("a.gif", "");
     promises::CPathDialog files;
     m_Dialog.m_OnMore = [&](promises::CEverythingDlg& dialog) {
-        dialog.m_Log += files.DoModal() == IDOK ? files.GetPathName() + " " : "none ";
+        dialog.m_Log += files.DoModal() == IDOK ? files.GetPathName() : CString("none");
+        dialog.m_Log += " " + files.m_WebPath + " ";
     };
     m_Person.In("Everything")
         .Clicks("More...")
-        .CancelsFile()
+        .CancelsFile("typed/")
+        .Clicks("More...")
+        .ChoosesFile(path)
         .Clicks("More...")
         .ChoosesFile(path, "img/")
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
-    EXPECT_EQ(m_Dialog.m_Log, "none " + path + " ");
-    EXPECT_EQ(files.m_WebPath, "img/");
+    EXPECT_EQ(m_Dialog.m_Log, "none typed/ " + path + " typed/ " + path + " img/ ");
 }
 
 TEST_P(DesktopPromises, AColourIsMixedOrNot) {

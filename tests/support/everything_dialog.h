@@ -18,6 +18,7 @@ namespace promises {
 struct Id {
     enum : int {
         Text = 100,
+        Path,
         Lines,
         Digits,
         Number,
@@ -39,7 +40,7 @@ inline const CDialogDescription& Description() {
         "Everything",
         Column(
             {Group("Boxes", {Edit(Id::Text, "&Text:"), Edit(Id::Lines, "&Lines:", STYLE_MULTI_LINE),
-                             Edit(Id::Digits, "&Digits:", STYLE_DIGITS),
+                             Edit(Id::Path, "&Path:", STYLE_PATH), Edit(Id::Digits, "&Digits:", STYLE_DIGITS),
                              Number(Id::Number, "&Number:", 0, 50), Colour(Id::Colour, "&Colour:")}),
              ComboBox(Id::Kind, "&Kind:", {"red", "green", "blue"}, STYLE_SORTED),
              ComboBox(Id::Fixed, "&Fixed:", {"", "one", {"\xd2\xbb", "Chinese \xe4\xb8\x80"}},
@@ -107,6 +108,7 @@ class CEverythingDlg : public CDialog {
 public:
     CEverythingDlg() : CDialog(Description()), m_Button(m_Log) {
         Attach(PickerOf(Id::Colour), m_Button);
+        ShowBeside(Id::More, [this] { return m_Log; });
         SetHandlers<CEverythingDlg>({
             {Id::Text, Notification::Changed, &CEverythingDlg::OnText},
             {Id::Number, Notification::Changed, &CEverythingDlg::OnNumber},
@@ -122,7 +124,9 @@ public:
 
     CString m_Text = "old";
     CString m_Lines = "first\r\nsecond";
+    CString m_Path;
     CString m_Digits;
+    CString m_Colour;
     CString m_Number = "12";
     CString m_Kind = "green";
     int m_nFixed = 1;
@@ -136,7 +140,9 @@ protected:
     void DoDataExchange(CDataExchange& exchange) override {
         exchange.Text(Id::Text, m_Text);
         exchange.Text(Id::Lines, m_Lines);
+        exchange.Text(Id::Path, m_Path);
         exchange.Text(Id::Digits, m_Digits);
+        exchange.Text(Id::Colour, m_Colour);
         exchange.Text(Id::Number, m_Number);
         exchange.Text(Id::Kind, m_Kind);
         exchange.Index(Id::Fixed, m_nFixed);

@@ -152,14 +152,12 @@ CPersonScript& CPersonScript::Answers(const CString& message, int nAnswer) {
                 .m_nAnswer = nAnswer});
 }
 
-CPersonScript& CPersonScript::ChoosesFile(const CString& path, const CString& addedText) {
-    return Add({.m_Kind = Kind::File,
-                .m_Words = "chooses the file " + path,
-                .m_File = CFileAnswer{path, addedText}});
+CPersonScript& CPersonScript::ChoosesFile(const CString& path, const std::optional<CString>& addedText) {
+    return Add({.m_Kind = Kind::File, .m_Words = "chooses the file " + path, .m_File = {path, addedText}});
 }
 
-CPersonScript& CPersonScript::CancelsFile() {
-    return Add({.m_Kind = Kind::File, .m_Words = "cancels the file dialog"});
+CPersonScript& CPersonScript::CancelsFile(const std::optional<CString>& addedText) {
+    return Add({.m_Kind = Kind::File, .m_Words = "cancels the file dialog", .m_File = {{}, addedText}});
 }
 
 CPersonScript& CPersonScript::MixesColour(CColour colour) {
@@ -188,17 +186,21 @@ bool CPersonScript::PlayStep(CDialog& dialog, CPersonHands& hands) {
     return !m_bLost;
 }
 
-int CPersonScript::AnswerMessageBox(const CString& text) {
+int CPersonScript::AnswerMessageBox(const CString& text, MessageBoxKind kind) {
+    const bool bCancel = kind == MessageBoxKind::OkCancel;
     const std::optional<CStep> step = Take(Kind::Message, CString("the message \"") + text + "\"");
     if (!step)
-        return IDCANCEL;
+        return bCancel ? IDCANCEL : IDOK;
     EXPECT_EQ(text, step->m_Message);
-    return step->m_nAnswer;
+    if (bCancel || step->m_nAnswer == IDOK)
+        return step->m_nAnswer;
+    Fail(CString("there is no Cancel where the person ") + step->m_Words);
+    return IDOK;
 }
 
-std::optional<CPersonScript::CFileAnswer> CPersonScript::AnswerFileDialog() {
+CPersonScript::CFileAnswer CPersonScript::AnswerFileDialog() {
     const std::optional<CStep> step = Take(Kind::File, "a file dialog");
-    return step ? step->m_File : std::nullopt;
+    return step ? step->m_File : CFileAnswer();
 }
 
 std::optional<CColour> CPersonScript::AnswerColourDialog() {

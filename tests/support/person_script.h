@@ -10,6 +10,7 @@
 // that is never reached. After a failure the person closes whatever comes up.
 #pragma once
 
+#include "toolkit/desktop.h"
 #include "toolkit/dialog.h"
 #include "toolkit/popup_window.h"
 
@@ -62,6 +63,8 @@ public:
     // Rows of a list or combo box; the cells of a row with columns are joined by " | ".
     virtual std::vector<CString> RowsOf(const CTarget& target) = 0;
     virtual std::vector<int> SelectedRowsOf(const CTarget& target) = 0;
+    virtual int HotRowOf(const CTarget& target) = 0;
+    virtual CString TextBeside(const CTarget& target) = 0;
 };
 
 class CPersonScript {
@@ -119,8 +122,9 @@ public:
 
     // What comes up by itself: a message box, which is answered; the system's file and colour dialogs.
     CPersonScript& Answers(const CString& message, int nAnswer = IDOK);
-    CPersonScript& ChoosesFile(const CString& path, const CString& addedText = "");
-    CPersonScript& CancelsFile();
+    // The added box takes the text that is given; otherwise it keeps what it shows.
+    CPersonScript& ChoosesFile(const CString& path, const std::optional<CString>& addedText = {});
+    CPersonScript& CancelsFile(const std::optional<CString>& addedText = {});
     CPersonScript& MixesColour(CColour colour);
     CPersonScript& CancelsColour();
 
@@ -137,6 +141,13 @@ public:
     CPersonScript& ShowsSelected(const CString& name, const std::vector<int>& rows) {
         return Sees("looks at the selection of", name, kRows, &CPersonHands::SelectedRowsOf, rows);
     }
+    // -1: no row is hot.
+    CPersonScript& ShowsHotRow(const CString& name, int nRow) {
+        return Sees("looks at the hot row of", name, {ControlKind::ListCtrl}, &CPersonHands::HotRowOf, nRow);
+    }
+    CPersonScript& ShowsBeside(const CString& name, const CString& text) {
+        return Sees("reads beside", name, {ControlKind::Button}, &CPersonHands::TextBeside, text);
+    }
     CPersonScript& ShowsEnabled(const CString& name, bool bEnabled = true) {
         return Sees("looks at", name, kAll, &CPersonHands::IsEnabled, bEnabled);
     }
@@ -151,13 +162,14 @@ public:
     // the next step isn't about it. The failure has been reported then.
     bool PlayStep(CDialog& dialog, CPersonHands& hands);
 
-    int AnswerMessageBox(const CString& text);
+    // IDOK for a box that has nothing else.
+    int AnswerMessageBox(const CString& text, MessageBoxKind kind);
 
     struct CFileAnswer {
-        CString m_Path;
-        CString m_AddedText;
+        std::optional<CString> m_Path; // none: cancels
+        std::optional<CString> m_AddedText;
     };
-    std::optional<CFileAnswer> AnswerFileDialog();
+    CFileAnswer AnswerFileDialog();
     std::optional<CColour> AnswerColourDialog();
 
 private:
@@ -170,7 +182,7 @@ private:
         std::function<void(CDialog&, CPersonHands&)> m_Act = {};
         CString m_Message = {};
         int m_nAnswer = IDOK;
-        std::optional<CFileAnswer> m_File = {};
+        CFileAnswer m_File = {};
         std::optional<CColour> m_Colour = {};
     };
 

@@ -1,5 +1,6 @@
 #include "tests/support/scripted_person.h"
 
+#include "platform/paths.h"
 #include "toolkit/button.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/file_dialog.h"
@@ -25,6 +26,10 @@ CString JoinedCells(const CListCtrl& list, int nRow) {
     return cells;
 }
 
+CString Seen(const CTarget& target, const CString& text) {
+    return target.m_Description.Has(STYLE_PATH) ? CString(SystemSpelling(text)) : text;
+}
+
 CString ShownRow(const CComboBox& box, int nRow) {
     const char* pShown = box.GetShownText(nRow);
     return pShown ? CString(pShown) : box.GetLBText(nRow);
@@ -43,18 +48,17 @@ void CScriptedPerson::RunDialog(CDialog& dialog) {
     }
 }
 
-int CScriptedPerson::ShowMessageBox(const CString& text, MessageBoxKind) {
-    return AnswerMessageBox(text);
+int CScriptedPerson::ShowMessageBox(const CString& text, MessageBoxKind kind) {
+    return AnswerMessageBox(text, kind);
 }
 
 bool CScriptedPerson::RunFileDialog(CFileDialog& dialog) {
-    const auto answer = AnswerFileDialog();
-    if (!answer)
-        return false;
-    if (CEdit* pEdit = dialog.GetAddedEdit(); pEdit && !answer->m_AddedText.IsEmpty())
-        pEdit->PersonTypes(Person(), answer->m_AddedText);
-    dialog.PersonChooses(Person(), answer->m_Path);
-    return true;
+    const CFileAnswer answer = AnswerFileDialog();
+    if (answer.m_AddedText)
+        dialog.GetAddedEdit()->PersonTypes(Person(), *answer.m_AddedText);
+    if (answer.m_Path)
+        dialog.PersonChooses(Person(), *answer.m_Path);
+    return answer.m_Path.has_value();
 }
 
 bool CScriptedPerson::RunColourDialog(CColour& colour) {
@@ -95,8 +99,8 @@ CColour CScriptedPerson::GetSystemColour(SystemColour colour) const {
 void CScriptedPerson::Type(const CTarget& target, const CString& text) {
     if (auto* pBox = As<CComboBox>(target))
         pBox->PersonTypes(Person(), text);
-    else
-        As<CEdit>(target)->PersonTypes(Person(), text);
+    else if (auto* pEdit = As<CEdit>(target))
+        pEdit->PersonTypes(Person(), pEdit->FromPerson(text));
 }
 
 void CScriptedPerson::Turn(const CTarget& target, int nSteps) {
@@ -143,8 +147,13 @@ void CScriptedPerson::PressEnter(CDialog& dialog) {
 
 CString CScriptedPerson::TextOf(const CTarget& target) {
     const auto* pBox = As<CComboBox>(target);
-    return pBox && !pBox->HasEditPart() && pBox->GetCurSel() >= 0 ? ShownRow(*pBox, pBox->GetCurSel())
-                                                                  : target.m_Control.GetWindowText();
+    if (pBox && !pBox->HasEditPart() && pBox->GetCurSel() >= 0)
+        return ShownRow(*pBox, pBox->GetCurSel());
+    return Seen(target, target.m_Control.GetWindowText());
+}
+
+CString CScriptedPerson::TextBeside(const CTarget& target) {
+    return target.m_Dialog.GetTextBeside(target.m_Description.m_nId);
 }
 
 int CScriptedPerson::PositionOf(const CTarget& target) {
@@ -158,12 +167,16 @@ std::vector<CString> CScriptedPerson::RowsOf(const CTarget& target) {
             rows.push_back(ShownRow(*pBox, nRow));
     } else if (auto* pList = As<CListCtrl>(target)) {
         for (int nRow = 0; nRow < pList->GetItemCount(); ++nRow)
-            rows.push_back(JoinedCells(*pList, nRow));
+            rows.push_back(Seen(target, JoinedCells(*pList, nRow)));
     } else {
         for (int nRow = 0; nRow < As<CListBox>(target)->GetCount(); ++nRow)
             rows.push_back(As<CListBox>(target)->GetText(nRow));
     }
     return rows;
+}
+
+int CScriptedPerson::HotRowOf(const CTarget& target) {
+    return As<CListCtrl>(target)->GetHotItem();
 }
 
 std::vector<int> CScriptedPerson::SelectedRowsOf(const CTarget& target) {

@@ -52,6 +52,8 @@ public:
     int PositionOf(const CTarget& target) override;
     std::vector<CString> RowsOf(const CTarget& target) override;
     std::vector<int> SelectedRowsOf(const CTarget& target) override;
+    int HotRowOf(const CTarget& target) override;
+    CString TextBeside(const CTarget& target) override;
 
 private:
     CPopupWindow* m_pPopup = nullptr;
