@@ -13,14 +13,9 @@ CBorderPropertiesDlg::CBorderPropertiesDlg() : CFieldDialog(BorderDescription())
 
 void EditBorder(const CBorderFields& border) {
     CBorderPropertiesDlg dialog;
-    dialog.m_BorderWidth = border.m_Width;
-    dialog.m_BorderStyle = border.m_Style;
-    dialog.m_BorderColor = border.m_Color;
-    if (dialog.DoModal() != IDOK)
-        return;
-    border.m_Width = dialog.m_BorderWidth;
-    border.m_Style = dialog.m_BorderStyle;
-    border.m_Color = dialog.m_BorderColor;
+    EditThrough(dialog, {{border.m_Width, dialog.m_BorderWidth},
+                         {border.m_Style, dialog.m_BorderStyle},
+                         {border.m_Color, dialog.m_BorderColor}});
 }
 
 } // namespace orrelix

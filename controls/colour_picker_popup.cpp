@@ -98,9 +98,11 @@ int CColourPickerPopup::HitTest(CPoint point) const {
 int CColourPickerPopup::NextSelection(PopupKey key) const {
     const bool bForwards = key == PopupKey::Down || key == PopupKey::Right;
     const int nAround = bForwards ? 0 : m_nColours - 1;
+    // Where nothing is marked, the keyboard starts at what is chosen.
+    if (m_nCurrentSel == kNone)
+        return m_nChosenSel == kNone ? nAround : m_nChosenSel;
     if (m_nCurrentSel == kCustomBox)
         return nAround;
-    // Where nothing is marked, the pointer is taken to stand in front of the first cell.
     const int nRow = m_nCurrentSel / m_nColumns;
     const int nColumn = m_nCurrentSel % m_nColumns;
     int nNext = kNone;

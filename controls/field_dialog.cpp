@@ -94,4 +94,14 @@ void CFieldDialog::OnColourPicked() {
     UpdateData(false);
 }
 
+bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts) {
+    for (const CHandedText& handed : texts)
+        handed.m_Field = handed.m_Text;
+    if (dialog.DoModal() != IDOK)
+        return false;
+    for (const CHandedText& handed : texts)
+        handed.m_Text = handed.m_Field;
+    return true;
+}
+
 } // namespace orrelix

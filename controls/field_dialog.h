@@ -88,4 +88,13 @@ private:
     std::list<CColourBox> m_Boxes;
 };
 
+// A text of the caller's and the field of a dialog that edits it.
+struct CHandedText {
+    CString& m_Text;
+    CString& m_Field;
+};
+
+// Runs a dialog on these texts, which change only if it ends in IDOK: then true.
+bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts);
+
 } // namespace orrelix

@@ -32,17 +32,10 @@ void CFontDlg::OnFamilyDoubleClicked() {
 }
 
 bool CFontDlg::Edit(const CFontFields& font) {
-    m_FontFace = font.m_Face;
-    m_FontSize = font.m_Size;
-    m_FontWeight = font.m_Weight;
-    m_FontStyle = font.m_Style;
-    if (DoModal() != IDOK)
-        return false;
-    font.m_Face = m_FontFace;
-    font.m_Size = m_FontSize;
-    font.m_Weight = m_FontWeight;
-    font.m_Style = m_FontStyle;
-    return true;
+    return EditThrough(*this, {{font.m_Face, m_FontFace},
+                               {font.m_Size, m_FontSize},
+                               {font.m_Weight, m_FontWeight},
+                               {font.m_Style, m_FontStyle}});
 }
 
 CFontPropertiesDlg::CFontPropertiesDlg() : CFontDlg(FontPropertiesDescription()) {}

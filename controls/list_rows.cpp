@@ -12,17 +12,27 @@ CStringArray TextsOf(const CListBox& list) {
     return texts;
 }
 
+void AddRows(CListBox& list, const CStringArray& texts) {
+    for (const CString& text : texts)
+        list.AddString(text);
+}
+
 void ReplaceRow(CListBox& list, int nRow, const CString& text) {
     list.DeleteString(nRow);
     list.InsertString(nRow, text);
     list.SetCurSel(nRow);
 }
 
-void MoveRow(CListBox& list, int nFrom, int nTo) {
+bool MoveSelectedRow(CListBox& list, int nStep) {
+    const int nFrom = list.GetCurSel();
+    const int nTo = nFrom + nStep;
+    if (nFrom < 0 || nTo < 0 || nTo >= list.GetCount())
+        return false;
     const CString text = list.GetText(nFrom);
     list.DeleteString(nFrom);
     list.InsertString(nTo, text);
     list.SetCurSel(nTo);
+    return true;
 }
 
 CStringArray TextsOfRow(const CListCtrl& list, int nRow) {

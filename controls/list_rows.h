@@ -10,10 +10,15 @@ class CListBox;
 class CListCtrl;
 
 CStringArray TextsOf(const CListBox& list);
+// Behind the rows that are there.
+void AddRows(CListBox& list, const CStringArray& texts);
 
-// Both select the row at its place, which has to exist.
+// Selects the row, which has to exist.
 void ReplaceRow(CListBox& list, int nRow, const CString& text);
-void MoveRow(CListBox& list, int nFrom, int nTo);
+
+// Exchanges the selected row with the one nStep rows away and selects it there. False where no row is selected
+// or it has nowhere to go: nothing has changed then.
+bool MoveSelectedRow(CListBox& list, int nStep);
 
 // The texts of a row of a list view, by column.
 CStringArray TextsOfRow(const CListCtrl& list, int nRow);

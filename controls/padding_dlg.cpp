@@ -15,16 +15,10 @@ CPaddingDlg::CPaddingDlg() : CFieldDialog(PaddingDescription()) {
 
 void EditPadding(const CPaddingFields& padding) {
     CPaddingDlg dialog;
-    dialog.m_PaddingBottom = padding.m_Bottom;
-    dialog.m_PaddingLeft = padding.m_Left;
-    dialog.m_PaddingRight = padding.m_Right;
-    dialog.m_PaddingTop = padding.m_Top;
-    if (dialog.DoModal() != IDOK)
-        return;
-    padding.m_Bottom = dialog.m_PaddingBottom;
-    padding.m_Left = dialog.m_PaddingLeft;
-    padding.m_Right = dialog.m_PaddingRight;
-    padding.m_Top = dialog.m_PaddingTop;
+    EditThrough(dialog, {{padding.m_Bottom, dialog.m_PaddingBottom},
+                         {padding.m_Left, dialog.m_PaddingLeft},
+                         {padding.m_Right, dialog.m_PaddingRight},
+                         {padding.m_Top, dialog.m_PaddingTop}});
 }
 
 } // namespace orrelix

@@ -73,9 +73,7 @@ void CUrlDlg::OnTypeListClosed() {
 
 void EditUrl(CString& url) {
     CUrlDlg dialog;
-    dialog.m_Url = url;
-    if (dialog.DoModal() == IDOK)
-        url = dialog.m_Url;
+    EditThrough(dialog, {{url, dialog.m_Url}});
 }
 
 } // namespace orrelix

@@ -1,6 +1,7 @@
 #include "core/orrelix.h"
 
 #include "dialogs/animate_text_dlg.h"
+#include "dialogs/calander_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "platform/paths.h"
@@ -41,7 +42,7 @@ constexpr struct CEffectParts {
 } kParts[] = {
     {GadgetOf<&COrrelix::m_AnimateText>, RunDialog<CAnimateTextDlg, &COrrelix::m_AnimateText>},
     {GadgetOf<&COrrelix::m_TextShow>, RunDialog<CTextShowDlg, &COrrelix::m_TextShow>},
-    {GadgetOf<&COrrelix::m_Calander>, nullptr},
+    {GadgetOf<&COrrelix::m_Calander>, RunDialog<CCalanderDlg, &COrrelix::m_Calander>},
     {GadgetOf<&COrrelix::m_CoolLink>, nullptr},
     {GadgetOf<&COrrelix::m_ScrollText>, nullptr},
     {GadgetOf<&COrrelix::m_FadeSelect>, RunDialog<CFadeSelectDlg, &COrrelix::m_FadeSelect>},

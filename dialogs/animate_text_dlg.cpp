@@ -35,12 +35,12 @@ CAnimateTextDlg::CAnimateTextDlg() : CGadgetDialog(AnimateTextDescription()) {
                        .m_Size = m_Copy.m_FontSize,
                        .m_Weight = m_Copy.m_FontWeight,
                        .m_Style = m_Copy.m_FontStyle});
+    OnClick(Id::MoveUp, [this] { Move(-1); });
+    OnClick(Id::MoveDown, [this] { Move(1); });
     SetHandlers<CAnimateTextDlg>({
         {Id::Add, Notification::Clicked, &CAnimateTextDlg::OnAdd},
         {Id::Delete, Notification::Clicked, &CAnimateTextDlg::OnDelete},
         {Id::Modify, Notification::Clicked, &CAnimateTextDlg::OnModify},
-        {Id::MoveUp, Notification::Clicked, &CAnimateTextDlg::OnMoveUp},
-        {Id::MoveDown, Notification::Clicked, &CAnimateTextDlg::OnMoveDown},
         {Id::Messages, Notification::SelectionChanged, &CAnimateTextDlg::OnSelectionChanged},
     });
 }
@@ -122,21 +122,9 @@ void CAnimateTextDlg::OnModify() {
 }
 
 // The move buttons can be enabled without a selection: after the first message went into an empty list.
-void CAnimateTextDlg::OnMoveUp() {
-    const int nSelected = Messages().GetCurSel();
-    if (nSelected < 1)
-        return;
-    MoveRow(Messages(), nSelected, nSelected - 1);
-    EnableMoves({nSelected - 1 != 0, true});
-}
-
-void CAnimateTextDlg::OnMoveDown() {
-    const int nSelected = Messages().GetCurSel();
-    const int nLast = Messages().GetCount() - 1;
-    if (nSelected < 0 || nSelected == nLast)
-        return;
-    MoveRow(Messages(), nSelected, nSelected + 1);
-    EnableMoves({true, nSelected + 1 != nLast});
+void CAnimateTextDlg::Move(int nStep) {
+    if (MoveSelectedRow(Messages(), nStep))
+        EnableMoves(MovesOf(Messages().GetCurSel(), Messages().GetCount()));
 }
 
 void CAnimateTextDlg::OnSelectionChanged() {

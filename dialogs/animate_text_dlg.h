@@ -19,12 +19,11 @@ private:
     void OnAdd();
     void OnDelete();
     void OnModify();
-    void OnMoveUp();
-    void OnMoveDown();
     void OnSelectionChanged();
 
     CListBox& Messages() const;
     void EnableMoves(CMoves moves) const;
+    void Move(int nStep);
 
     CString m_EditText;
     int m_nEditIndex = -1; // the row that "Modify" replaces; only a selection by the person sets it

@@ -80,10 +80,10 @@ TEST(ColourPickerPopup, KeysGoFromCellToCellAndThroughTheBox) {
           CCase{32, PopupKey::Down, kBox, 0}, CCase{kBox, PopupKey::Down, 0, 0},
           CCase{11, PopupKey::Up, 3, 3}, CCase{7, PopupKey::Up, kBox, 39}, CCase{kBox, PopupKey::Up, 39, 39},
           CCase{3, PopupKey::Right, 4, 4}, CCase{7, PopupKey::Right, 8, 8},
-          CCase{39, PopupKey::Right, kBox, 0}, CCase{kNone, PopupKey::Right, 0, 0},
-          CCase{kNone, PopupKey::Down, kBox, 0}, CCase{kNone, PopupKey::Left, kBox, 39},
-          CCase{kBox, PopupKey::Right, 0, 0}, CCase{4, PopupKey::Left, 3, 3}, CCase{8, PopupKey::Left, 7, 7},
-          CCase{0, PopupKey::Left, kBox, 39}, CCase{kBox, PopupKey::Left, 39, 39}}) {
+          CCase{39, PopupKey::Right, kBox, 0}, CCase{kNone, PopupKey::Right, kBox, 0},
+          CCase{kNone, PopupKey::Left, kBox, 39}, CCase{kBox, PopupKey::Right, 0, 0},
+          CCase{4, PopupKey::Left, 3, 3}, CCase{8, PopupKey::Left, 7, 7}, CCase{0, PopupKey::Left, kBox, 39},
+          CCase{kBox, PopupKey::Left, 39, 39}}) {
         for (const char* pText : {"More Colors...", ""}) {
             if (move.m_nFrom == kBox && !*pText)
                 continue;
@@ -188,10 +188,15 @@ TEST(ColourPickerPopup, EachSelectionEndsWithOneMessageAndAValidColour) {
     }
 }
 
-TEST(ColourPickerPopup, TheColourOfTheStartIsChosen) {
+TEST(ColourPickerPopup, TheColourOfTheStartIsChosenAndTheFirstKeyGoesThere) {
     EXPECT_EQ(CPersonAtPopup("ffd700").m_pPopup->GetChosenSel(), 25);
     EXPECT_EQ(CPersonAtPopup("ffd701").m_pPopup->GetChosenSel(), kBox);
     EXPECT_EQ(CPersonAtPopup("ffd701", "").m_pPopup->GetChosenSel(), kNone);
+    CPersonAtPopup person("ffd700");
+    person.PressInPopup(PopupKey::Left);
+    EXPECT_EQ(person.m_pPopup->GetCurrentSel(), 25);
+    person.PressInPopup(PopupKey::Left);
+    EXPECT_EQ(person.m_pPopup->GetCurrentSel(), 24);
 }
 
 } // namespace orrelix

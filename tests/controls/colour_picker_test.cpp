@@ -76,9 +76,8 @@ TEST(ColourPicker, TheDialogHearsOfTheSelectionAndIsDisabledMeanwhile) {
         CScriptedPerson person;
         COneColourDlg dialog;
         dialog.m_Picker.SetHexColour("ffffff");
-        // The first key goes to the box, as nothing is marked; the box has the colour of the start.
         person.In("One Colour").OpensColours("Colour:");
-        person.PressesInPopup({PopupKey::Down, PopupKey::Down, end.m_Last}).Clicks("OK");
+        person.PressesInPopup({PopupKey::Down, PopupKey::Left, end.m_Last}).Clicks("OK");
         EXPECT_EQ(dialog.DoModal(), IDOK);
         EXPECT_EQ(dialog.m_Log, end.m_pLog);
     }

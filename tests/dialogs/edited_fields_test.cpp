@@ -29,20 +29,20 @@ class EditedFields : public PersonTest, public testing::WithParamInterface<CTest
 protected:
     using Visit = std::function<void(const CControlDescription& control, const CString& name)>;
 
-    void ForEach(const Visit& visit) const {
-        ForEachControl(m_Description, [&](const CControlDescription& control, const char* pGroup) {
+    static void ForEach(const CDialogDescription& dialog, const Visit& visit) {
+        ForEachControl(dialog, [&](const CControlDescription& control, const char* pGroup) {
             const CString group = *pGroup ? WithoutMnemonic(pGroup) + " / " : CString();
             visit(control, group + AccessibleNameOf(control));
         });
     }
 
-    // Runs the dialog, as the person's steps say, on fields of which each has a value of its own; the result
-    // is their values then.
-    CValues Run(int nResult) {
+    // Runs the dialog, as the person's steps say, on fields of which each has a value of its own, or that of a
+    // new effect; the result is their values then.
+    CValues Run(int nResult, bool bNew = false) {
         const std::unique_ptr<CEditing> pEditing = GetParam().m_Edit();
         m_Starts.clear();
         for (size_t nField = 0; const CNamedText& field : pEditing->Fields())
-            m_Starts[field.m_Name] = *field.m_pText = StartOf(nField++);
+            m_Starts[field.m_Name] = *field.m_pText = bNew ? *field.m_pText : StartOf(nField++);
         EXPECT_EQ(pEditing->Run(), nResult);
         CValues values;
         for (const CNamedText& field : pEditing->Fields())
@@ -71,34 +71,52 @@ protected:
         return "\"" + std::string(text.View()) + "\"";
     }
 
-    // The ways in which a person changes what a control holds; `act` is called for each and has to take its
-    // steps.
-    void ForEachChange(const CControlDescription& control, const CString& name,
-                       const std::function<void(const char*)>& act) {
+    // A way in which a person changes what a control holds.
+    struct CChange {
+        const char* m_pHow;
+        std::function<void()> m_Act; // takes the steps
+    };
+    std::vector<CChange> ChangesOf(const CControlDescription& control, const CString& name) {
+        const CChange typed{" typed", [=, this] { m_Person.Types(name, "777777"); }};
         switch (control.m_Kind) {
-        case ControlKind::ComboBox:
-            m_Person.Picks(name, control.m_Choices.back().Shown());
-            act(" picked");
-            if (control.Has(STYLE_LIST_ONLY))
-                return;
-            [[fallthrough]];
+        case ControlKind::ComboBox: {
+            const CString last = control.m_Choices.back().Shown();
+            const CChange picked{" picked", [=, this] { m_Person.Picks(name, last); }};
+            return control.Has(STYLE_LIST_ONLY) ? std::vector{picked} : std::vector{picked, typed};
+        }
         case ControlKind::Edit:
-            m_Person.Types(name, "777777");
-            return act(" typed");
+            return {typed};
         case ControlKind::Spin:
-            m_Person.Turns(name, 1);
-            return act(" turned");
+            return {{" turned", [=, this] { m_Person.Turns(name, 1); }}};
         case ControlKind::Slider:
-            m_Person.Moves(name, control.m_nUpper);
-            return act(" moved");
-        case ControlKind::OwnerDrawnButton: // the box for any colour comes before the first one
-            m_Person.OpensColours(name).PressesInPopup({PopupKey::Up, PopupKey::Space});
-            m_Person.MixesColour(MakeColour(1, 2, 3));
-            return act(" mixed");
+            return {{" moved", [=, this, nEnd = control.m_nUpper] { m_Person.Moves(name, nEnd); }}};
+        case ControlKind::OwnerDrawnButton: // of a colour without a name, the box for any is chosen
+            return {{" mixed", [=, this] {
+                         m_Person.OpensColours(name).PressesInPopup({PopupKey::Up, PopupKey::Space});
+                         m_Person.MixesColour(MakeColour(1, 2, 3));
+                     }}};
         default:
-            return;
+            return {};
         }
     }
+
+    // The person's way to the boxes of the dialog, or of one that a button of it opens, and out again.
+    void Open(const CSubDialog* pSub) {
+        m_Person.In(m_Description.m_pTitle);
+        if (pSub)
+            m_Person.Clicks(pSub->m_pButton).In(pSub->m_pDescription().m_pTitle);
+    }
+    void Close(const CSubDialog* pSub, const char* pSubButton, const char* pButton) {
+        if (pSub)
+            m_Person.Clicks(pSubButton).In(m_Description.m_pTitle);
+        m_Person.Clicks(pButton);
+    }
+    const CDialogDescription& Opened(const CSubDialog* pSub) const {
+        return pSub ? pSub->m_pDescription() : m_Description;
+    }
+
+    std::string BoxesOf(const CSubDialog* pSub);
+    CValues RunWithAllChanged(const CSubDialog* pSub, const char* pSubButton, const char* pButton);
 
     const CDialogDescription& m_Description = GetParam().m_pDescription();
     CValues m_Starts;
@@ -113,39 +131,64 @@ std::string Difference(const CValues& before, const CValues& after) {
     return text.empty() ? "nothing" : text.substr(2);
 }
 
+std::string EditedFields::BoxesOf(const CSubDialog* pSub) {
+    std::string text = pSub ? std::string(pSub->m_pButton) + " opens " + Opened(pSub).m_pTitle + "\n" : "";
+    const std::string indent = pSub ? "    " : "";
+    Open(pSub);
+    m_Person.Then([&](CDialog& dialog) {
+        ForEach(Opened(pSub), [&](const CControlDescription& control, const CString& name) {
+            if (control.m_Kind == ControlKind::Edit || control.m_Kind == ControlKind::ComboBox ||
+                control.m_Kind == ControlKind::Slider)
+                text += indent + name.GetString() + " shows " + Named(ShownBy(dialog, control.m_nId)) + "\n";
+        });
+    });
+    Close(pSub, "OK", "OK");
+    const CValues untouched = Run(IDOK);
+    text += indent + "OK stores " + Difference(m_Starts, untouched) + "\n";
+    ForEach(Opened(pSub), [&](const CControlDescription& control, const CString& name) {
+        for (const CChange& change : ChangesOf(control, name)) {
+            Open(pSub);
+            change.m_Act();
+            Close(pSub, "OK", "OK");
+            text += indent + name.GetString() + change.m_pHow + ": " + Difference(untouched, Run(IDOK));
+            text += TakeSections() + "\n";
+        }
+    });
+    return text;
+}
+
+CValues EditedFields::RunWithAllChanged(const CSubDialog* pSub, const char* pSubButton, const char* pButton) {
+    Open(pSub);
+    ForEach(Opened(pSub), [&](const CControlDescription& control, const CString& name) {
+        for (const CChange& change : ChangesOf(control, name))
+            change.m_Act();
+    });
+    Close(pSub, pSubButton, pButton);
+    return Run(CString(pButton) == "OK" ? IDOK : IDCANCEL);
+}
+
 } // namespace
 
 TEST_P(EditedFields, AreThoseOfTheirBoxes) {
-    std::string text;
-    m_Person.In(m_Description.m_pTitle).Then([&](CDialog& dialog) {
-        ForEach([&](const CControlDescription& control, const CString& name) {
-            if (control.m_Kind == ControlKind::Edit || control.m_Kind == ControlKind::ComboBox ||
-                control.m_Kind == ControlKind::Slider)
-                text += std::string(name.View()) + " shows " + Named(ShownBy(dialog, control.m_nId)) + "\n";
-        });
-    });
-    m_Person.Clicks("OK");
-    const CValues untouched = Run(IDOK);
-    text += "OK stores " + Difference(m_Starts, untouched) + "\n";
-    ForEach([&](const CControlDescription& control, const CString& name) {
-        ForEachChange(control, name, [&](const char* pHow) {
-            m_Person.Clicks("OK");
-            text += std::string(name.View()) + pHow + ": " + Difference(untouched, Run(IDOK));
-            text += TakeSections() + "\n";
-        });
-    });
+    Open(nullptr);
+    Close(nullptr, "", "OK");
+    const CValues untouched = Run(IDOK, true);
+    std::string text = "OK on new fields stores " + Difference(m_Starts, untouched) + "\n";
+    text += BoxesOf(nullptr);
+    for (const CSubDialog& sub : GetParam().m_SubDialogs)
+        text += BoxesOf(&sub);
     const std::filesystem::path expected = ORRELIX_SOURCE_DIR "/tests/expected/dialogs";
     EXPECT_TRUE(EqualsExpected(expected / (std::string(GetParam().m_pName) + ".txt"), text));
 }
 
-TEST_P(EditedFields, StayAsTheyAreWhenTheDialogIsCancelled) {
-    m_Person.In(m_Description.m_pTitle);
-    ForEach([&](const CControlDescription& control, const CString& name) {
-        ForEachChange(control, name, [](const char*) {});
-    });
-    m_Person.Clicks("Cancel");
-    const CValues after = Run(IDCANCEL);
-    EXPECT_EQ(Difference(m_Starts, after), "nothing");
+TEST_P(EditedFields, StayAsTheyAreWhenADialogIsCancelled) {
+    EXPECT_EQ(Difference(m_Starts, RunWithAllChanged(nullptr, "", "Cancel")), "nothing");
+    m_Person.Clicks("OK");
+    const CValues untouched = Run(IDOK);
+    for (const CSubDialog& sub : GetParam().m_SubDialogs) {
+        EXPECT_EQ(Difference(m_Starts, RunWithAllChanged(&sub, "OK", "Cancel")), "nothing") << sub.m_pButton;
+        EXPECT_EQ(Difference(untouched, RunWithAllChanged(&sub, "Cancel", "OK")), "nothing") << sub.m_pButton;
+    }
 }
 
 std::vector<CTestedDialog> DialogsWithFields() {

@@ -5,10 +5,12 @@
 #include "controls/padding_dlg.h"
 #include "controls/url_dlg.h"
 #include "dialogs/animate_text_dlg.h"
+#include "dialogs/calander_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "resources/animate_text_description.h"
 #include "resources/border_description.h"
+#include "resources/calander_description.h"
 #include "resources/copy_resources_description.h"
 #include "resources/fade_select_description.h"
 #include "resources/font_description.h"
@@ -75,12 +77,24 @@ const std::vector<CTestedDialog>& AllDialogs() {
     using Padding = CPaddingDlg;
     using FadeItem = CFadeItemDlg;
     static const std::vector<CTestedDialog> dialogs = {
-        {"animate_text", AnimateTextDescription, OfEffect<CAnimateTextDlg, CAnimateText>},
+        {"animate_text",
+         AnimateTextDescription,
+         OfEffect<CAnimateTextDlg, CAnimateText>,
+         {{"Font...", FontPropertiesDescription}}},
         {"border", BorderDescription,
          OfMembers<Border>({{"m_BorderWidth", &Border::m_BorderWidth},
                             {"m_BorderStyle", &Border::m_BorderStyle},
                             {"m_BorderColor", &Border::m_BorderColor}})},
         {"browse_files", BrowseFilesDescription},
+        {"calander",
+         CalanderDescription,
+         OfEffect<CCalanderDlg, CCalander>,
+         {{"Font Properties / Greet Text...", FontPropertiesDescription},
+          {"Font Properties / Title Text...", CalanderFontDescription},
+          {"Font Properties / Time Text...", FontPropertiesDescription},
+          {"Font Properties / Date Text...", CalanderFontDescription},
+          {"Calender Border...", BorderDescription},
+          {"Date Cell Border...", BorderDescription}}},
         {"calander_font", CalanderFontDescription,
          OfMembers<Font>({{"m_FontFace", &Font::m_FontFace},
                           {"m_FontSize", &Font::m_FontSize},
@@ -111,7 +125,10 @@ const std::vector<CTestedDialog>& AllDialogs() {
                              {"m_PaddingTop", &Padding::m_PaddingTop},
                              {"m_PaddingBottom", &Padding::m_PaddingBottom}})},
         {"select_script", SelectScriptDescription},
-        {"text_show", TextShowDescription, OfEffect<CTextShowDlg, CTextShow>},
+        {"text_show",
+         TextShowDescription,
+         OfEffect<CTextShowDlg, CTextShow>,
+         {{"Title Font...", FontPropertiesDescription}, {"Text Font...", FontPropertiesDescription}}},
         {"url", UrlDescription,
          OfMembers<CUrlDlg>({{"m_Url", &CUrlDlg::m_Url}, {"m_Type", &CUrlDlg::m_Type}})},
     };

@@ -17,10 +17,17 @@ public:
     virtual int Run() = 0;
 };
 
+// A dialog that a button opens on fields of the button's dialog.
+struct CSubDialog {
+    const char* m_pButton;
+    const CDialogDescription& (*m_pDescription)();
+};
+
 struct CTestedDialog {
     const char* m_pName; // of its expected file
     const CDialogDescription& (*m_pDescription)();
     std::function<std::unique_ptr<CEditing>()> m_Edit = {}; // none for a dialog that edits no fields
+    std::vector<CSubDialog> m_SubDialogs = {};
 };
 
 const std::vector<CTestedDialog>& AllDialogs();
