@@ -2,6 +2,7 @@
 
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/calander_dlg.h"
+#include "dialogs/dance_text_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "platform/paths.h"
@@ -48,7 +49,7 @@ constexpr struct CEffectParts {
     {GadgetOf<&COrrelix::m_FadeSelect>, RunDialog<CFadeSelectDlg, &COrrelix::m_FadeSelect>},
     {GadgetOf<&COrrelix::m_ToolTip>, nullptr},
     {GadgetOf<&COrrelix::m_TodayCa>, nullptr},
-    {GadgetOf<&COrrelix::m_DanceText>, nullptr},
+    {GadgetOf<&COrrelix::m_DanceText>, RunDialog<CDanceTextDlg, &COrrelix::m_DanceText>},
 };
 static_assert(std::size(kParts) == std::size(kEffects));
 

@@ -92,7 +92,8 @@ protected:
             return {{" moved", [=, this, nEnd = control.m_nUpper] { m_Person.Moves(name, nEnd); }}};
         case ControlKind::OwnerDrawnButton: // of a colour without a name, the box for any is chosen
             return {{" mixed", [=, this] {
-                         m_Person.OpensColours(name).PressesInPopup({PopupKey::Up, PopupKey::Space});
+                         m_Person.Types(name, "123456").OpensColours(name);
+                         m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space});
                          m_Person.MixesColour(MakeColour(1, 2, 3));
                      }}};
         default:

@@ -2,6 +2,7 @@
 // read, and the dialogs open again. Tells in tests/expected/roads which fields the work has changed, and shows
 // that Cancel in the effect's dialog leaves all of them.
 #include "core/orrelix.h"
+#include "resources/addresses.h"
 #include "tests/support/effect_fields.h"
 #include "tests/support/expected_text.h"
 #include "tests/support/person_test.h"
@@ -77,7 +78,50 @@ void EditFadeSelect(CPersonScript& person, const CString& image) {
     person.Clicks("Modify...").Answers("Please select an item to modify!");
 }
 
+void EditCalander(CPersonScript& person, const CString&) {
+    const CString borders[] = {"Calender Border...", "Date Cell Border..."};
+    const CString fonts[] = {"Greet Text...", "Time Text..."},
+                  alignedFonts[] = {"Title Text...", "Date Text..."};
+    person.Types("Greet Text:", "Hi, all").Turns("Box Width:", 5).Types("Box Height:", "2em");
+    person.Picks("Calender Align:", "right").Types("Specify calander2.js Remote Directory:", "scripts\\js");
+    person.OpensColours("Time Text:").PicksColour("Gold").Types("Background:", "0A0B0C");
+    for (const CString& font : fonts) {
+        person.Clicks("Font Properties / " + font);
+        FillFont(person, "9", font == "Time Text..." ? "12" : "11");
+        person.In("Calender");
+    }
+    for (const CString& font : alignedFonts) {
+        person.Clicks("Font Properties / " + font).In("Calender Font Style").Types("Text Align:", font);
+        person.Clicks("OK").In("Calender");
+    }
+    for (const CString& border : borders) {
+        person.Clicks(border)
+            .In("Border Properties")
+            .Types("Border Style:", border)
+            .Turns("Border Width:", 2);
+        person.Clicks("OK")
+            .In("Calender")
+            .Clicks(border)
+            .In("Border Properties")
+            .Shows("Border Style:", border);
+        person.Types("Border Color", "00ff00").Clicks("Cancel").In("Calender");
+    }
+}
+
+void EditDanceText(CPersonScript& person, const CString&) {
+    person.Types("Text of the Url:", "Our <b>news</b>").Moves("Color Change Speed", 30).Clicks("Font...");
+    FillFont(person, "30", "12pt");
+    person.In("Color Link").Clicks("Font...").In("Font Properties"); // the file keeps no comma of this effect
+    person.Types("Specify the Font Face:", "Verdana").Clicks("OK").In("Color Link").Clicks("Url...");
+    FillUrl(person, kMakerHomePage, "http://www.example.com/a?b=c");
+    person.In("Color Link").Picks("Link Target:", "Parent Frame(_parent)").Types("Text Decoration:", "blink");
+    person.SelectsRow("Colors", 1).Clicks("Delete").Answers("Do you want to Delete?").Clicks("Add...");
+    person.In("Color").Types("Color:", "12ab34").Clicks("OK").In("Color Link").Clicks("Move Up");
+}
+
 const CRoad kRoads[] = {
+    {"calander", "3", "Calender", EditCalander},
+    {"dance_text", "9", "Color Link", EditDanceText},
     {"fade_select", "6", "Fade Select Box", EditFadeSelect},
 };
 

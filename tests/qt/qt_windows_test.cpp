@@ -364,7 +364,7 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
             QWidget* pPopup = QApplication::activePopupWidget();
             QTest::keyClick(pPopup, Qt::Key_Right);
             QTest::keyClick(pPopup, Qt::Key_Right);
-            EXPECT_EQ(pPopup->accessibleName(), "White, Border Color");
+            EXPECT_EQ(pPopup->accessibleName(), "Light orange, Border Color");
             QHelpEvent help(QEvent::ToolTip, {25, 10}, pPopup->mapToGlobal(QPoint(25, 10)));
             QApplication::sendEvent(pPopup, &help);
             EXPECT_EQ(QToolTip::text(), "White");

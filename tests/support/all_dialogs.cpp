@@ -6,12 +6,14 @@
 #include "controls/url_dlg.h"
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/calander_dlg.h"
+#include "dialogs/dance_text_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/text_show_dlg.h"
 #include "resources/animate_text_description.h"
 #include "resources/border_description.h"
 #include "resources/calander_description.h"
 #include "resources/copy_resources_description.h"
+#include "resources/dance_text_description.h"
 #include "resources/fade_select_description.h"
 #include "resources/font_description.h"
 #include "resources/padding_description.h"
@@ -101,7 +103,12 @@ const std::vector<CTestedDialog>& AllDialogs() {
                           {"m_FontStyle", &Font::m_FontStyle},
                           {"m_FontWeight", &Font::m_FontWeight},
                           {"m_TextAlign", &Font::m_TextAlign}})},
+        {"color", ColorDescription, OfMembers<CColorDlg>({{"m_Color", &CColorDlg::m_Color}})},
         {"copy_resources", CopyResourcesDescription},
+        {"dance_text",
+         DanceTextDescription,
+         OfEffect<CDanceTextDlg, CDanceText>,
+         {{"Add...", ColorDescription}, {"Font...", FontPropertiesDescription}, {"Url...", UrlDescription}}},
         {"fade_select", FadeSelectDescription, OfEffect<CFadeSelectDlg, CFadeSelect>},
         {"fade_select_drop_button", DropButtonDescription, OfEffect<CDropButtonDlg, CFadeSelect>},
         {"fade_select_drop_table", DropTableDescription, OfEffect<CDropTableDlg, CFadeSelect>},

@@ -19,15 +19,16 @@ std::unique_ptr<CPersonScript> MakePerson();
 
 class PersonTest : public testing::Test {
 protected:
-    // The state of the move buttons as a person sees it: "up", "down", "both" or "none".
-    void ShowsMoves(const std::string& moves) {
-        m_Person.ShowsEnabled("Move Up", moves == "up" || moves == "both");
-        m_Person.ShowsEnabled("Move Down", moves == "down" || moves == "both");
-    }
-
     const CColourSettings m_Settings;
     const std::unique_ptr<CPersonScript> m_pPerson = MakePerson();
     CPersonScript& m_Person = *m_pPerson;
+
+    // Which of the buttons "Move Up" and "Move Down" can be pressed: "up", "down", "both" or "none". The prefix
+    // names their group.
+    void ShowsMoves(const std::string& moves, const CString& prefix = "") {
+        m_Person.ShowsEnabled(prefix + "Move Up", moves == "up" || moves == "both");
+        m_Person.ShowsEnabled(prefix + "Move Down", moves == "down" || moves == "both");
+    }
 };
 
 } // namespace orrelix
