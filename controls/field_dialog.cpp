@@ -40,6 +40,11 @@ void CFieldDialog::AddFont(int nButton, const CFontFields& font) {
     ShowBeside(nButton, [font] { return FontInWords(font); });
 }
 
+void CFieldDialog::AddFont(int nButton, const CFontFields& font, CString& align) {
+    AddFont(nButton, font);
+    OnClick(nButton, [font, &align] { EditCalanderFont(font, align); });
+}
+
 void CFieldDialog::ShowTextsLast() {
     SetUpSpins();
     SetUpPickers();

@@ -50,6 +50,8 @@ protected:
 
     // A button that opens CFontPropertiesDlg on the font. Beside it stands what font that is.
     void AddFont(int nButton, const CFontFields& font);
+    // The same with CCalanderFontDlg.
+    void AddFont(int nButton, const CFontFields& font, CString& align);
 
     // The two orders in which a dialog starts, for OnInitDialog. They decide what the boxes show.
 

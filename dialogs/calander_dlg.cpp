@@ -1,7 +1,6 @@
 #include "dialogs/calander_dlg.h"
 
 #include "controls/border_dlg.h"
-#include "controls/font_dlg.h"
 #include "resources/calander_description.h"
 
 namespace orrelix {
@@ -28,32 +27,26 @@ CCalanderDlg::CCalanderDlg() : CGadgetDialog(CalanderDescription()) {
     AddColour(Id::TimeColor, m_Copy.m_TimeColor, kTextColours);
     AddColour(Id::DateColor, m_Copy.m_DateColor, kTextColours);
     AddRemoteDirectory(Id::ClassWebPath, m_Copy.m_ClassWebPath);
-    OnClick(Id::GreetFont, [this] {
-        EditFont({.m_Face = m_Copy.m_GreetFontFamily,
-                  .m_Size = m_Copy.m_GreetFontSize,
-                  .m_Weight = m_Copy.m_GreetFontWeight,
-                  .m_Style = m_Copy.m_GreetFontStyle});
-    });
-    OnClick(Id::TimeFont, [this] {
-        EditFont({.m_Face = m_Copy.m_TimeFontFamily,
-                  .m_Size = m_Copy.m_TimeFontSize,
-                  .m_Weight = m_Copy.m_TimeFontWeight,
-                  .m_Style = m_Copy.m_TimeFontStyle});
-    });
-    OnClick(Id::TitleFont, [this] {
-        EditCalanderFont({.m_Face = m_Copy.m_TitleFontFamily,
-                          .m_Size = m_Copy.m_TitleFontSize,
-                          .m_Weight = m_Copy.m_TitleFontWeight,
-                          .m_Style = m_Copy.m_TitleFontStyle},
-                         m_Copy.m_TitleAlign);
-    });
-    OnClick(Id::DateFont, [this] {
-        EditCalanderFont({.m_Face = m_Copy.m_DateFontFamily,
-                          .m_Size = m_Copy.m_DateFontSize,
-                          .m_Weight = m_Copy.m_DateFontWeight,
-                          .m_Style = m_Copy.m_DateFontStyle},
-                         m_Copy.m_DateAlign);
-    });
+    AddFont(Id::GreetFont, {.m_Face = m_Copy.m_GreetFontFamily,
+                            .m_Size = m_Copy.m_GreetFontSize,
+                            .m_Weight = m_Copy.m_GreetFontWeight,
+                            .m_Style = m_Copy.m_GreetFontStyle});
+    AddFont(Id::TimeFont, {.m_Face = m_Copy.m_TimeFontFamily,
+                           .m_Size = m_Copy.m_TimeFontSize,
+                           .m_Weight = m_Copy.m_TimeFontWeight,
+                           .m_Style = m_Copy.m_TimeFontStyle});
+    AddFont(Id::TitleFont,
+            {.m_Face = m_Copy.m_TitleFontFamily,
+             .m_Size = m_Copy.m_TitleFontSize,
+             .m_Weight = m_Copy.m_TitleFontWeight,
+             .m_Style = m_Copy.m_TitleFontStyle},
+            m_Copy.m_TitleAlign);
+    AddFont(Id::DateFont,
+            {.m_Face = m_Copy.m_DateFontFamily,
+             .m_Size = m_Copy.m_DateFontSize,
+             .m_Weight = m_Copy.m_DateFontWeight,
+             .m_Style = m_Copy.m_DateFontStyle},
+            m_Copy.m_DateAlign);
     OnClick(Id::CalanderBorder, [this] {
         EditBorder({.m_Width = m_Copy.m_CalanderBorderWidth,
                     .m_Style = m_Copy.m_CalanderBorderStyle,

@@ -1,6 +1,5 @@
 #include "dialogs/dance_text_dlg.h"
 
-#include "controls/font_dlg.h"
 #include "controls/url_dlg.h"
 #include "resources/dance_text_description.h"
 #include "toolkit/desktop.h"
@@ -45,12 +44,10 @@ bool EditColor(CString& color) {
 CDanceTextDlg::CDanceTextDlg() : CGadgetDialog(DanceTextDescription()) {
     AddFields({{Id::LinkText, m_Copy.m_LinkText}, {Id::TextDecoration, m_Copy.m_TextDecoration}});
     AddLinkTarget(Id::LinkTarget, m_Copy.m_LinkTarget);
-    OnClick(Id::Font, [this] {
-        EditFont({.m_Face = m_Copy.m_FontFamily,
-                  .m_Size = m_Copy.m_FontSize,
-                  .m_Weight = m_Copy.m_FontWeight,
-                  .m_Style = m_Copy.m_FontStyle});
-    });
+    AddFont(Id::Font, {.m_Face = m_Copy.m_FontFamily,
+                       .m_Size = m_Copy.m_FontSize,
+                       .m_Weight = m_Copy.m_FontWeight,
+                       .m_Style = m_Copy.m_FontStyle});
     OnClick(Id::Url, [this] { EditUrl(m_Copy.m_LinkUrl); });
     OnClick(Id::MoveUp, [this] { Move(-1); });
     OnClick(Id::MoveDown, [this] { Move(1); });

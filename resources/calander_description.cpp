@@ -23,8 +23,8 @@ CDialogItem Colours() {
 
 CDialogItem Fonts() {
     return Group("Font Properties",
-                 {Row({Button(Id::GreetFont, "Gr&eet Text..."), Button(Id::TitleFont, "Tit&le Text...")}),
-                  Row({Button(Id::TimeFont, "T&ime Text..."), Button(Id::DateFont, "Date Te&xt...")})});
+                 {Button(Id::GreetFont, "Gr&eet Text..."), Button(Id::TitleFont, "Tit&le Text..."),
+                  Button(Id::TimeFont, "T&ime Text..."), Button(Id::DateFont, "Date Te&xt...")});
 }
 
 CDialogItem Borders() {
@@ -38,7 +38,7 @@ const CDialogDescription& CalanderDescription() {
     static const CDialogDescription description{
         "Calender",
         Column({ComboBox(Id::CalanderAlign, "Calender &Align:", kAligns), Edit(Id::GreetText, "&Greet Text:"),
-                Row({Column({TimeBox(), Fonts(), Borders()}), Colours()}),
+                Row({Column({TimeBox(), Fonts()}), Column({Colours(), Borders()})}),
                 Edit(Id::ClassWebPath, "&Specify calander2.js Remote Directory:"), OkAndCancel()})};
     return description;
 }
