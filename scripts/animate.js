@@ -19,6 +19,8 @@
     const fadeTime = 1000;
     const tenthOfSecond = 100;
 
+    const PARAGRAPH = { margin: "1em 0", fontStyle: "inherit", fontWeight: "inherit", fontSize: "inherit", lineHeight: "inherit" };
+
     // By element, for pages with several boxes: each run of this script takes the next one that isn't taken.
     const toggles = window.breakf?.toggles ?? new WeakMap();
 
@@ -49,7 +51,7 @@
         for (const part of element.querySelectorAll(":not([color], [style*=color])"))
             part.style.color = "inherit";
         for (const paragraph of element.querySelectorAll("p"))
-            Object.assign(paragraph.style, { margin: paragraph.style.margin || "1em 0" });
+            brndfn.pin(paragraph, PARAGRAPH);
     }
 
     function start(element) {
@@ -60,12 +62,19 @@
         let time = 0;
         let drawn;
 
-        // What is below the box's edge isn't seen yet; once it has risen, all of it is.
-        Object.assign(box.style, { overflow: "clip", boxSizing: "content-box", maxWidth: "100%" });
+        // What is below the box's edge isn't seen yet; once it has risen, all of it is. In a narrow page the box
+        // leaves its place before it sticks out.
+        const { left, width, height } = box.style;
+        Object.assign(box.style, {
+            overflowY: "clip", boxSizing: "content-box", overflowWrap: "anywhere",
+            left: `min(${left}, max(0px, 100% - ${width}))`, width: `min(${width}, 100%)`,
+        });
+
+        // The box is as high as the tallest text needs, from the start: nothing below it moves for a text.
+        let tallest = 0;
         function makeRoom() {
-            const needed = element.offsetHeight;
-            if (needed > box.clientHeight)
-                box.style.height = `${needed}px`;
+            tallest = Math.max(tallest, element.offsetHeight);
+            box.style.height = `max(${height}, ${tallest}px)`;
         }
 
         function showNext() {
@@ -85,6 +94,10 @@
         }
         const showInFull = () => draw({ risen: distance, colored: 1 });
 
+        for (const message of messages) {
+            write(element, message);
+            makeRoom();
+        }
         showNext();
         draw(stateAt(0, distance));
         const handle = brndfn.frames(element, (elapsed) => {
@@ -107,10 +120,11 @@
             if (bPrinting) {
                 write(element, messages.join(""));
                 showInFull();
-                makeRoom();
+                box.style.height = "auto";
                 handle.pause("print");
             } else {
                 write(element, messages[nMessage]);
+                makeRoom();
                 handle.resume("print");
             }
         }, handle.signal);

@@ -49,6 +49,7 @@
     function adopt(link, title) {
         adopted.add(link);
         brndfn.repair(link);
+        brndfn.pin(link, { textUnderlineOffset: "auto", background: "none" });
         const steps = gate(link);
         const stop = brndfn.stop(steps, "line");
         link.after(stop.element);

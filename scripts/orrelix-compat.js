@@ -137,6 +137,30 @@
             repairSheet(element);
     }
 
+    // What a style sheet of the page's may say of any element of this kind has no say here; what the element's own
+    // style says, has.
+    function pin(element, values) {
+        for (const [name, value] of Object.entries(values))
+            element.style[name] ||= value;
+    }
+
+    // A table as its attributes have it.
+    function pinTable(table) {
+        const nBorder = parseInt(table.border, 10) || 0;
+        const length = (text) => (/^\d+$/.test(text) ? `${text}px` : text);
+        const border = (look) => ({ border: nBorder > 0 ? look : "0", borderColor: "revert" });
+        pin(table, {
+            width: length(table.width), maxWidth: "100%", margin: table.align === "center" ? "0 auto" : "0",
+            boxSizing: "border-box", borderCollapse: "separate", borderSpacing: "2px", background: "none",
+            color: "revert", textIndent: "0", fontStyle: "inherit", fontWeight: "inherit", ...border(`${nBorder}px outset`),
+        });
+        for (const cell of table.querySelectorAll("td"))
+            pin(cell, {
+                padding: "1px", boxSizing: "content-box", background: "none", color: "inherit", textAlign: "inherit",
+                fontStyle: "inherit", fontWeight: "inherit", ...border("1px inset"),
+            });
+    }
+
     function ready(fn) {
         if (document.readyState === "loading")
             document.addEventListener("DOMContentLoaded", () => fn(), { once: true });
@@ -250,5 +274,5 @@
         runAll(loadHandlers, [event]);
     });
 
-    window.brndfn = { css, repair, ready };
+    window.brndfn = { css, repair, pin, pinTable, ready };
 })();

@@ -32,7 +32,8 @@
             .replace(/font-family:\s*"([^"]*)"/g, (_, list) =>
                 `font-family:${list.split(",").map((name) => `"${name.trim()}"`).join(",")}`)
             .replace(/cursor:\s*hand\b/g, "cursor:pointer")
-            .replace(/lineth-rough/g, "line-through");
+            .replace(/lineth-rough/g, "line-through")
+            .replace(/\.brn(over|out|click)\b/g, `${BOX} $&`); // stronger than the page's rules for its links
     }
 
     function repairTable(table) {
@@ -42,6 +43,7 @@
         for (const style of table.querySelectorAll("style"))
             style.textContent = repairStyles(style.textContent);
         brndfn.repair(table);
+        brndfn.pinTable(table);
     }
 
     // One element for each text: the two that the page has, and new ones behind them. What the page wrote twice, or
@@ -53,7 +55,7 @@
             const item = written[i] ?? frame.appendChild(document.createElement("div"));
             if (!written[i])
                 item.innerHTML = html;
-            Object.assign(item.style, { padding: "1px 4px", boxSizing: "border-box" });
+            Object.assign(item.style, { padding: "1px 4px", boxSizing: "border-box", overflowWrap: "anywhere" });
             item.setAttribute("role", "listitem");
             return item;
         });
@@ -62,7 +64,8 @@
         return items.filter((item) => {
             const bShows = item.textContent.trim() !== "" || item.querySelector("img") !== null;
             if (bShows)
-                Object.assign(item.firstElementChild?.style ?? {}, { display: "block", width: "fit-content" });
+                Object.assign(item.firstElementChild?.style ?? {},
+                    { display: "block", width: "fit-content", textUnderlineOffset: "auto", backgroundColor: "transparent" });
             else
                 item.remove();
             return bShows;

@@ -21,6 +21,15 @@
         return copy.textContent.trim();
     }
 
+    // In a narrow page the cells keep their proportion.
+    function fit(table) {
+        const cells = [...table.querySelectorAll("td")];
+        const total = cells.reduce((sum, { width }) => sum + Number(width), 0);
+        for (const cell of cells)
+            Object.assign(cell.style,
+                { width: `min(${cell.width}px, ${(85 * cell.width) / total}vw)`, overflowWrap: "anywhere" });
+    }
+
     function type(cell, span, nMilliseconds) {
         const characters = Array.from(textOf(span));
         const [typed, rest] = [document.createElement("span"), document.createElement("span")];
@@ -63,7 +72,10 @@
             const [, speed] = SPEED.exec(cell?.querySelector("script")?.text) ?? [];
             if (speed === undefined)
                 continue;
-            brndfn.repair(cell.parentElement);
+            const table = cell.closest("table");
+            brndfn.repair(table);
+            brndfn.pinTable(table);
+            fit(table);
             type(cell, span, Math.max(FASTEST, Number(speed)));
         }
     };

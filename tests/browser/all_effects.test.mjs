@@ -1,5 +1,7 @@
-// All nine effects on one page, as a visitor finds them: none may keep another from its work.
+// All nine effects: on one page, as a visitor finds them, none may keep another from its work; and each alone on a page.
 import assert from "node:assert/strict";
+import { readFileSync, readdirSync } from "node:fs";
+import path from "node:path";
 import { givePage, pageText, testEverywhere, watch } from "./harness.mjs";
 
 const effects = ["animate_text", "text_show", "calander", "cool_link", "scroll_text", "fade_select", "tool_tip", "today_ca",
@@ -43,3 +45,51 @@ testEverywhere(givePage(`<html><head>${head}</head><body>${body}</body></html>`)
     await page.locator("#tool_tip a").hover();
     await page.getByRole("tooltip").waitFor();
 }, { context: { viewport: { width: 1000, height: 4200 } } }); // what is out of view rests
+
+const AXE = readFileSync(path.join(import.meta.dirname, "node_modules/axe-core/axe.min.js"), "utf8");
+const PAGES = readdirSync(process.env.ORRELIX_PAGES).filter((name) => /_(plain|rich)\.html$/.test(name))
+    .map((name) => path.basename(name, ".html"));
+
+// The effect alone, in the body of a page without a style of its own.
+async function bare(name) {
+    const [, scripts, body] = /<head>(.*)<\/head>.*<main[^>]*>(.*)<\/main>/s.exec(await pageText(name));
+    return `<html lang="en"><head><title>${name}</title><meta name="viewport" content="width=device-width">
+        ${(scripts.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("")}</head><body>${body}</body></html>`;
+}
+
+// One page of each: the next is opened where the last was.
+async function goThrough(page, names, visit) {
+    for (const name of names) {
+        await page.goto(page.url().replace(/[^/]*$/, `${name}.html`));
+        await visit(name);
+    }
+}
+
+const names = [];
+for (const name of PAGES)
+    names.push(givePage(await bare(name), `bare_${name}`));
+
+testEverywhere(names[0], "no page scrolls sideways on a small screen, with any effect", async ({ page }) => {
+    const wide = [];
+    await goThrough(page, names, async (name) => {
+        const width = await page.evaluate(() => document.scrollingElement.scrollWidth);
+        if (width > 360)
+            wide.push(`${name}: ${width} px`);
+    });
+    assert.deepEqual(wide, []);
+}, { context: { viewport: { width: 360, height: 640 } } });
+
+// The contrast of colours is the author's, and what a page needs besides its effects is the page's.
+const RULES = ["wcag2a", "wcag2aa", "wcag21a", "wcag21aa", "wcag22aa", "best-practice"];
+const NOT_OURS = ["color-contrast", "region", "landmark-one-main", "page-has-heading-one"];
+testEverywhere(names[0], "a tool for accessibility finds nothing", async ({ page }) => {
+    const found = [];
+    await goThrough(page, names, async (name) => {
+        await page.evaluate(AXE);
+        const { violations } = await page.evaluate((tags) => window.axe.run({ runOnly: tags }), RULES);
+        for (const { id, nodes } of violations)
+            if (!NOT_OURS.includes(id))
+                found.push(`${name}: ${id} ${nodes[0].html.slice(0, 80)}`);
+    });
+    assert.deepEqual(found, []);
+});

@@ -16,7 +16,14 @@ import { readFile } from "node:fs/promises";
 import path from "node:path";
 import { chromium, firefox } from "playwright-core";
 
-const CONTENT_TYPES = { ".gif": "image/gif", ".html": "text/html", ".js": "text/javascript" };
+const CONTENT_TYPES = { ".css": "text/css", ".gif": "image/gif", ".html": "text/html", ".js": "text/javascript" };
+
+// Style sheets that many pages have, by the name under which they are served beside the pages.
+const SHEETS = {
+    "pico.css": "@picocss/pico/css/pico.css",
+    "bootstrap.css": "bootstrap/dist/css/bootstrap.css",
+    "tailwind.css": "tailwindcss/preflight.css",
+};
 
 // Pages given as text by a test, by their path behind the mode; they win over the folder's files.
 const givenPages = new Map();
@@ -27,9 +34,12 @@ function inMode(html, mode) {
     return Buffer.from(mode === "standards" ? `<!DOCTYPE html>\r\n${bare}` : bare, "latin1");
 }
 
-// The bytes of a file below ORRELIX_PAGES, or undefined.
+// The bytes of a file below ORRELIX_PAGES or of a style sheet, or undefined.
 function readPage(relative) {
-    return readFile(path.join(process.env.ORRELIX_PAGES ?? "", relative)).catch(() => undefined);
+    const file = Object.hasOwn(SHEETS, relative)
+        ? path.join(import.meta.dirname, "node_modules", SHEETS[relative])
+        : path.join(process.env.ORRELIX_PAGES ?? "", relative);
+    return readFile(file).catch(() => undefined);
 }
 
 async function answer(request, response) {
@@ -107,14 +117,18 @@ const answerCalm = (bCalm) => {
     };
 };
 
+// Until the page has shown what was changed.
+export async function nextFrame(page) {
+    await page.evaluate(() => new Promise((over) => requestAnimationFrame(() => requestAnimationFrame(over))));
+}
+
 // The visitor asks for reduced motion, or no longer.
 export async function setCalm(page, bCalm) {
     if (isFirefox(page))
         await page.evaluate((calm) => window.setCalm(calm), bCalm);
     else
         await page.emulateMedia({ reducedMotion: bCalm ? "reduce" : "no-preference" });
-    // Media queries tell of a change with a frame.
-    await page.evaluate(() => new Promise((over) => requestAnimationFrame(() => requestAnimationFrame(over))));
+    await nextFrame(page); // media queries tell of a change with a frame
 }
 
 const isFirefox = (page) => page.context().browser().browserType().name() === "firefox";
@@ -136,17 +150,8 @@ export async function tap(page, where) {
     });
 }
 
-// Opens NAME.html in a browser context of its own.
-//   mode           "standards" or "quirks"
-//   calm           the visitor asks for reduced motion
-//   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
-//   clock          true: the page's time stands still until the test moves it with page.clock
-//   context        more for the browser context, such as { viewport: { width: 360, height: 640 } }
-// Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
-// so far, and a test that provokes one on purpose empties it.
-async function openEffect(name, { browser, mode, calm = false, before, clock = false, context: given }) {
-    const { origin } = await onlyOnce("server", startServer);
-    const url = `${origin}/${mode}/${name}.html`;
+// A page in a browser context of its own, with the complaints of its console and scripts.
+async function newPage({ browser, calm = false, before, clock = false, context: given }) {
     const context = await (await onlyOnce(browser, BROWSERS[browser])).newContext({
         reducedMotion: calm ? "reduce" : "no-preference",
         viewport: { width: 1000, height: 700 },
@@ -166,13 +171,53 @@ async function openEffect(name, { browser, mode, calm = false, before, clock = f
         await page.addInitScript(answerCalm, calm);
     if (before)
         await page.addInitScript(before);
+    return { page, errors };
+}
+
+// Making a page takes longer than most tests: those that ask for nothing special take one that another has left.
+const left = new Map();
+
+async function takePage(options) {
+    const { browser, calm = false, before, clock, context } = options;
+    const bSpecial = Boolean(before || clock || context);
+    const key = `${browser} ${calm}`;
+    const taken = (!bSpecial && left.get(key)?.pop()) || (await newPage(options));
+    await taken.page.bringToFront();
+    return {
+        ...taken,
+        async giveBack() {
+            if (bSpecial)
+                return taken.page.context().close();
+            await taken.page.goto("about:blank");
+            await taken.page.mouse.move(0, 0);
+            if (!isFirefox(taken.page))
+                await taken.page.emulateMedia({ reducedMotion: calm ? "reduce" : "no-preference" });
+            taken.errors.length = 0;
+            left.set(key, [...(left.get(key) ?? []), taken]);
+        },
+    };
+}
+
+// Opens NAME.html.
+//   mode           "standards" or "quirks"
+//   calm           the visitor asks for reduced motion
+//   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
+//   clock          true: the page's time stands still until the test moves it with page.clock
+//   context        more for the browser context, such as { viewport: { width: 360, height: 640 } }
+// Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
+// so far, and a test that provokes one on purpose empties it.
+async function openEffect(name, options) {
+    const { origin } = await onlyOnce("server", startServer);
+    const url = `${origin}/${options.mode}/${name}.html`;
+    const { page, errors, giveBack } = await takePage(options);
     assert.ok((await page.goto(url)).ok(), `no ${url}`);
     return {
         page,
         errors,
         async close() {
-            await context.close();
-            assert.deepEqual(errors, [], `complaints of ${url}`);
+            const complaints = errors.slice();
+            await giveBack();
+            assert.deepEqual(complaints, [], `complaints of ${url}`);
         },
     };
 }

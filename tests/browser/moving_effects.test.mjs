@@ -1,7 +1,7 @@
 // Animate Text, Slide Text, Color Link, Scroll Text and the clock of Calender: what moves by itself moves, rests when
 // a visitor asks for it and goes on. What Scroll Text and the calendars do besides is tested with them.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, setCalm, setHidden, setOutOfView, styleOf, tap, testEverywhere, watch } from "./harness.mjs";
+import { at, givePage, pageText, nextFrame, setCalm, setHidden, setOutOfView, styleOf, tap, testEverywhere, watch } from "./harness.mjs";
 
 const animated = await pageText("animate_text_plain");
 const slid = await pageText("text_show_plain");
@@ -85,6 +85,7 @@ const running = (page, time) => page.evaluate(async (milliseconds) => {
 for (const { effect, name, look, rests, time = 250, calm = /./, calmOptions } of moving) {
     const moves = (page) => watch(page, look, (values) => values.length > 1);
     const stands = async (page, why) => {
+        await nextFrame(page);
         const before = await page.evaluate(look);
         await page.waitForTimeout(time);
         assert.equal(await page.evaluate(look), before, why);
@@ -141,7 +142,7 @@ testEverywhere("scroll_text_restless", "its stop says what it does and its state
 const ANIMATED = ["Harvest festival, Saturday 14th\nin the old mill", "New: walks along the river, with a map",
     "All the news, week by week"];
 const rich = await pageText("animate_text_rich");
-const brief = (text) => text.replace(/layinterval=\d+/, "layinterval=5");
+const brief = (text) => text.replace(/layinterval=\d+/, "layinterval=10");
 // A stylesheet of the page's colours what it can; the author's own colour of a word stays.
 const framework = "<style>p, a { color: rgb(9, 9, 9); margin: 0 } * { box-sizing: border-box }</style>";
 testEverywhere(givePage(framework + brief(rich)), "texts rise to their colour, in turn and again", async ({ page }) => {
@@ -237,3 +238,47 @@ testEverywhere(givePage(linked.replace(/delay = [\d.]+/, "delay = 0")), "without
         });
         assert.ok(nChanges > 3 && nChanges <= nFrames + 1, `${nChanges} changes in ${nFrames} frames`);
     });
+
+// What can be seen of an element while the page is printed: the text of its parts that lie within it.
+const notePrinted = (selector) => {
+    const seen = (part, { top, bottom }) => {
+        const edges = part.getBoundingClientRect();
+        return part.checkVisibility({ opacityProperty: true }) && edges.top >= top - 1 && edges.bottom <= bottom + 1;
+    };
+    window.addEventListener("beforeprint", () => {
+        const box = document.querySelector(selector);
+        window.printed = [...box.querySelectorAll("p, a, span > span")]
+            .filter((part) => seen(part, box.getBoundingClientRect())).map((part) => part.innerText).join("|");
+    });
+};
+const print = async (page, selector) => {
+    await page.evaluate(notePrinted, selector);
+    await page.pdf();
+    return page.evaluate(() => window.printed);
+};
+for (const [name, selector, expected] of [
+    ["animate_text_rich", "div:has(> #brndfntextanim)", new RegExp(ANIMATED.join(".*"), "s")],
+    ["text_show_slow", "#typing", moving[1].calm],
+    ["scroll_text_rich", "#brndfnscrollmain2", /Saturday.*Choir.*Fen/s],
+])
+    testEverywhere(name, "is printed whole, and goes on", async ({ page }) => {
+        const before = (await page.locator(selector).boundingBox()).height;
+        assert.match((await print(page, selector)).replaceAll("|", name === "text_show_slow" ? "" : "|"), expected);
+        assert.equal((await page.locator(selector).boundingBox()).height, before);
+    });
+
+// Under a policy that forbids inline scripts: what is left to read, and a link that works.
+const POLICY = `<meta http-equiv="Content-Security-Policy" content="script-src 'self'">`;
+for (const [name, text, selector, left] of [
+    ["animate_text_rich", rich, "#brndfntextanim", ""],
+    ["text_show_rich", await pageText("text_show_rich"), "#typing", "Fresh bread at eight, cake at three.\nThe shop is open until six."],
+    ["scroll_text_rich", await pageText("scroll_text_rich"), "table", ""],
+    ["dance_text_rich", linked, "[name=brndfntextshop]:any-link", "Visit our shop"],
+])
+    testEverywhere(givePage(text.replace("<head>", `<head>${POLICY}`), `${name}_policy`), "throws nothing and hides nothing",
+        async ({ page, errors }) => {
+            assert.equal((await page.locator(selector).innerText()).trim(), left);
+            const complaints = errors.splice(0);
+            assert.ok(complaints.length > 0 && complaints.every((complaint) => /Content.Security.Policy/.test(complaint)),
+                JSON.stringify(complaints));
+        });

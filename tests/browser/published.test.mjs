@@ -27,16 +27,19 @@ function publish(example) {
 rmSync(sites, { recursive: true, force: true });
 const examples = readdirSync(path.join(root, "examples")).filter((name) => name.endsWith(".cfg"));
 assert.ok(examples.length > 0);
-for (const example of examples) {
-    testEverywhere(publish(example), "loads and shows its effect", async ({ page }) => {
+const pages = examples.map(publish);
+testEverywhere(pages[0], "every published example loads and shows its effect", async ({ page, errors }) => {
+    for (const name of pages) {
+        await page.goto(new URL(`/${page.url().split("/")[3]}/${name}.html`, page.url()).href);
         const height = await page.evaluate(() => {
             const effect = document.createRange();
             effect.setStartAfter(document.getElementById("before"));
             effect.setEndBefore(document.getElementById("after"));
             return effect.getBoundingClientRect().height;
         });
-        assert.ok(height > 12, `${height} px high`);
+        assert.ok(height > 12, `${name}: ${height} px high`);
         assert.deepEqual(await page.evaluate(() => [...document.images].filter((image) => image.naturalWidth === 0)
-            .map((image) => image.src)), []);
-    });
-}
+            .map((image) => image.src)), [], name);
+        assert.deepEqual(errors, [], name);
+    }
+});
