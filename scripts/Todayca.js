@@ -33,7 +33,7 @@
         .brndfncalendar:not(#_) :is(input, .brndfnwhole) { display: block; margin: 0 auto; padding: 0; border: 0;
             border-radius: 0; line-height: 1; text-align: center; max-width: 100%; min-height: 1.15em; }
         .brndfncalendar:not(#_) input[type=text] { cursor: default; }
-        .brndfncalendar:not(#_) input[type=button] { cursor: pointer; }
+        .brndfncalendar:not(#_) input[type=button] { cursor: pointer; min-width: 24px; min-height: 24px; }
         .brndfncalendar:not(#_) input[type=button]:hover { filter: brightness(1.1); }
         .brndfncalendar:not(#_) input[type=button]:active { filter: brightness(0.9); }
         .brndfncalendar:not(#_) :is(.brndfnday, input[type=button]) {
