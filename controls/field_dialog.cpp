@@ -3,6 +3,7 @@
 #include "controls/font_dlg.h"
 #include "controls/image_file.h"
 #include "controls/link_target.h"
+#include "controls/url_dlg.h"
 
 namespace orrelix {
 
@@ -43,6 +44,11 @@ void CFieldDialog::AddFont(int nButton, const CFontFields& font) {
 void CFieldDialog::AddFont(int nButton, const CFontFields& font, CString& align) {
     AddFont(nButton, font);
     OnClick(nButton, [font, &align] { EditCalanderFont(font, align); });
+}
+
+void CFieldDialog::AddUrl(int nButton, CString& url) {
+    OnClick(nButton, [&url] { EditUrl(url); });
+    ShowBeside(nButton, [&url] { return url; });
 }
 
 void CFieldDialog::ShowTextsLast() {

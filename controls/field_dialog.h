@@ -53,6 +53,9 @@ protected:
     // The same with CCalanderFontDlg.
     void AddFont(int nButton, const CFontFields& font, CString& align);
 
+    // A button that opens CUrlDlg on the address, which stands beside it.
+    void AddUrl(int nButton, CString& url);
+
     // The two orders in which a dialog starts, for OnInitDialog. They decide what the boxes show.
 
     // Spin controls and pickers first, the fields last: a number box shows its field's own text ("90%", ""), and

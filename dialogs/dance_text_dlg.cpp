@@ -1,6 +1,5 @@
 #include "dialogs/dance_text_dlg.h"
 
-#include "controls/url_dlg.h"
 #include "resources/dance_text_description.h"
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
@@ -48,7 +47,7 @@ CDanceTextDlg::CDanceTextDlg() : CGadgetDialog(DanceTextDescription()) {
                        .m_Size = m_Copy.m_FontSize,
                        .m_Weight = m_Copy.m_FontWeight,
                        .m_Style = m_Copy.m_FontStyle});
-    OnClick(Id::Url, [this] { EditUrl(m_Copy.m_LinkUrl); });
+    AddUrl(Id::Url, m_Copy.m_LinkUrl);
     OnClick(Id::MoveUp, [this] { Move(-1); });
     OnClick(Id::MoveDown, [this] { Move(1); });
     SetHandlers<CDanceTextDlg>({

@@ -24,7 +24,7 @@ CDialogItem Speed() {
 CDialogItem Style() {
     return Group("Extensive Style", {ComboBox(Id::TextDecoration, "Text D&ecoration:", kDecorations),
                                      ComboBox(Id::LinkTarget, "&Link Target:", kLinkTargets, STYLE_LIST_ONLY),
-                                     Row({Button(Id::Font, "&Font..."), Button(Id::Url, "U&rl...")})});
+                                     Button(Id::Font, "&Font..."), Button(Id::Url, "U&rl...")});
 }
 
 } // namespace

@@ -119,9 +119,62 @@ void EditDanceText(CPersonScript& person, const CString&) {
     person.In("Color").Types("Color:", "12ab34").Clicks("OK").In("Color Link").Clicks("Move Up");
 }
 
+// The style of a clicked link's font is left alone: no file keeps it.
+void EditScrollText(CPersonScript& person, const CString&) {
+    person.Clicks("Add new text...")
+        .In("Add a Text")
+        .Types("Link Text:", "two\r\nlines, or more")
+        .Clicks("...");
+    FillUrl(person, "", "http://www.example.com/a,b");
+    person.In("Add a Text").Clicks("OK").In("Scroll Text").SelectsRow("Texts", 4);
+    person.Shows("Text", "two\r\nlines, or more").Clicks("Scroll Text / Move Up").SelectsRow("Urls", 0);
+    person.Types("Url", "news.html")
+        .Clicks("Text Url / Modify")
+        .SelectsRow("Texts", 0)
+        .Clicks("Delete a text");
+    person.Answers(
+        "If you delete the Text, you will delete the Url in the same position. Do you want to continue?");
+    for (const char* pStyle : {"Mouse Over...", "Mouse Out...", "Mouse Click..."}) {
+        person.Clicks(pStyle)
+            .In("Link Style")
+            .Types("Mouse Cursor:", pStyle)
+            .Picks("Text Decoration:", "blink");
+        person.OpensColours("Text Color:").PicksColour("Plum").Clicks("Font...").In("Font Properties");
+        person.Types("Specify the Font Face:", pStyle)
+            .Types("Font Size:", "1em")
+            .Clicks("OK")
+            .In("Link Style");
+        person.Clicks("OK").In("Scroll Text").Clicks(pStyle).In("Link Style").Types("Text Color:", "000000");
+        person.Clicks("Cancel").In("Scroll Text");
+    }
+    person.Turns("Delay Time:", -1).Types("Table Width:", "90%").Picks("Border Style:", "solid");
+    person.Types("Specify scrolltext.js Remote Directory:", "js/");
+}
+
+void EditToolTip(CPersonScript& person, const CString& image) {
+    person.Types("HTML Text:", "See, here").Types("ToolTip Text:", "a, b").Types("Show Time:", "9999");
+    person.Clicks("Url.");
+    FillUrl(person, kHostProductHomePage, "http://www.example.com/a,b");
+    person.In("ToolTip").Clicks("...").In("Marquee Width").Turns("Marquee Width:", 20).Clicks("OK");
+    person.In("ToolTip").Clicks("image...").In("Insert an image File").Types("Width:", "32").Clicks("...");
+    person.ChoosesFile(image, "img\\small")
+        .Shows("Width:", "32")
+        .Clicks("OK")
+        .In("ToolTip")
+        .Clicks("Font...");
+    FillFont(person, "20", "12");
+    person.In("ToolTip").Picks("Border Style:", "solid").Types("Color:", "0a0b0c");
+    person.Types("Specify tooltip.js Remote Directory:", "js");
+    // What is cancelled stays, also the directory that the file dialog took.
+    person.Clicks("image...").In("Insert an image File").Clicks("...").ChoosesFile(image, "lost");
+    person.Clicks("Cancel").In("ToolTip");
+}
+
 const CRoad kRoads[] = {
     {"calander", "3", "Calender", EditCalander},
     {"dance_text", "9", "Color Link", EditDanceText},
+    {"scroll_text", "5", "Scroll Text", EditScrollText},
+    {"tool_tip", "7", "ToolTip", EditToolTip},
     {"fade_select", "6", "Fade Select Box", EditFadeSelect},
 };
 

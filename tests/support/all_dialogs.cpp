@@ -8,7 +8,9 @@
 #include "dialogs/calander_dlg.h"
 #include "dialogs/dance_text_dlg.h"
 #include "dialogs/fade_select_dlg.h"
+#include "dialogs/scroll_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
+#include "dialogs/tool_tip_dlg.h"
 #include "resources/animate_text_description.h"
 #include "resources/border_description.h"
 #include "resources/calander_description.h"
@@ -17,8 +19,10 @@
 #include "resources/fade_select_description.h"
 #include "resources/font_description.h"
 #include "resources/padding_description.h"
+#include "resources/scroll_text_description.h"
 #include "resources/select_script_description.h"
 #include "resources/text_show_description.h"
+#include "resources/tool_tip_description.h"
 #include "resources/url_description.h"
 
 namespace orrelix {
@@ -77,8 +81,14 @@ const std::vector<CTestedDialog>& AllDialogs() {
     using Font = CCalanderFontDlg;
     using Border = CBorderPropertiesDlg;
     using Padding = CPaddingDlg;
+    using Image = CInsertImageDlg;
+    using Style = CLinkStyleDlg;
     using FadeItem = CFadeItemDlg;
     static const std::vector<CTestedDialog> dialogs = {
+        {"add_text",
+         AddTextDescription,
+         OfMembers<CAddTextDlg>({{"m_Text", &CAddTextDlg::m_Text}, {"m_Url", &CAddTextDlg::m_Url}}),
+         {{"...", UrlDescription}}},
         {"animate_text",
          AnimateTextDescription,
          OfEffect<CAnimateTextDlg, CAnimateText>,
@@ -126,16 +136,45 @@ const std::vector<CTestedDialog>& AllDialogs() {
                                         {"m_FontSize", &CFontPropertiesDlg::m_FontSize},
                                         {"m_FontStyle", &CFontPropertiesDlg::m_FontStyle},
                                         {"m_FontWeight", &CFontPropertiesDlg::m_FontWeight}})},
+        {"insert_image", InsertImageDescription,
+         OfMembers<Image>({{"m_FileName", &Image::m_FileName},
+                           {"m_Width", &Image::m_Width},
+                           {"m_Height", &Image::m_Height},
+                           {"m_Border", &Image::m_Border},
+                           {"m_WebPath", &Image::m_WebPath}})},
+        {"link_style",
+         LinkStyleDescription,
+         OfMembers<Style>({{"m_FontFace", &Style::m_FontFace},
+                           {"m_FontSize", &Style::m_FontSize},
+                           {"m_FontStyle", &Style::m_FontStyle},
+                           {"m_FontWeight", &Style::m_FontWeight},
+                           {"m_Decoration", &Style::m_Decoration},
+                           {"m_Color", &Style::m_Color},
+                           {"m_Cursor", &Style::m_Cursor}}),
+         {{"Font...", FontPropertiesDescription}}},
+        {"marquee_width", MarqueeWidthDescription,
+         OfMembers<CMarqueeWidthDlg>({{"m_Width", &CMarqueeWidthDlg::m_Width}})},
         {"padding", PaddingDescription,
          OfMembers<Padding>({{"m_PaddingLeft", &Padding::m_PaddingLeft},
                              {"m_PaddingRight", &Padding::m_PaddingRight},
                              {"m_PaddingTop", &Padding::m_PaddingTop},
                              {"m_PaddingBottom", &Padding::m_PaddingBottom}})},
+        {"scroll_text",
+         ScrollTextDescription,
+         OfEffect<CScrollTextDlg, CScrollText>,
+         {{"Add new text...", AddTextDescription},
+          {"Mouse Over...", LinkStyleDescription},
+          {"Mouse Out...", LinkStyleDescription},
+          {"Mouse Click...", LinkStyleDescription}}},
         {"select_script", SelectScriptDescription},
         {"text_show",
          TextShowDescription,
          OfEffect<CTextShowDlg, CTextShow>,
          {{"Title Font...", FontPropertiesDescription}, {"Text Font...", FontPropertiesDescription}}},
+        {"tool_tip",
+         ToolTipDescription,
+         OfEffect<CToolTipDlg, CToolTip>,
+         {{"image...", InsertImageDescription}, {"Font...", FontPropertiesDescription}}},
         {"url", UrlDescription,
          OfMembers<CUrlDlg>({{"m_Url", &CUrlDlg::m_Url}, {"m_Type", &CUrlDlg::m_Type}})},
     };
