@@ -5,6 +5,7 @@
 #include "bench/measure.h"
 #include "core/vignel_config.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
@@ -65,19 +66,13 @@ public:
     fs::path m_Path;
 };
 
-CString HostPath(const fs::path& path) {
-    CString text = path.string();
-    text.Replace("/", "\\");
-    return text;
-}
-
 // A file of a shape, made once and kept while the program runs.
 fs::path FileOf(EShape shape, size_t nSize, long nRecords) {
     static CScratch s_Scratch;
     fs::path path =
         s_Scratch.m_Path / (std::string(NameOf(shape)) + Number(nRecords) + Number(long(nSize)) + ".cfg");
     if (!fs::exists(path))
-        MakeStore(shape, nSize, nRecords)->WriteFile(HostPath(path));
+        MakeStore(shape, nSize, nRecords)->WriteFile(FromSystemPath(path.string()));
     return path;
 }
 
@@ -133,7 +128,7 @@ void ReadConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nR
     const fs::path path = FileOf(shape, nSize, nRecords);
     const auto read = [&] {
         CVignelConfig config;
-        config.ReadFile(HostPath(path));
+        config.ReadFile(FromSystemPath(path.string()));
         benchmark::DoNotOptimize(config.m_Segments.GetSize());
     };
     MeasureBeside(
@@ -147,13 +142,13 @@ void ReadConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nR
 void WriteConfigFile(benchmark::State& state, EShape shape, size_t nSize, long nRecords) {
     const fs::path path = FileOf(shape, nSize, nRecords);
     CVignelConfig config;
-    config.ReadFile(HostPath(path));
+    config.ReadFile(FromSystemPath(path.string()));
     std::string bytes;
-    ReadWholeFile(HostPath(path), bytes);
+    ReadWholeFile(FromSystemPath(path.string()), bytes);
     const fs::path target = path.parent_path() / "written";
     MeasureBeside(
         state, bytes.size(), [&] { WritePlainly(target, bytes); },
-        [&] { config.WriteFile(HostPath(target)); });
+        [&] { config.WriteFile(FromSystemPath(target.string())); });
 }
 
 const int s_nRegistered = [] {
@@ -190,7 +185,7 @@ int main(int nArguments, char** pArguments) {
         CVignelConfig config;
         const double seconds = Seconds([&] {
             if (pArguments[1] == std::string_view("--read"))
-                config.ReadFile(HostPath(pArguments[2]));
+                config.ReadFile(FromSystemPath(pArguments[2]));
         });
         printf("%.0f %f\n", PeakOfThisProcess(), seconds);
         return 0;

@@ -1,6 +1,6 @@
 # The component: everything but the Qt windows, program, tests and benches. It needs the standard library and nothing
 # else.
-set(platform_services files file_lock module screen user_folder)
+set(platform_services file_system file_lock module screen user_folder)
 if(WIN32)
     list(TRANSFORM platform_services APPEND _windows.cpp)
 else()

@@ -1,6 +1,8 @@
-// The lines that part a configuration file, matched in any case. docs/file_format.md shows a whole file.
+// What a configuration file consists of: the lines that part it, matched in any case, and its count of days.
+// docs/file_format.md shows a whole file.
 #pragma once
 
+#include <chrono>
 #include <string_view>
 
 namespace orrelix {
@@ -18,6 +20,16 @@ inline constexpr CPartMarkers kResourcePart{"========== Resource Part Begin ====
                                             "========== Resource Part End =========="};
 inline constexpr CPartMarkers kHtmlPart{"========== HTML Part Begin ==========",
                                         "========== HTML Part End =========="};
+
+// The same, in the file's order.
+inline constexpr std::string_view kMarkers[] = {
+    kDescriptionPart.m_Begin, kDescriptionPart.m_End, kParameterPart.m_Begin, kParameterPart.m_End,
+    kResourcePart.m_Begin,    kResourcePart.m_End,    kHtmlPart.m_Begin,      kHtmlPart.m_End,
+};
+
 inline constexpr std::string_view kSegmentEnd = "===== Segment End =====";
+
+// The day from which LastUpdateTime counts days.
+inline constexpr std::chrono::sys_days kDayZero = std::chrono::year(1899) / std::chrono::December / 30;
 
 } // namespace orrelix

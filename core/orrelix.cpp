@@ -80,6 +80,7 @@ bool COrrelix::Config() {
 }
 
 bool COrrelix::WriteConfigFileEx(const CString& path, short force) {
+    m_WriteError = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
     return SucceedsIn([&] { return Write(path, force); });
 }
 
@@ -132,7 +133,8 @@ bool COrrelix::Write(const CString& path, short force) {
         m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
     m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
     m_bResourcesRegistered = true;
-    return m_Config.WriteFile(path);
+    m_WriteError = m_Config.WriteFile(path);
+    return !m_WriteError;
 }
 
 } // namespace orrelix

@@ -105,6 +105,9 @@ public:
     // made by then.
     bool WriteConfigFileEx(const CString& path, short force);
 
+    // Why the last writing of a file failed.
+    std::error_code m_WriteError;
+
     // Selects an effect by its type, "1" to "9", as the first dialog of Config does: for hosts without a
     // screen. Another type is kept, and the gadget stays.
     void SelectType(const CString& type);

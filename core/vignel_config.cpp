@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
 namespace orrelix {
@@ -46,10 +47,35 @@ VignelResource ParseResource(std::string_view line) {
     return resource;
 }
 
+// Counts in passing, also where a wrong number of records makes the part readers take one thing for another.
+void CountLine(std::string_view line, CConfigForm& form) {
+    const bool bInResources = form.m_nMarkers == 5, bInHtml = form.m_nMarkers > 6;
+    if (form.m_nMarkers < std::size(kMarkers) && EqualsNoCase(line, kMarkers[form.m_nMarkers]))
+        ++form.m_nMarkers;
+    else if (bInResources && line.find('=') != std::string_view::npos)
+        ++form.m_nResourceLines;
+    else if (bInHtml && EqualsNoCase(line, kSegmentEnd))
+        ++form.m_nSegmentEnds;
+}
+
+// The lines of a file, counted in its form where somebody wants to know.
+struct CConfigLines : CLineReader {
+    CConfigLines(CInputFile& file, CConfigForm* pForm) : CLineReader(file), m_pForm(pForm) {}
+
+    bool Next() {
+        const bool bNext = CLineReader::Next();
+        if (bNext && m_pForm)
+            CountLine(Line(), *m_pForm);
+        return bNext;
+    }
+
+    CConfigForm* const m_pForm;
+};
+
 // The part readers below take lines from where the one before stopped and never go back. Each stops at the
 // end of the file wherever it is, leaving what it has stored.
 
-bool SkipTo(CLineReader& lines, std::string_view marker) {
+bool SkipTo(CConfigLines& lines, std::string_view marker) {
     while (lines.Next()) {
         if (EqualsNoCase(lines.Line(), marker))
             return true;
@@ -57,15 +83,19 @@ bool SkipTo(CLineReader& lines, std::string_view marker) {
     return false;
 }
 
-void ReadKeys(CLineReader& lines, const CPartMarkers& markers, CMapStringToString& map) {
+void ReadKeys(CConfigLines& lines, const CPartMarkers& markers, CMapStringToString& map,
+              std::vector<CString> CConfigForm::*pAdded) {
     if (!SkipTo(lines, markers.m_Begin))
         return;
     // A pair is stored after the next line has been parsed: meanwhile the part of the map's index that it needs
     // is fetched. At a million keys this takes a third off the time.
     std::optional<std::pair<CString, CString>> waiting;
     const auto store = [&] {
-        if (waiting)
-            map.SetAt(std::move(waiting->first), std::move(waiting->second));
+        if (!waiting)
+            return;
+        if (lines.m_pForm && !map.Find(waiting->first))
+            (lines.m_pForm->*pAdded).push_back(waiting->first);
+        map.SetAt(std::move(waiting->first), std::move(waiting->second));
     };
     while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
         if (const auto pair = SplitKeyLine(lines.Line())) {
@@ -78,7 +108,7 @@ void ReadKeys(CLineReader& lines, const CPartMarkers& markers, CMapStringToStrin
 }
 
 // The next line with the given key; its value.
-std::optional<std::string_view> SkipToKey(CLineReader& lines, std::string_view key) {
+std::optional<std::string_view> SkipToKey(CConfigLines& lines, std::string_view key) {
     while (lines.Next()) {
         const auto pair = SplitKeyLine(lines.Line());
         if (pair && EqualsNoCase(pair->m_Key, key))
@@ -90,7 +120,7 @@ std::optional<std::string_view> SkipToKey(CLineReader& lines, std::string_view k
 // The number of records that a number line gives: 16 bits. The list gets exactly that size, but for 0, which
 // leaves it as it was.
 template <class TRecord>
-int ReadCount(CLineReader& lines, std::string_view key, CArray<TRecord>& records) {
+int ReadCount(CConfigLines& lines, std::string_view key, CArray<TRecord>& records) {
     const auto value = SkipToKey(lines, key);
     const int nCount = value ? static_cast<std::uint16_t>(ToInteger(*value)) : 0;
     if (nCount > 0)
@@ -98,7 +128,7 @@ int ReadCount(CLineReader& lines, std::string_view key, CArray<TRecord>& records
     return nCount;
 }
 
-void ReadResources(CLineReader& lines, CArray<VignelResource>& resources) {
+void ReadResources(CConfigLines& lines, CArray<VignelResource>& resources) {
     if (!SkipTo(lines, kResourcePart.m_Begin))
         return;
     const int nCount = ReadCount(lines, kResourceNumber, resources);
@@ -111,7 +141,7 @@ void ReadResources(CLineReader& lines, CArray<VignelResource>& resources) {
     SkipTo(lines, kResourcePart.m_End);
 }
 
-void ReadBody(CLineReader& lines, std::string& body) {
+void ReadBody(CConfigLines& lines, std::string& body) {
     while (lines.Next() && !EqualsNoCase(lines.Line(), kSegmentEnd)) {
         const size_t nNeeded = body.size() + lines.Line().size() + kLineEnd.size();
         if (nNeeded > body.capacity()) // in one step for the line and its end
@@ -120,7 +150,7 @@ void ReadBody(CLineReader& lines, std::string& body) {
     }
 }
 
-void ReadSegments(CLineReader& lines, CArray<VignelSegment>& segments) {
+void ReadSegments(CConfigLines& lines, CArray<VignelSegment>& segments) {
     if (!SkipTo(lines, kHtmlPart.m_Begin))
         return;
     const int nCount = ReadCount(lines, kSegmentNumber, segments);
@@ -292,22 +322,27 @@ int CVignelConfig::AddSegment(VignelSegment record) {
     return static_cast<int>(m_Segments.Add(std::move(record)));
 }
 
-bool CVignelConfig::ReadFile(const CString& path) {
+bool CVignelConfig::ReadFile(const CString& path, CConfigForm* pForm) {
     CInputFile file;
-    if (!file.Open(path))
-        return false;
-    CLineReader lines(file);
-    ReadKeys(lines, kDescriptionPart, m_DescriptionMap);
-    ReadKeys(lines, kParameterPart, m_ParameterMap);
-    ReadResources(lines, m_Resources);
-    ReadSegments(lines, m_Segments);
-    return true;
+    const bool bOpen = !file.Open(path);
+    if (bOpen) {
+        CConfigLines lines(file, pForm);
+        ReadKeys(lines, kDescriptionPart, m_DescriptionMap, &CConfigForm::m_DescriptionKeys);
+        ReadKeys(lines, kParameterPart, m_ParameterMap, &CConfigForm::m_ParameterKeys);
+        ReadResources(lines, m_Resources);
+        ReadSegments(lines, m_Segments);
+        while (pForm && lines.Next()) {
+        }
+    }
+    if (pForm)
+        pForm->m_Error = file.GetError();
+    return bOpen;
 }
 
-bool CVignelConfig::WriteFile(const CString& path) const {
+std::error_code CVignelConfig::WriteFile(const CString& path) const {
     COutputFile file;
-    if (!file.Open(path))
-        return false;
+    if (const std::error_code error = file.Open(path))
+        return error;
     WriteKeys(file, kDescriptionPart, m_DescriptionMap);
     WriteKeys(file, kParameterPart, m_ParameterMap);
     WriteResources(file, m_Resources);

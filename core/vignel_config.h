@@ -12,6 +12,9 @@
 #include "platform/string.h"
 #include "platform/string_map.h"
 
+#include <system_error>
+#include <vector>
+
 namespace orrelix {
 
 struct VignelResource {
@@ -23,6 +26,25 @@ struct VignelResource {
 struct VignelSegment {
     CString m_Position; // where the host places it: "script" or "cursor"
     CString m_Body;     // the text, which has to end in CR LF to be found again
+};
+
+// What a file has and the store doesn't keep, for those who look into files.
+struct CConfigForm {
+    // The keys that reading has added to the store, in the order of the file.
+    std::vector<CString> m_DescriptionKeys;
+    std::vector<CString> m_ParameterKeys;
+
+    // How many of the lines that begin and end parts (see core/config_format.h) are there, up to the first that
+    // is missing.
+    size_t m_nMarkers = 0;
+
+    // How many records stand between them, whatever the file's counts say: lines with "=" in the Resource Part,
+    // the count's own among them, and ends of segments.
+    long m_nResourceLines = 0;
+    long m_nSegmentEnds = 0;
+
+    // Why the file can't be opened or be read to its end.
+    std::error_code m_Error;
 };
 
 class CVignelConfig {
@@ -71,11 +93,12 @@ public:
     // store holds; nothing is emptied first. False, and nothing changes, when the file can't be opened.
     // Whatever else is wrong with the file, what could be read of it is in the store and the result is true.
     // The time is in proportion to the file, the memory beside the store's own is that of the longest line.
-    bool ReadFile(const CString& path);
+    // A form, if one is given, is to be empty.
+    bool ReadFile(const CString& path, CConfigForm* pForm = nullptr);
 
-    // Writes the store, replacing the file as a whole. False when that failed; an old file is then as it was.
-    // At most 65,535 resources and segments fit the format; what lies behind them is not written.
-    bool WriteFile(const CString& path) const;
+    // Writes the store, replacing the file as a whole. On an error an old file is as it was. At most 65,535
+    // resources and segments fit the format; what lies behind them is not written.
+    std::error_code WriteFile(const CString& path) const;
 
     CMapStringToString m_DescriptionMap;
     CMapStringToString m_ParameterMap;

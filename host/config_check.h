@@ -19,18 +19,15 @@ public:
     // Throws CFileError when the file can't be read.
     explicit CConfigCheck(const std::filesystem::path& path);
 
-    // The values and lists.
+    // The values and lists, and the keys' order.
     CVignelConfig m_Store;
-
-    // The keys of the Description and of the Parameter Part, each once.
-    std::vector<CString> m_DescriptionKeys;
-    std::vector<CString> m_ParameterKeys;
+    CConfigForm m_Form;
 
     // What is wrong with the file's form, a sentence's rest each; empty when it is whole.
     std::vector<std::string> m_Damage;
 
     // Whether anything of the file was recognised.
-    bool IsConfigFile() const { return m_nMarkers > 0; }
+    bool IsConfigFile() const { return m_Form.m_nMarkers > 0; }
 
     // Why no effect can come back from the file. Empty when one can: it is our component's, names an effect,
     // and its Parameter Part is there whole.
@@ -43,10 +40,7 @@ public:
     CString GetEffectType() const;
 
 private:
-    void Inspect(std::string_view content);
-    void CheckCounts(std::string_view resourcePart, std::string_view htmlPart);
-
-    size_t m_nMarkers = 0; // how many of the eight lines that begin and end parts are there
+    void CheckCount(const char* pNoun, std::ptrdiff_t nPromised, std::ptrdiff_t nThere);
 };
 
 } // namespace orrelix

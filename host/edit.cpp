@@ -1,5 +1,6 @@
 #include "host/edit.h"
 
+#include "core/config_format.h"
 #include "core/orrelix.h"
 #include "host/component_path.h"
 #include "host/generated_effect.h"
@@ -29,11 +30,10 @@ std::string EffectNames() {
     return names;
 }
 
-// Days since 30 December 1899, as properties of files have them.
+// As properties of files have it.
 double Now() {
     using namespace std::chrono;
-    const sys_days start = year(1899) / December / 30;
-    return duration<double, std::ratio<86400>>(system_clock::now() - start).count();
+    return duration<double, days::period>(system_clock::now() - kDayZero).count();
 }
 
 // A title that can stand in names of a page's script: letters, digits and "_", no digit first.
@@ -50,7 +50,7 @@ bool ToCodePage(const std::string& option, const std::string& text, CString& con
     converted = text;
     if (GetCodePage() == kUtf8CodePage)
         return true;
-    const CConvertedText result = ConvertText(text, "UTF-8", EncodingOfCodePage(GetCodePage()));
+    const CConvertedText result = ConvertText(text, "UTF-8", GetEncoding());
     converted = result.m_Text;
     if (result.m_nUnfit + result.m_nInvalid > 0)
         report.WrongUsage(option,
@@ -74,7 +74,7 @@ bool ParseSets(const std::vector<std::string>& sets, CFieldValues& values, CRepo
 }
 
 std::string ToTerminal(const CString& value) {
-    return Printable(ConvertText(value.View(), EncodingOfCodePage(GetCodePage()), "UTF-8").m_Text);
+    return Printable(ToUtf8(value.View()).m_Text);
 }
 
 void PrintFields(CDhtmlGadget& gadget) {
@@ -145,7 +145,7 @@ void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
         return;
     orrelix.SetLastUpdateTime(Now());
     if (!orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
-        return report.Error(options.m_File.string(), "can't be written: " + SystemReason());
+        return report.Error(options.m_File.string(), "can't be written: " + orrelix.m_WriteError.message());
     CheckCopies(orrelix, directory, report);
     std::cout << options.m_File.string() << '\n';
 }

@@ -21,7 +21,7 @@ namespace {
 // One command of the program: its arguments, and what it does with them.
 struct CCommand {
     CLI::App* m_pArguments;
-    std::function<void(int nCodePage, CReport& report)> m_Run;
+    std::function<void(CReport& report)> m_Run;
 };
 
 const CLI::Validator NotEmpty([](const std::string& text) { return text.empty() ? "names no file" : ""; },
@@ -32,10 +32,7 @@ CCommand AddShow(CLI::App& program) {
     CLI::App* pShow = program.add_subcommand("show", "Print what a configuration file holds");
     pShow->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     pShow->add_flag("--json", pOptions->m_bJson, "Print it as JSON");
-    return {pShow, [pOptions](int nCodePage, CReport& report) {
-                pOptions->m_nCodePage = nCodePage;
-                Show(*pOptions, report);
-            }};
+    return {pShow, [pOptions](CReport& report) { Show(*pOptions, report); }};
 }
 
 CCommand AddPreview(CLI::App& program) {
@@ -45,10 +42,7 @@ CCommand AddPreview(CLI::App& program) {
     pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required()->check(NotEmpty);
     pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")->required()->type_name("DIR");
     pPreview->add_flag("--index", pOptions->m_bIndex, "Write an index.html that shows all of them");
-    return {pPreview, [pOptions](int nCodePage, CReport& report) {
-                pOptions->m_nCodePage = nCodePage;
-                Preview(*pOptions, report);
-            }};
+    return {pPreview, [pOptions](CReport& report) { Preview(*pOptions, report); }};
 }
 
 CCommand AddPublish(CLI::App& program) {
@@ -61,10 +55,7 @@ CCommand AddPublish(CLI::App& program) {
     pPublish->add_option("--site", pOptions->m_Site, "The folder of the site's root")
         ->required()
         ->type_name("DIR");
-    return {pPublish, [pOptions](int nCodePage, CReport& report) {
-                pOptions->m_nCodePage = nCodePage;
-                Publish(*pOptions, report);
-            }};
+    return {pPublish, [pOptions](CReport& report) { Publish(*pOptions, report); }};
 }
 
 void AddEditOptions(CLI::App& command, CEditOptions& options) {
@@ -86,7 +77,7 @@ CCommand AddNew(CLI::App& program) {
     pNew->add_option("--effect", pOptions->m_Effect, "The effect's name, to make it without dialogs")
         ->type_name("NAME");
     AddEditOptions(*pNew, *pOptions);
-    return {pNew, [pOptions](int, CReport& report) { NewEffect(*pOptions, report); }};
+    return {pNew, [pOptions](CReport& report) { NewEffect(*pOptions, report); }};
 }
 
 CCommand AddEdit(CLI::App& program) {
@@ -94,14 +85,14 @@ CCommand AddEdit(CLI::App& program) {
     CLI::App* pEdit = program.add_subcommand("edit", "Change an effect, in its dialogs or by options");
     pEdit->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     AddEditOptions(*pEdit, *pOptions);
-    return {pEdit, [pOptions](int, CReport& report) { EditEffect(*pOptions, report); }};
+    return {pEdit, [pOptions](CReport& report) { EditEffect(*pOptions, report); }};
 }
 
 // Whatever a command throws makes the program fail and nothing else.
-int RunCommand(const CCommand& command, int nCodePage) {
+int RunCommand(const CCommand& command) {
     CReport report;
     try {
-        command.m_Run(nCodePage, report);
+        command.m_Run(report);
     } catch (const CFileError& error) {
         report.Error(error.m_File, error.what());
     } catch (const std::filesystem::filesystem_error& error) {
@@ -140,12 +131,12 @@ int RunProgram(int nArguments, char** ppArguments) {
     } catch (const CLI::ParseError& error) {
         return WrongUsage(error.what());
     }
-    if (EncodingOfCodePage(nCodePage).empty() || !SetCodePage(nCodePage))
+    if (!SetCodePage(nCodePage) || !IsConvertible(GetEncoding()))
         return WrongUsage("--code-page: " + std::to_string(nCodePage) +
                           " is no code page that is known here");
     for (const CCommand& command : commands) {
         if (command.m_pArguments->parsed())
-            return RunCommand(command, nCodePage);
+            return RunCommand(command);
     }
     return kWrongUsage;
 }

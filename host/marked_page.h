@@ -23,7 +23,7 @@ namespace orrelix {
 
 class CMarkedPage {
 public:
-    CMarkedPage(std::string page, int nCodePage) : m_Text(std::move(page), nCodePage) {}
+    explicit CMarkedPage(std::string page) : m_Text(std::move(page)) {}
 
     // The page with an effect's texts in it, all of the code page; those of an earlier time are replaced. An
     // empty script leaves the head alone. Nothing, and `problem` says why, when the page has no place for it.

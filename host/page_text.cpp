@@ -110,8 +110,7 @@ std::string WithoutReferences(std::string_view text, bool bUtf8) {
 
 } // namespace
 
-CPageText::CPageText(std::string page, int nCodePage)
-    : m_Page(std::move(page)), m_CodePageEncoding(EncodingOfCodePage(nCodePage)) {
+CPageText::CPageText(std::string page) : m_Page(std::move(page)), m_CodePageEncoding(orrelix::GetEncoding()) {
     DetectEncoding();
     MakeOutline();
 }
@@ -152,7 +151,7 @@ bool CPageText::Equals(std::string_view part, std::string_view text) const {
         return true;
     if (!Converts())
         return WithoutReferences(part, m_Encoding == "UTF-8") == text;
-    const std::string ours = ConvertText(text, m_CodePageEncoding, "UTF-8").m_Text;
+    const std::string ours = ToUtf8(text).m_Text;
     const std::string theirs = ConvertText(part, m_Encoding, "UTF-8").m_Text;
     return theirs == ours || WithoutReferences(theirs, true) == ours;
 }

@@ -11,7 +11,7 @@ namespace orrelix {
 class CPageText {
 public:
     // Finds out the encoding: by a byte order mark, or else by the charset that the page declares.
-    CPageText(std::string page, int nCodePage);
+    explicit CPageText(std::string page);
 
     const std::string& GetBytes() const { return m_Page; }
 

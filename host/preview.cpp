@@ -20,7 +20,7 @@ class CPreviewRun {
 public:
     CPreviewRun(const CPreviewOptions& options, CReport& report)
         : m_Options(options), m_Report(report), m_Out(fs::canonical(options.m_Out)), m_Site(m_Out),
-          m_Copies(m_Site, options.m_nCodePage, report) {}
+          m_Copies(m_Site, report) {}
 
     void Run() {
         for (const fs::path& file : m_Options.m_Files) {
@@ -32,7 +32,7 @@ public:
         }
         m_Copies.Run();
         if (m_Options.m_bIndex)
-            Write(kIndexName, IndexPage(m_Pages, m_Options.m_nCodePage));
+            Write(kIndexName, IndexPage(m_Pages));
     }
 
 private:
@@ -53,22 +53,21 @@ private:
         m_Copies.Plan(effect, page, file.string());
         CPreviewPage preview{name, file.string(), effect};
         WarnOfInvalidText(preview);
-        Write(name, EffectPage(preview, m_Options.m_nCodePage));
+        Write(name, EffectPage(preview));
         m_Pages.push_back(std::move(preview));
     }
 
     void WarnOfInvalidText(const CPreviewPage& page) {
-        const std::string encoding = EncodingOfCodePage(m_Options.m_nCodePage);
         size_t nInvalid = 0;
         for (const CString* pText :
              {&page.m_Effect.m_Title, &page.m_Effect.m_Script, &page.m_Effect.m_Cursor})
-            nInvalid += ConvertText(pText->View(), encoding, "UTF-8").m_nInvalid;
+            nInvalid += ToUtf8(pText->View()).m_nInvalid;
         m_Report.WarnOfInvalidBytes(page.m_Source, nInvalid);
     }
 
     void Write(const std::string& name, const std::string& content) {
-        if (!WriteFileContent(m_Out / name, content, Durability::Usual))
-            return m_Report.Error((m_Out / name).string(), "can't be written: " + SystemReason());
+        if (const std::error_code error = WriteFileContent(m_Out / name, content, Durability::Usual))
+            return m_Report.Error((m_Out / name).string(), "can't be written: " + error.message());
         std::cout << (m_Out / name).string() << '\n';
     }
 

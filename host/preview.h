@@ -12,7 +12,6 @@ struct CPreviewOptions {
     std::vector<std::filesystem::path> m_Files; // configuration files
     std::filesystem::path m_Out;                // the folder for the pages, made if need be
     bool m_bIndex;                              // whether an index page shows them all
-    int m_nCodePage;
 };
 
 // Writes a page for each file, with the scripts and images that it needs beside it, and prints the paths of

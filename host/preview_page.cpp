@@ -192,11 +192,9 @@ std::string PageHead(const std::string& label, std::string_view title) {
 
 // Text of the code page with a charset that browsers know: the code page's own, or else UTF-8.
 template <class TMake>
-std::string InKnownCharset(int nCodePage, TMake make) {
-    const std::string label = LabelOfCodePage(nCodePage);
-    if (!label.empty())
-        return make(label);
-    return ConvertText(make("utf-8"), EncodingOfCodePage(nCodePage), "UTF-8").m_Text;
+std::string InKnownCharset(TMake make) {
+    const std::string charset = GetCharset();
+    return charset.empty() ? ToUtf8(make("utf-8")).m_Text : make(charset);
 }
 
 std::string Card(const CPreviewPage& page) {
@@ -210,8 +208,8 @@ std::string Card(const CPreviewPage& page) {
 
 } // namespace
 
-std::string EffectPage(const CPreviewPage& page, int nCodePage) {
-    return InKnownCharset(nCodePage, [&](const std::string& label) {
+std::string EffectPage(const CPreviewPage& page) {
+    return InKnownCharset([&](const std::string& label) {
         const CGeneratedEffect& effect = page.m_Effect;
         return "<!DOCTYPE html>\n<html lang=\"en\" class=\"orrelix-page\" id=\"effect\">\n<head>\n" +
                PageHead(label, HeadingOf(page)) + "<style>" + kSharedStyle + kEffectStyle + "</style>\n" +
@@ -223,8 +221,8 @@ std::string EffectPage(const CPreviewPage& page, int nCodePage) {
     });
 }
 
-std::string IndexPage(const std::vector<CPreviewPage>& pages, int nCodePage) {
-    return InKnownCharset(nCodePage, [&](const std::string& label) {
+std::string IndexPage(const std::vector<CPreviewPage>& pages) {
+    return InKnownCharset([&](const std::string& label) {
         std::string text =
             "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n" + PageHead(label, "Effects") + "<style>" +
             kSharedStyle + kIndexStyle +

@@ -15,9 +15,9 @@ struct CPreviewPage {
 };
 
 // A page that shows one effect, in the code page, or in UTF-8 where browsers don't know the code page.
-std::string EffectPage(const CPreviewPage& page, int nCodePage);
+std::string EffectPage(const CPreviewPage& page);
 
 // A page that shows all of them, live.
-std::string IndexPage(const std::vector<CPreviewPage>& pages, int nCodePage);
+std::string IndexPage(const std::vector<CPreviewPage>& pages);
 
 } // namespace orrelix

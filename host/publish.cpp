@@ -28,14 +28,14 @@ bool WritePage(const fs::path& path, const std::string& before, const std::strin
                const std::string& subject, CReport& report) {
     COutputFile::RemoveLeftovers(ComponentPath(path.parent_path()));
     std::string now;
-    if (!ReadFileContent(path, now) || now != before) {
+    if (ReadWholeFile(ComponentPath(path), now) || now != before) {
         report.Error(subject, "has been changed meanwhile by somebody else; publish again");
         return false;
     }
-    const bool bWritten = WriteFileContent(path, after, Durability::PowerCut);
-    if (!bWritten)
-        report.Error(subject, "can't be written: " + SystemReason() + "; the page is as it was");
-    return bWritten;
+    const std::error_code error = WriteFileContent(path, after, Durability::PowerCut);
+    if (error)
+        report.Error(subject, "can't be written: " + error.message() + "; the page is as it was");
+    return !error;
 }
 
 } // namespace
@@ -47,14 +47,14 @@ void Publish(const CPublishOptions& options, CReport& report) {
     std::string before;
     if (fs::exists(options.m_Page) && !fs::is_regular_file(options.m_Page))
         return report.Error(pageName, "is no file, so it can't be a page");
-    if (!ReadFileContent(options.m_Page, before))
-        return report.Error(pageName, "can't be read: " + SystemReason());
+    if (const std::error_code error = ReadWholeFile(ComponentPath(options.m_Page), before))
+        return report.Error(pageName, "can't be read: " + error.message());
     const CSite site(options.m_Site);
     if (!site.Holds(options.m_Page))
         return report.Error(pageName, "doesn't lie in the site's folder " + options.m_Site.string());
 
     const CGeneratedEffect effect = GenerateEffect(options.m_File, kPublish);
-    CMarkedPage page(before, options.m_nCodePage);
+    CMarkedPage page(before);
     std::string problem;
     const auto after =
         page.Place(std::string(effect.m_Title.View()), effect.m_Script, effect.m_Cursor, problem);
@@ -65,7 +65,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
     // The files first: a page never refers to what isn't there yet.
     const fs::path pagePath =
         fs::canonical(fs::absolute(options.m_Page).parent_path()) / options.m_Page.filename();
-    CFileCopies copies(site, options.m_nCodePage, report);
+    CFileCopies copies(site, report);
     copies.Plan(effect, pagePath, options.m_File.string());
     copies.Run();
     if (*after == before || WritePage(pagePath, before, *after, pageName, report))

@@ -11,7 +11,6 @@ struct CPublishOptions {
     std::filesystem::path m_File; // the configuration file
     std::filesystem::path m_Page;
     std::filesystem::path m_Site; // the folder of the site's root, in which the page lies
-    int m_nCodePage;
 };
 
 // Puts the effect's texts into the page and its files where their web paths say. When the page has no place

@@ -1,5 +1,6 @@
 #include "host/show.h"
 
+#include "core/config_format.h"
 #include "host/config_check.h"
 #include "host/text_encoding.h"
 
@@ -20,8 +21,7 @@ using Json = nlohmann::ordered_json;
 class CReadableFile {
 public:
     CReadableFile(const CShowOptions& options, const CConfigCheck& file)
-        : m_Name(options.m_File.string()), m_File(file), m_Encoding(EncodingOfCodePage(options.m_nCodePage)) {
-    }
+        : m_Name(options.m_File.string()), m_File(file) {}
 
     Json ToJson();
     void Print(std::ostream& out);
@@ -30,7 +30,7 @@ public:
 
 private:
     std::string Text(std::string_view bytes) {
-        CConvertedText converted = ConvertText(bytes, m_Encoding, "UTF-8");
+        CConvertedText converted = ToUtf8(bytes);
         m_nInvalid += converted.m_nInvalid;
         return std::move(converted.m_Text);
     }
@@ -41,7 +41,6 @@ private:
 
     std::string m_Name;
     const CConfigCheck& m_File;
-    std::string m_Encoding;
     size_t m_nInvalid = 0;
 };
 
@@ -60,8 +59,8 @@ Json CReadableFile::ToJson() {
     else
         json["effect"] = nullptr;
     json["damage"] = m_File.m_Damage;
-    json["description"] = KeysToJson(m_File.m_DescriptionKeys, m_File.m_Store.m_DescriptionMap);
-    json["parameters"] = KeysToJson(m_File.m_ParameterKeys, m_File.m_Store.m_ParameterMap);
+    json["description"] = KeysToJson(m_File.m_Form.m_DescriptionKeys, m_File.m_Store.m_DescriptionMap);
+    json["parameters"] = KeysToJson(m_File.m_Form.m_ParameterKeys, m_File.m_Store.m_ParameterMap);
     json["resources"] = Json::array();
     for (const VignelResource& resource : m_File.m_Store.m_Resources)
         json["resources"].push_back({{"name", Text(resource.m_Name.View())},
@@ -97,15 +96,14 @@ void PrintRows(std::ostream& out, const std::vector<std::vector<std::string>>& r
     }
 }
 
-// Days since 30 December 1899 as a date, where they are one that a file can have been written at.
+// A file's days as a date, where they are one that a file can have been written at.
 std::string DateOf(const CString& days) {
     using namespace std::chrono;
     const double nDays = atof(days);
     if (!(nDays >= 1 && nDays < 100000))
         return "";
     const auto nMinutes = static_cast<long>(std::lround(nDays * 24 * 60));
-    const sys_days day = sys_days(year(1899) / December / 30) + std::chrono::days(nMinutes / (24 * 60));
-    const year_month_day date(day);
+    const year_month_day date(kDayZero + std::chrono::days(nMinutes / (24 * 60)));
     char text[64];
     snprintf(text, sizeof text, " (%04d-%02u-%02u %02ld:%02ld)", static_cast<int>(date.year()),
              static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()), nMinutes / 60 % 24,
@@ -143,9 +141,9 @@ std::string CReadableFile::Heading() const {
 void CReadableFile::Print(std::ostream& out) {
     const CVignelConfig& store = m_File.m_Store;
     out << Heading() << "\n\nDescription\n";
-    PrintKeys(out, m_File.m_DescriptionKeys, store.m_DescriptionMap);
+    PrintKeys(out, m_File.m_Form.m_DescriptionKeys, store.m_DescriptionMap);
     out << "\nParameters\n";
-    PrintKeys(out, m_File.m_ParameterKeys, store.m_ParameterMap);
+    PrintKeys(out, m_File.m_Form.m_ParameterKeys, store.m_ParameterMap);
     out << "\nResources\n";
     std::vector<std::vector<std::string>> rows;
     for (const VignelResource& resource : store.m_Resources)

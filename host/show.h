@@ -10,7 +10,6 @@ namespace orrelix {
 struct CShowOptions {
     std::filesystem::path m_File;
     bool m_bJson; // for programs, else for people
-    int m_nCodePage;
 };
 
 // Prints the file in UTF-8. A file that is damaged or holds no effect is shown as far as it goes, and

@@ -5,7 +5,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
-#include <cerrno>
+#include <charconv>
 #include <system_error>
 #include <vector>
 
@@ -46,19 +46,14 @@ bool IsFullAddress(std::string_view address) {
     });
 }
 
-int HexDigit(char byte) {
-    const char lower = static_cast<char>(byte | 0x20);
-    if (byte >= '0' && byte <= '9')
-        return byte - '0';
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
 std::string Decoded(std::string_view address) {
     std::string result;
     for (size_t i = 0; i < address.size(); ++i) {
-        if (address[i] == '%' && i + 2 < address.size() && HexDigit(address[i + 1]) >= 0 &&
-            HexDigit(address[i + 2]) >= 0) {
-            result += static_cast<char>(HexDigit(address[i + 1]) * 16 + HexDigit(address[i + 2]));
+        unsigned char byte = 0;
+        const char* pDigits = address.data() + i + 1;
+        if (address[i] == '%' && i + 2 < address.size() &&
+            std::from_chars(pDigits, pDigits + 2, byte, 16).ptr == pDigits + 2) {
+            result += static_cast<char>(byte);
             i += 2;
         } else {
             result += address[i];
@@ -140,8 +135,7 @@ void CFileCopies::PlanFile(const CEffectFile& file, const fs::path& page, const 
     }
     for (const CString& name : file.m_Names) {
         // Browsers ask for names in UTF-8, whatever the page is in.
-        const std::string address =
-            ConvertText((file.m_WebPath + name).View(), EncodingOfCodePage(m_nCodePage), "UTF-8").m_Text;
+        const std::string address = ToUtf8((file.m_WebPath + name).View()).m_Text;
         std::string problem;
         const fs::path target = m_Site.Locate(address, page.parent_path(), problem);
         if (target.empty())
@@ -177,9 +171,10 @@ void CFileCopies::Run() {
             folder = target.parent_path();
             COutputFile::RemoveLeftovers(ComponentPath(folder));
         }
-        errno = failed.value();
-        if (failed || !CopyWholeFile(source, ComponentPath(target), Spelling::Exact))
-            m_Report.Error(target.string(), "can't be written: " + SystemReason());
+        if (!failed)
+            failed = CopyWholeFile(source, ComponentPath(target), Spelling::Exact);
+        if (failed)
+            m_Report.Error(target.string(), "can't be written: " + failed.message());
     }
 }
 

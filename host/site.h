@@ -31,8 +31,7 @@ private:
 // The files of one or more effects on their way into a site. All are planned before the first is written.
 class CFileCopies {
 public:
-    CFileCopies(const CSite& site, int nCodePage, CReport& report)
-        : m_Site(site), m_nCodePage(nCodePage), m_Report(report) {}
+    CFileCopies(const CSite& site, CReport& report) : m_Site(site), m_Report(report) {}
 
     // Plans the files of an effect that a page needs. Files that are missing, that have no
     // place in the site, or that would land on another one of the plan or on `page`, are reported under
@@ -47,7 +46,6 @@ private:
     bool IsFree(const std::filesystem::path& target, const CString& source) const;
 
     const CSite& m_Site;
-    int m_nCodePage;
     CReport& m_Report;
     std::map<std::filesystem::path, CString> m_Sources; // by target
 };

@@ -1,5 +1,7 @@
 #include "host/text_encoding.h"
 
+#include "platform/string.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
@@ -80,48 +82,6 @@ void Encode(CConverter& encoder, std::string_view characters, CConvertedText& re
     }
 }
 
-// "*" in a name stands for the code page's number, or for the part's in the parts of ISO 8859.
-struct CCodePage {
-    int m_nFirst;
-    int m_nLast;
-    const char* m_pEncoding;
-    const char* m_pLabel;
-};
-
-constexpr CCodePage kCodePages[] = {
-    {kUtf8CodePage, kUtf8CodePage, "UTF-8", "utf-8"},
-    {932, 932, "CP932", "shift_jis"},
-    {936, 936, "CP936", "gbk"},
-    {949, 949, "CP949", "euc-kr"},
-    {950, 950, "CP950", "big5"},
-    {874, 874, "CP874", "windows-874"},
-    {1250, 1258, "CP*", "windows-*"},
-    {20866, 20866, "KOI8-R", "koi8-r"},
-    {21866, 21866, "KOI8-U", "koi8-u"},
-    {28591, 28605, "ISO-8859-*", "iso-8859-*"},
-    {866, 866, "CP866", "ibm866"},
-    {437, 869, "CP*", ""},
-};
-
-const CCodePage* FindCodePage(int nCodePage) {
-    const auto* pFound =
-        std::find_if(std::begin(kCodePages), std::end(kCodePages), [&](const CCodePage& row) {
-            return nCodePage >= row.m_nFirst && nCodePage <= row.m_nLast;
-        });
-    return pFound != std::end(kCodePages) ? pFound : nullptr;
-}
-
-std::string NameOf(int nCodePage, std::string pattern) {
-    const size_t nStar = pattern.find('*');
-    if (nStar != std::string::npos)
-        pattern.replace(nStar, 1, std::to_string(nCodePage > 28590 ? nCodePage - 28590 : nCodePage));
-    return pattern;
-}
-
-bool IsConvertible(const std::string& encoding) {
-    return CConverter(encoding, kCharacters).IsOpen() && CConverter(kCharacters, encoding).IsOpen();
-}
-
 // The labels for which browsers use another encoding than the one of that name, or whose name iconv hasn't.
 constexpr struct {
     const char* m_pLabels; // each between blanks
@@ -160,27 +120,14 @@ bool HoldsAscii(const std::string& encoding) {
 
 } // namespace
 
-std::string EncodingOfCodePage(int nCodePage) {
-    const CCodePage* pPage = FindCodePage(nCodePage);
-    const std::string name = pPage ? NameOf(nCodePage, pPage->m_pEncoding) : "";
-    return pPage && IsConvertible(name) ? name : "";
-}
-
-std::string LabelOfCodePage(int nCodePage) {
-    const CCodePage* pPage = FindCodePage(nCodePage);
-    return pPage ? NameOf(nCodePage, pPage->m_pLabel) : "";
+bool IsConvertible(const std::string& encoding) {
+    return CConverter(encoding, kCharacters).IsOpen() && CConverter(kCharacters, encoding).IsOpen();
 }
 
 std::string EncodingOfLabel(std::string_view label) {
-    std::string name;
-    for (char byte : label) {
-        const bool bUpper = byte >= 'A' && byte <= 'Z';
-        const bool bPlain = (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') || byte == '-' ||
-                            byte == '_' || byte == '.' || byte == ':';
-        if (!bUpper && !bPlain)
-            return {};
-        name += bUpper ? static_cast<char>(byte - 'A' + 'a') : byte;
-    }
+    std::string name(CString(label).MakeLower().View());
+    if (name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-_.:") != std::string::npos)
+        return {};
     for (const auto& row : kLabels) {
         if (std::string_view(row.m_pLabels).find(" " + name + " ") != std::string_view::npos)
             return row.m_pEncoding;
@@ -228,6 +175,10 @@ CConvertedText ConvertText(std::string_view text, const std::string& from, const
     }
     encoder.Finish(result.m_Text);
     return result;
+}
+
+CConvertedText ToUtf8(std::string_view text) {
+    return ConvertText(text, GetEncoding(), "UTF-8");
 }
 
 } // namespace orrelix

@@ -8,15 +8,12 @@
 
 namespace orrelix {
 
-// The encoding of a code page, such as "CP936" of 936; empty when this system can't convert it.
-std::string EncodingOfCodePage(int nCodePage);
+// Whether this system can convert text from and to an encoding.
+bool IsConvertible(const std::string& encoding);
 
 // The encoding that browsers take for a page's charset label, such as "CP936" for "gb2312". Empty for a label
 // that isn't known, or whose ASCII characters are other bytes than ASCII's.
 std::string EncodingOfLabel(std::string_view label);
-
-// The charset label for pages in a code page; empty when browsers have none.
-std::string LabelOfCodePage(int nCodePage);
 
 struct CConvertedText {
     std::string m_Text;
@@ -25,5 +22,8 @@ struct CConvertedText {
 };
 
 CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to);
+
+// A text of the code page in force.
+CConvertedText ToUtf8(std::string_view text);
 
 } // namespace orrelix

@@ -22,7 +22,6 @@ public:
 
     // Grows with empty items or drops the last ones.
     void SetSize(Index nSize) { m_Items.resize(static_cast<size_t>(nSize)); }
-    void Reserve(Index nSize) { m_Items.reserve(static_cast<size_t>(nSize)); }
 
     // Appends at the end; the result is the item's index.
     Index Add(TItem item) {
@@ -35,8 +34,6 @@ public:
 
     TItem& operator[](Index nIndex) { return m_Items[static_cast<size_t>(nIndex)]; }
     const TItem& operator[](Index nIndex) const { return m_Items[static_cast<size_t>(nIndex)]; }
-    const TItem& GetAt(Index nIndex) const { return (*this)[nIndex]; }
-    void SetAt(Index nIndex, TItem item) { (*this)[nIndex] = std::move(item); }
 
     auto begin() { return m_Items.begin(); }
     auto end() { return m_Items.end(); }

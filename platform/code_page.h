@@ -6,6 +6,8 @@
 // single-byte pages have no such bytes; pages 932, 936, 949 and 950 do.
 #pragma once
 
+#include <string>
+
 namespace orrelix {
 
 // Selects the page for the whole process: 65001 (UTF-8, in force at start), 932, 936, 949, 950, or a
@@ -17,6 +19,12 @@ int GetCodePage();
 
 // UTF-8's number.
 inline constexpr int kUtf8CodePage = 65001;
+
+// The name by which converters of text know the page in force, such as "CP936" or "ISO-8859-2".
+std::string GetEncoding();
+
+// The name by which web pages say that they are in it, such as "gbk"; empty when browsers know none.
+std::string GetCharset();
 
 // Whether the page in force has two-byte characters whose second byte may be below 0x80.
 bool HasTrailBytes();

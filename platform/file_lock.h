@@ -1,7 +1,7 @@
 // CFileLock: keeps other processes, and other threads, out while a file is read, changed and written back.
 //
 //     CFileLock lock;
-//     if (lock.Acquire(folder + "/settings.lock", 2000))
+//     if (lock.Acquire(folder + "\\settings.lock", 2000))
 //         ... until the end of the block, or of the process, whichever comes first
 //
 // It holds among those who use the same lock file, which stays on the disk, empty.
@@ -18,7 +18,7 @@ public:
     CFileLock(const CFileLock&) = delete;
     CFileLock& operator=(const CFileLock&) = delete;
 
-    // The path is as the system spells it. False when the lock file can't be opened or made, or when somebody
+    // False when the lock file can't be opened or made, or when somebody
     // else keeps the lock for longer than that.
     bool Acquire(const CString& path, int nMilliseconds);
 

@@ -5,18 +5,23 @@
 // of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
 // up part by part without regard to case, so that paths from systems that don't still work. A directory is
 // never a file, and "*" and "?" in a path are characters like others. Nothing here throws, but for want of
-// memory.
+// memory: what can fail gives the system's error, or none.
 #pragma once
 
 #include "platform/array.h"
 #include "platform/string.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace orrelix {
+
+class CFileSystem;
+class CSystemFile;
+struct CDirectoryListing;
 
 // Whether the path names a file.
 bool FileExists(const CString& path);
@@ -38,13 +43,11 @@ enum class Spelling { AnyCase, Exact };
 
 // Copies a file's bytes, replacing `to`, which keeps its permissions if it exists. The copy is whole or
 // absent: on a failure `to` is as it was. Copying a file onto itself leaves it alone and succeeds.
-bool CopyWholeFile(const CString& from, const CString& to, Spelling spelling = Spelling::AnyCase);
+std::error_code CopyWholeFile(const CString& from, const CString& to, Spelling spelling = Spelling::AnyCase);
 
 // While one of these lives, looking for names that aren't on the disk as they are spelled lists each
 // directory once, and not again for each name. For runs over many files on one thread: what other processes
 // add meanwhile, under another case than it is looked for, may not be seen.
-struct CDirectoryListing;
-
 class CListedDirectories {
 public:
     CListedDirectories();
@@ -59,25 +62,30 @@ private:
 // A file read from its start to its end. A pipe or a device is none.
 class CInputFile {
 public:
-    CInputFile() = default;
+    CInputFile();
     ~CInputFile();
-    CInputFile(const CInputFile&) = delete;
-    CInputFile& operator=(const CInputFile&) = delete;
 
-    // False when there is no such file or it can't be read. May be called again, for another file.
-    bool Open(const CString& path);
+    // May be called again, for another file.
+    std::error_code Open(const CString& path);
 
     // The number of bytes put into the buffer, 0 at the end of the file. A read error counts as the end.
     size_t Read(char* pBuffer, size_t nSize);
 
-private:
-    void Close();
+    // How many bytes of those that the file had when it was opened are still to be read.
+    std::uintmax_t GetLeft() const { return m_nLeft; }
 
-    int m_nFile = -1;
+    // What kept reading from the end that the file had then.
+    std::error_code GetError() const { return m_Error; }
+
+private:
+    std::unique_ptr<CSystemFile> m_pFile;
+    std::uintmax_t m_nLeft = 0;
+    std::error_code m_Error;
 };
 
-// The whole content of a file; false when it can't be opened. What a read error cuts off is missing.
-bool ReadWholeFile(const CString& path, std::string& content);
+// The whole content of a file. On an error it is what could be read, or what it was if nothing could. A file
+// of more than nMost bytes isn't read (file_too_large).
+std::error_code ReadWholeFile(const CString& path, std::string& content, std::uintmax_t nMost = UINTMAX_MAX);
 
 // A file that is replaced as a whole: what is written goes to a temporary file beside it, which takes its
 // name on Commit. Until then, and for ever if anything fails or the process dies, the old file stays as it
@@ -89,30 +97,35 @@ public:
     // Deletes the temporary files that processes left in the directory when they were killed.
     static void RemoveLeftovers(const CString& directory);
 
-    COutputFile() = default;
+    COutputFile();
     ~COutputFile();
-    COutputFile(const COutputFile&) = delete;
-    COutputFile& operator=(const COutputFile&) = delete;
 
-    // False when a file can't be created there, or when the one that is there must not be written.
-    bool Open(const CString& path, Spelling spelling = Spelling::AnyCase);
+    // An error when a file can't be created there, or when the one that is there must not be written.
+    std::error_code Open(const CString& path, Spelling spelling = Spelling::AnyCase);
 
     // Appends. A failure is remembered for Commit.
     void Write(std::string_view bytes);
 
-    // Ends the writing; true when every byte is in place under the file's name. With bDurable the bytes are
-    // on the disk before the old file goes, so that not even a power cut leaves less than one of the two.
-    bool Commit(bool bDurable = true);
+    // Ends the writing; no error when every byte is in place under the file's name. With bDurable the bytes
+    // are on the disk before the old file goes, so that not even a power cut leaves less than one of the two.
+    std::error_code Commit(bool bDurable = true);
 
 private:
+    std::error_code OpenTarget();
+    std::error_code CreateTemporary();
+    void WriteAll(std::string_view bytes);
     void Flush();
     void Discard();
 
-    int m_nFile = -1;
-    bool m_bFailed = false;
+    std::unique_ptr<CSystemFile> m_pFile;
+    std::error_code m_Error; // the first one
     std::string m_Target;
     std::string m_Temporary; // empty when the target is written directly
     std::string m_Pending;
 };
+
+// Puts other calls in the place of the system's own for the whole process; null brings those back. For tests,
+// while nobody has a file open.
+void SetFileSystem(CFileSystem* pFileSystem);
 
 } // namespace orrelix

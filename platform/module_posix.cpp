@@ -2,8 +2,8 @@
 #include "platform/paths.h"
 
 #include <dlfcn.h>
+#include <filesystem>
 #include <optional>
-#include <stdlib.h>
 
 namespace orrelix {
 
@@ -18,12 +18,8 @@ Dl_info ThisModule() {
 // With slashes; empty when the system can't tell.
 std::string FindDirectory() {
     const char* pFile = ThisModule().dli_fname;
-    char* pResolved = pFile ? realpath(pFile, nullptr) : nullptr;
-    if (!pResolved)
-        return {};
-    std::string path(pResolved);
-    free(pResolved);
-    return path.erase(path.rfind('/'));
+    std::error_code unknown;
+    return std::filesystem::canonical(pFile ? pFile : "", unknown).parent_path().string();
 }
 
 // Asked for while the library is loaded: its path may be a relative one, and the host's directory may change.

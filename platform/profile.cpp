@@ -12,8 +12,8 @@ namespace orrelix {
 
 namespace {
 
-constexpr const char* kFileName = "/settings.ini";
-constexpr const char* kLockName = "/settings.lock";
+constexpr const char* kFileName = "\\settings.ini";
+constexpr const char* kLockName = "\\settings.lock";
 constexpr int kLockMilliseconds = 2000;
 
 // A file beyond this size was not written here.
@@ -92,18 +92,10 @@ std::optional<std::pair<CString, CString>> EntryOf(std::string_view line) {
 // The file's text, "" for a file that is absent or too large to be ours; nothing when it can't be read now.
 std::optional<std::string> ReadSettings(const CString& path) {
     std::string text;
-    if (!FileExists(path))
-        return text;
-    CInputFile file;
-    if (!file.Open(path))
-        return std::nullopt;
-    std::string block(size_t{1} << 16, '\0');
-    while (const size_t nRead = file.Read(block.data(), block.size())) {
-        text.append(block, 0, nRead);
-        if (text.size() > kMostBytes)
-            return "";
-    }
-    return text;
+    const std::error_code error = ReadWholeFile(path, text, kMostBytes);
+    if (error == std::errc::file_too_large || !FileExists(path))
+        return "";
+    return error ? std::nullopt : std::optional(text);
 }
 
 } // namespace
@@ -183,10 +175,10 @@ bool ChangeProfileSection(const CString& section, const std::function<void(CProf
     if (!open.IsChanged())
         return true;
     COutputFile file;
-    if (!file.Open(folder + kFileName))
+    if (file.Open(folder + kFileName))
         return false;
     file.Write(open.FileText());
-    return file.Commit();
+    return !file.Commit();
 }
 
 } // namespace orrelix

@@ -107,16 +107,6 @@ CString CString::Mid(Position nFirst, Position nCount) const {
     return CString(View().substr(Cut(nFirst, m_Text.size()), Cut(nCount, m_Text.size())));
 }
 
-CString& CString::TrimLeft() {
-    m_Text.erase(0, m_Text.find_first_not_of(kWhiteSpace));
-    return *this;
-}
-
-CString& CString::TrimRight() {
-    m_Text.erase(m_Text.find_last_not_of(kWhiteSpace) + 1);
-    return *this;
-}
-
 int CString::Replace(std::string_view from, std::string_view to) {
     if (from.empty())
         return 0;

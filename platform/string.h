@@ -39,7 +39,6 @@ public:
 
     // The byte at the position, which must lie within the text.
     char operator[](Position nIndex) const { return m_Text[static_cast<size_t>(nIndex)]; }
-    char GetAt(Position nIndex) const { return (*this)[nIndex]; }
 
     // The position of the first occurrence at or behind nStart, or -1.
     Position Find(std::string_view text, Position nStart = 0) const;
@@ -53,10 +52,6 @@ public:
     CString Right(Position nCount) const;
     CString Mid(Position nFirst) const;
     CString Mid(Position nFirst, Position nCount) const;
-
-    // Take off blanks, tabs, CR, LF, vertical tabs and form feeds at one end.
-    CString& TrimLeft();
-    CString& TrimRight();
 
     // Replaces every occurrence, case-sensitively, from left to right, not looking again at what it has put
     // in. The result is the number of replacements. An empty `from` replaces nothing.

@@ -56,13 +56,6 @@ public:
 #endif
     }
 
-    bool Lookup(std::string_view key, TValue& value) const {
-        const TValue* pValue = Find(key);
-        if (pValue)
-            value = *pValue;
-        return pValue != nullptr;
-    }
-
     // Calls visit(const CString& key, const TValue& value) for each entry, in the prescribed order.
     template <class TVisit>
     void ForEach(TVisit visit) const {

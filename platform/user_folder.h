@@ -9,7 +9,7 @@ constexpr const char* kCompanyWord = "Brindlefen";
 constexpr const char* kApplicationTitle = "Vellumark Orrelix";
 
 // The component's own folder for the settings of the user, named by company word and application title below
-// the user's configuration folder; as the system spells it, without a separator at its end. Empty when the
+// the user's configuration folder; with backslashes and none at its end. Empty when the
 // user has no configuration folder or, with bCreate, when the folder can't be made.
 CString GetUserFolder(bool bCreate);
 

@@ -1,3 +1,4 @@
+#include "platform/paths.h"
 #include "platform/user_folder.h"
 
 #include <cstdlib>
@@ -49,7 +50,7 @@ CString GetUserFolder(bool bCreate) {
     if (folder.empty())
         return {};
     folder += std::string("/") + kCompanyWord + "/" + kApplicationTitle;
-    return bCreate && !MakeFolders(folder) ? CString() : CString(folder);
+    return bCreate && !MakeFolders(folder) ? CString() : FromSystemPath(folder);
 }
 
 } // namespace orrelix

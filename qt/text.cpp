@@ -13,16 +13,6 @@ namespace {
 
 constexpr char16_t kFirstEscape = 0xDC00; // and the byte
 
-QByteArray NameOfCodePage(int nCodePage) {
-    if (nCodePage == 20866)
-        return "KOI8-R";
-    if (nCodePage == 21866)
-        return "KOI8-U";
-    if (nCodePage > 28590 && nCodePage < 28610)
-        return "ISO-8859-" + QByteArray::number(nCodePage - 28590);
-    return "cp" + QByteArray::number(nCodePage);
-}
-
 // The length of the UTF-8 character at the start of the bytes, 0 when there is none.
 qsizetype CharacterLength(QByteArrayView bytes) {
     const unsigned char nLead = static_cast<unsigned char>(bytes[0]);
@@ -68,7 +58,7 @@ QString ToQt(const CString& text) {
     const QByteArrayView bytes(text.View().data(), text.GetLength());
     if (GetCodePage() == kUtf8CodePage)
         return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : WithEscapes(bytes);
-    QStringDecoder decode(NameOfCodePage(GetCodePage()).constData());
+    QStringDecoder decode(GetEncoding().c_str());
     return decode.isValid() ? QString(decode(bytes)) : QString::fromLatin1(bytes);
 }
 
@@ -77,7 +67,7 @@ CString FromQt(const QString& text) {
     if (GetCodePage() == kUtf8CodePage) {
         bytes = WithoutEscapes(text);
     } else {
-        QStringEncoder encode(NameOfCodePage(GetCodePage()).constData());
+        QStringEncoder encode(GetEncoding().c_str());
         bytes = encode.isValid() ? QByteArray(encode(text)) : text.toLatin1();
     }
     return CString(bytes.toStdString());

@@ -164,10 +164,10 @@ TEST_F(Profile, TheFolderIsFoundAsTheConventionSays) {
         const char* m_pHome;
         const char* m_pFolder;
     };
-    for (const CCase& place :
-         {CCase{"/c", "/h", "/c/Brindlefen/Vellumark Orrelix"},
-          CCase{"", "/h", "/h/.config/Brindlefen/Vellumark Orrelix"},
-          CCase{"relative", "/h", "/h/.config/Brindlefen/Vellumark Orrelix"}, CCase{"", "relative", ""}}) {
+    for (const CCase& place : {CCase{"/c", "/h", "\\c\\Brindlefen\\Vellumark Orrelix"},
+                               CCase{"", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
+                               CCase{"relative", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
+                               CCase{"", "relative", ""}}) {
         const pid_t nProcess = Start([&] {
             setenv("XDG_CONFIG_HOME", place.m_pConfiguration, 1);
             setenv("HOME", place.m_pHome, 1);

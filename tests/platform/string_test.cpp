@@ -88,9 +88,8 @@ TEST(String, PartsAreCutToTheText) {
     EXPECT_EQ(text.Mid(99), "");
     EXPECT_EQ(text.Mid(1, 3), "bcd");
     EXPECT_EQ(text.Mid(-3, -1), "");
-    EXPECT_EQ(CString(" \t\r\n\v\fa b\v ").TrimLeft().TrimRight(), "a b");
-    EXPECT_EQ(CString(" \t ").TrimLeft(), "");
-    EXPECT_EQ(CString(" \t ").TrimRight(), "");
+    EXPECT_EQ(Trim(" \t\r\n\v\fa b\v "), "a b");
+    EXPECT_EQ(Trim(" \t "), "");
 }
 
 TEST(String, NumbersReadAsTheirLeadingDigits) {

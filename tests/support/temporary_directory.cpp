@@ -1,8 +1,10 @@
 #include "tests/support/temporary_directory.h"
 
-#include <algorithm>
+#include "platform/paths.h"
+
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <stdlib.h>
 
 namespace orrelix {
@@ -29,15 +31,15 @@ CString CTemporaryDirectory::Write(const std::string& name, std::string_view con
 }
 
 CString HostPath(const std::filesystem::path& path) {
-    std::string text = path.string();
-    std::replace(text.begin(), text.end(), '/', '\\');
-    return CString(std::move(text));
+    return FromSystemPath(path.string());
 }
 
 std::string FileContent(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file.good()) << path << " can't be read";
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
 }
 
 } // namespace orrelix

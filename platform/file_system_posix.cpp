@@ -1,0 +1,155 @@
+#include "platform/file_system.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace orrelix {
+
+namespace {
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+std::error_code ErrorUnless(bool bSucceeded) {
+    return bSucceeded ? std::error_code() : LastError();
+}
+
+class CPosixFile final : public CSystemFile {
+public:
+    explicit CPosixFile(int nFile) : m_nFile(nFile) {}
+    ~CPosixFile() override { CPosixFile::Close(); }
+    CPosixFile(const CPosixFile&) = delete;
+    CPosixFile& operator=(const CPosixFile&) = delete;
+
+    std::error_code Read(char* pBuffer, size_t nSize, size_t& nRead) override {
+        return Move([&] { return read(m_nFile, pBuffer, nSize); }, nRead);
+    }
+    std::error_code Write(std::string_view bytes, size_t& nWritten) override {
+        return Move([&] { return write(m_nFile, bytes.data(), bytes.size()); }, nWritten);
+    }
+    std::error_code Sync() override { return ErrorUnless(fsync(m_nFile) == 0); }
+    std::error_code Close() override {
+        const int nFile = std::exchange(m_nFile, -1);
+        return ErrorUnless(nFile < 0 || close(nFile) == 0);
+    }
+
+private:
+    template <class TCall>
+    static std::error_code Move(TCall call, size_t& nMoved) {
+        ssize_t nResult = call();
+        while (nResult < 0 && errno == EINTR)
+            nResult = call();
+        nMoved = nResult > 0 ? static_cast<size_t>(nResult) : 0;
+        return ErrorUnless(nResult >= 0);
+    }
+
+    int m_nFile;
+};
+
+// The descriptor stays the file's.
+int Open(const std::string& path, int nFlags, mode_t nMode, CSystemFilePtr& pFile) {
+    const int nFile = open(path.c_str(), nFlags | O_CLOEXEC, nMode);
+    if (nFile >= 0)
+        pFile = std::make_unique<CPosixFile>(nFile);
+    return nFile;
+}
+
+class CPosixFiles final : public CFileSystem {
+public:
+    std::error_code GetKind(const std::string& path, FileKind& kind) override {
+        struct stat status {};
+        if (stat(path.c_str(), &status) != 0)
+            return LastError();
+        kind = S_ISREG(status.st_mode)   ? FileKind::Plain
+               : S_ISDIR(status.st_mode) ? FileKind::Directory
+                                         : FileKind::Other;
+        return {};
+    }
+
+    void List(const std::string& directory, const std::function<void(const char*)>& visit) override {
+        DIR* pDirectory = opendir(directory.empty() ? "." : directory.c_str());
+        if (!pDirectory)
+            return;
+        while (const dirent* pEntry = readdir(pDirectory))
+            visit(pEntry->d_name);
+        closedir(pDirectory);
+    }
+
+    std::error_code OpenToRead(const std::string& path, CSystemFilePtr& pFile,
+                               std::uintmax_t& nSize) override {
+        struct stat status {};
+        const int nFile = Open(path, O_RDONLY | O_NONBLOCK, 0, pFile); // a pipe could keep one waiting
+        if (nFile < 0 || fstat(nFile, &status) != 0)
+            return LastError();
+        nSize = static_cast<std::uintmax_t>(status.st_size);
+        if (S_ISREG(status.st_mode))
+            return {};
+        return std::make_error_code(S_ISDIR(status.st_mode) ? std::errc::is_a_directory
+                                                            : std::errc::operation_not_supported);
+    }
+
+    std::error_code OpenToWrite(const std::string& path, CSystemFilePtr& pFile) override {
+        const int nFile = Open(path, O_WRONLY | O_NONBLOCK, 0, pFile);
+        return ErrorUnless(nFile >= 0 && fcntl(nFile, F_SETFL, 0) == 0); // only the opening mustn't wait
+    }
+
+    std::error_code CreateFor(const std::string& replaced, const std::string& path,
+                              CSystemFilePtr& pFile) override {
+        struct stat old {};
+        const bool bReplaces = stat(replaced.c_str(), &old) == 0;
+        if (bReplaces ? access(replaced.c_str(), W_OK) != 0 : errno != ENOENT)
+            return LastError();
+        const int nFile =
+            Open(path, O_WRONLY | O_CREAT | O_EXCL, bReplaces ? old.st_mode & 0777 : 0666, pFile);
+        if (nFile < 0)
+            return LastError();
+        flock(nFile, LOCK_EX | LOCK_NB);
+        if (!bReplaces)
+            return {};
+        // Only a privileged process may give a file away; the permissions come after, which this resets.
+        [[maybe_unused]] const int nGiven = fchown(nFile, old.st_uid, old.st_gid);
+        if (fchmod(nFile, old.st_mode & 07777) == 0)
+            return {};
+        const std::error_code error = LastError();
+        unlink(path.c_str());
+        return error;
+    }
+
+    std::error_code Rename(const std::string& from, const std::string& to) override {
+        return ErrorUnless(rename(from.c_str(), to.c_str()) == 0);
+    }
+
+    void Remove(const std::string& path) override { unlink(path.c_str()); }
+
+    void RemoveAbandoned(const std::string& path, int nProcess) override {
+        if (kill(nProcess, 0) == 0 || errno != ESRCH)
+            return;
+        // The number may be that of a process on another machine, or in a container: the lock tells.
+        CSystemFilePtr pFile;
+        const int nFile = Open(path, O_RDONLY | O_NONBLOCK, 0, pFile);
+        if (nFile >= 0 && flock(nFile, LOCK_EX | LOCK_NB) == 0)
+            unlink(path.c_str());
+    }
+};
+
+CPosixFiles g_files;
+
+} // namespace
+
+CFileSystem& GetSystemFiles() {
+    return g_files;
+}
+
+int GetProcessNumber() {
+    return getpid();
+}
+
+} // namespace orrelix

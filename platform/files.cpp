@@ -1,0 +1,386 @@
+#include "platform/files.h"
+
+#include "platform/file_system.h"
+#include "platform/paths.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace orrelix {
+
+namespace fs = std::filesystem;
+
+// The names of directories by their lower-case form; of several, the first in byte order.
+struct CDirectoryListing {
+    using CNames = std::unordered_map<std::string, std::string>;
+
+    // Directories by their path with "/" at its end.
+    std::unordered_map<std::string, CNames> m_Directories;
+
+    std::optional<std::string> Find(const std::string& directory, const std::string& lowerName);
+    // Tells of a file that may be new.
+    void Note(const std::string& path);
+};
+
+namespace {
+
+constexpr size_t kBlock = 256 * 1024;
+constexpr std::string_view kTemporaryPrefix = ".orrelix-";
+
+CFileSystem* g_pFileSystem = nullptr; // null: the system's own
+
+CFileSystem& System() {
+    return g_pFileSystem ? *g_pFileSystem : GetSystemFiles();
+}
+
+FileKind KindOf(const std::string& path) {
+    FileKind kind = FileKind::None;
+    return System().GetKind(path, kind) ? FileKind::None : kind;
+}
+
+std::string LowerCase(std::string_view name) {
+    return std::string(CString(name).MakeLower().View());
+}
+
+void AddName(CDirectoryListing::CNames& names, std::string_view name) {
+    const auto [entry, bNew] = names.try_emplace(LowerCase(name), name);
+    if (!bNew && name < entry->second)
+        entry->second = name;
+}
+
+// What lives for the thread is a mere pointer: a destructor at the thread's end would keep the library loaded.
+thread_local CDirectoryListing* t_pListing = nullptr;
+
+// The directory's path ends in "/", or is empty. Of several names, the first in byte order.
+std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
+    const std::string wanted = LowerCase(name);
+    if (t_pListing)
+        return t_pListing->Find(directory, wanted);
+    std::optional<std::string> found;
+    System().List(directory, [&](const char* pName) {
+        if (LowerCase(pName) == wanted && (!found || pName < *found))
+            found = pName;
+    });
+    return found;
+}
+
+// A path as the disk spells it; as it was given, with the system's error, when no spelling of it exists.
+struct COnDisk {
+    std::string m_Path;
+    FileKind m_Kind = FileKind::None;
+    std::error_code m_Error;
+};
+
+// The same path in the spelling of names that exist; empty when one of them does in none.
+std::string SpellWithoutCase(const std::string& path) {
+    std::string found;
+    for (size_t nStart = 0; nStart < path.size();) {
+        const size_t nEnd = std::min(path.find('/', nStart), path.size());
+        const std::string name = path.substr(nStart, nEnd - nStart);
+        if (name.empty() || KindOf(found + name) != FileKind::None) {
+            found += name;
+        } else if (const auto otherName = NameWithoutCase(found, name)) {
+            found += *otherName;
+        } else {
+            return {};
+        }
+        if (nEnd < path.size())
+            found += '/';
+        nStart = nEnd + 1;
+    }
+    return found;
+}
+
+COnDisk FindOnDisk(const CString& path) {
+    COnDisk found{SystemSpelling(path), FileKind::None,
+                  std::make_error_code(std::errc::no_such_file_or_directory)};
+    if (found.m_Path.empty() || found.m_Path.find('\0') != std::string::npos)
+        return found;
+    found.m_Error = System().GetKind(found.m_Path, found.m_Kind);
+    if (!found.m_Error)
+        return found;
+    const std::string other = SpellWithoutCase(found.m_Path);
+    const FileKind kind = KindOf(other);
+    return kind != FileKind::None ? COnDisk{other, kind, {}} : found;
+}
+
+// What a chain of symbolic links leads to, be it there or not.
+std::string BehindLinks(std::string path) {
+    std::error_code none;
+    for (int nLink = 0; nLink < 40; ++nLink) {
+        const fs::path link = fs::read_symlink(path, none);
+        if (none)
+            break;
+        path = (fs::path(path).parent_path() / link).string();
+    }
+    return path;
+}
+
+// Where a file of this path is to be written: its directory as the disk spells it, and no symbolic link,
+// which replacing would break.
+std::string TargetOf(const CString& path, Spelling spelling) {
+    std::string target = SystemSpelling(path);
+    const size_t nName = target.rfind('/') + 1;
+    const COnDisk found = spelling == Spelling::AnyCase ? FindOnDisk(path) : COnDisk();
+    target = found.m_Kind != FileKind::None
+                 ? found.m_Path
+                 : FindOnDisk(target.substr(0, nName)).m_Path + target.substr(nName);
+    return BehindLinks(target);
+}
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+    // On a mismatch the last "*" takes one more character; earlier ones never need to.
+    size_t nName = 0, nPattern = 0, nStar = std::string_view::npos, nStarName = 0;
+    while (nName < name.size()) {
+        if (nPattern < pattern.size() && pattern[nPattern] == '*') {
+            nStar = nPattern++;
+            nStarName = nName;
+        } else if (nPattern < pattern.size() &&
+                   (pattern[nPattern] == '?' || pattern[nPattern] == name[nName])) {
+            ++nPattern;
+            ++nName;
+        } else if (nStar != std::string_view::npos) {
+            nPattern = nStar + 1;
+            nName = ++nStarName;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', nPattern) == std::string_view::npos;
+}
+
+// The process by which a temporary file of this name was made; 0 when it is no such name.
+int MakerOf(const char* pName) {
+    int nProcess = 0, nEnd = 0;
+    const std::string format = std::string(kTemporaryPrefix) + "%d-%*u%n";
+    const bool bOurs = sscanf(pName, format.c_str(), &nProcess, &nEnd) == 1 && nEnd > 0 && !pName[nEnd];
+    return bOurs ? std::max(nProcess, 0) : 0;
+}
+
+// Hands a file's bytes on, up to its end or an error.
+template <class TTake>
+std::error_code ReadBlocks(CInputFile& file, TTake take) {
+    std::string block(kBlock, '\0');
+    while (const size_t nRead = file.Read(block.data(), block.size()))
+        take(std::string_view(block.data(), nRead));
+    return file.GetError();
+}
+
+} // namespace
+
+void SetFileSystem(CFileSystem* pFileSystem) {
+    g_pFileSystem = pFileSystem;
+}
+
+bool FileExists(const CString& path) {
+    return FindOnDisk(path).m_Kind == FileKind::Plain;
+}
+
+bool DirectoryExists(const CString& path) {
+    return FindOnDisk(path).m_Kind == FileKind::Directory;
+}
+
+CString FileNameOnDisk(const CString& path) {
+    const COnDisk found = FindOnDisk(path);
+    return found.m_Kind == FileKind::Plain ? CString(found.m_Path.substr(found.m_Path.rfind('/') + 1))
+                                           : CString();
+}
+
+CStringArray FindFiles(const CString& directory, const CString& pattern) {
+    CStringArray names;
+    const COnDisk found = FindOnDisk(directory);
+    if (found.m_Kind != FileKind::Directory)
+        return names;
+    const CString lowerPattern = CString(pattern).MakeLower();
+    System().List(found.m_Path, [&](const char* pName) {
+        if (MatchesPattern(CString(pName).MakeLower(), lowerPattern) &&
+            KindOf(found.m_Path + "/" + pName) == FileKind::Plain)
+            names.Add(pName);
+    });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::optional<std::string> CDirectoryListing::Find(const std::string& directory,
+                                                   const std::string& lowerName) {
+    const auto [listed, bNew] = m_Directories.try_emplace(directory);
+    CNames& names = listed->second;
+    if (bNew)
+        System().List(directory, [&names](const char* pName) { AddName(names, pName); });
+    const auto found = names.find(lowerName);
+    return found == names.end() ? std::nullopt : std::optional(found->second);
+}
+
+void CDirectoryListing::Note(const std::string& path) {
+    const size_t nName = path.rfind('/') + 1;
+    if (const auto listed = m_Directories.find(path.substr(0, nName)); listed != m_Directories.end())
+        AddName(listed->second, std::string_view(path).substr(nName));
+}
+
+CListedDirectories::CListedDirectories()
+    : m_pListing(t_pListing ? nullptr : std::make_unique<CDirectoryListing>()) {
+    if (m_pListing)
+        t_pListing = m_pListing.get();
+}
+
+CListedDirectories::~CListedDirectories() {
+    if (m_pListing)
+        t_pListing = nullptr;
+}
+
+std::error_code CopyWholeFile(const CString& from, const CString& to, Spelling spelling) {
+    CInputFile input;
+    if (const std::error_code error = input.Open(from))
+        return error;
+    std::error_code different;
+    if (fs::equivalent(FindOnDisk(from).m_Path, TargetOf(to, spelling), different))
+        return {};
+    COutputFile output;
+    if (const std::error_code error = output.Open(to, spelling))
+        return error;
+    if (const std::error_code error = ReadBlocks(input, [&](std::string_view block) { output.Write(block); }))
+        return error;
+    return output.Commit(false);
+}
+
+CInputFile::CInputFile() = default;
+CInputFile::~CInputFile() = default;
+
+std::error_code CInputFile::Open(const CString& path) {
+    m_pFile.reset();
+    const COnDisk found = FindOnDisk(path);
+    m_Error = found.m_Error ? found.m_Error : System().OpenToRead(found.m_Path, m_pFile, m_nLeft);
+    return m_Error;
+}
+
+size_t CInputFile::Read(char* pBuffer, size_t nSize) {
+    size_t nRead = 0;
+    if (!m_pFile || m_Error)
+        return 0;
+    m_Error = m_pFile->Read(pBuffer, nSize, nRead);
+    // A file that ends early has lost bytes to an error of its disk, or to somebody else.
+    if (nRead == 0 && m_nLeft > 0 && !m_Error)
+        m_Error = std::make_error_code(std::errc::io_error);
+    m_nLeft -= std::min<std::uintmax_t>(m_nLeft, nRead);
+    return nRead;
+}
+
+std::error_code ReadWholeFile(const CString& path, std::string& content, std::uintmax_t nMost) {
+    CInputFile file;
+    if (const std::error_code error = file.Open(path))
+        return error;
+    if (file.GetLeft() > nMost)
+        return std::make_error_code(std::errc::file_too_large);
+    content.clear();
+    return ReadBlocks(file, [&](std::string_view block) { content += block; });
+}
+
+void COutputFile::RemoveLeftovers(const CString& directory) {
+    const COnDisk found = FindOnDisk(directory);
+    if (found.m_Kind != FileKind::Directory)
+        return;
+    std::vector<std::pair<std::string, int>> leftovers;
+    System().List(found.m_Path, [&](const char* pName) {
+        const std::string path = found.m_Path + "/" + pName;
+        if (const int nMaker = MakerOf(pName); nMaker > 0 && KindOf(path) == FileKind::Plain)
+            leftovers.emplace_back(path, nMaker);
+    });
+    for (const auto& [path, nMaker] : leftovers)
+        System().RemoveAbandoned(path, nMaker);
+}
+
+COutputFile::COutputFile() = default;
+
+COutputFile::~COutputFile() {
+    Discard();
+}
+
+void COutputFile::Discard() {
+    m_pFile.reset();
+    if (!m_Temporary.empty())
+        System().Remove(m_Temporary);
+    m_Temporary.clear();
+}
+
+std::error_code COutputFile::Open(const CString& path, Spelling spelling) {
+    Discard();
+    m_Pending.clear();
+    m_Target = TargetOf(path, spelling);
+    m_Error = OpenTarget();
+    return m_Error;
+}
+
+std::error_code COutputFile::OpenTarget() {
+    if (m_Target.empty() || m_Target.find('\0') != std::string::npos)
+        return std::make_error_code(std::errc::invalid_argument);
+    const FileKind kind = KindOf(m_Target);
+    return kind == FileKind::Plain || kind == FileKind::None ? CreateTemporary()
+                                                             : System().OpenToWrite(m_Target, m_pFile);
+}
+
+// Under a name that no other writer uses, in the directory of the target.
+std::error_code COutputFile::CreateTemporary() {
+    static std::atomic<unsigned> s_nCounter = 0;
+    const std::string prefix = m_Target.substr(0, m_Target.rfind('/') + 1).append(kTemporaryPrefix) +
+                               std::to_string(GetProcessNumber()) + "-";
+    std::error_code error = std::make_error_code(std::errc::file_exists);
+    for (int nTry = 0; nTry < 100 && error == std::errc::file_exists; ++nTry) {
+        m_Temporary = prefix + std::to_string(++s_nCounter);
+        error = System().CreateFor(m_Target, m_Temporary, m_pFile);
+    }
+    if (error)
+        m_Temporary.clear();
+    return error;
+}
+
+void COutputFile::Write(std::string_view bytes) {
+    if (m_Pending.size() + bytes.size() > kBlock)
+        Flush();
+    if (bytes.size() > kBlock)
+        WriteAll(bytes);
+    else
+        m_Pending += bytes;
+}
+
+void COutputFile::WriteAll(std::string_view bytes) {
+    while (!bytes.empty() && m_pFile && !m_Error) {
+        size_t nWritten = 0;
+        m_Error = m_pFile->Write(bytes, nWritten);
+        if (nWritten == 0 && !m_Error)
+            m_Error = std::make_error_code(std::errc::io_error);
+        bytes.remove_prefix(nWritten);
+    }
+}
+
+void COutputFile::Flush() {
+    WriteAll(m_Pending);
+    m_Pending.clear();
+}
+
+std::error_code COutputFile::Commit(bool bDurable) {
+    if (!m_pFile)
+        return m_Error ? m_Error : std::make_error_code(std::errc::bad_file_descriptor);
+    Flush();
+    if (!m_Error && bDurable && !m_Temporary.empty())
+        m_Error = m_pFile->Sync();
+    if (const std::error_code closing = m_pFile->Close(); !m_Error)
+        m_Error = closing;
+    if (!m_Error && !m_Temporary.empty()) {
+        m_Error = System().Rename(m_Temporary, m_Target);
+        if (!m_Error) {
+            m_Temporary.clear();
+            if (t_pListing)
+                t_pListing->Note(m_Target);
+        }
+    }
+    Discard();
+    return m_Error;
+}
+
+} // namespace orrelix
