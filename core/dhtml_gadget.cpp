@@ -19,7 +19,7 @@ void CDhtmlGadget::WriteFields(CVignelConfig& config) {
 }
 
 CString ScriptInclude(const CString& directory, const char* pFileName) {
-    return R"(<script type="text/javascript" src=")" + directory + pFileName + "\"></script>\r\n";
+    return Fill("<script type=\"text/javascript\" src=\"$$\"></script>\r\n", directory, pFileName);
 }
 
 CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory) {
@@ -38,7 +38,7 @@ CString LinkTarget(const CString& target) {
 }
 
 CString WholeBorder(const CString& width, const CString& style, const CString& color) {
-    return width + " " + style + " #" + color;
+    return Fill("$ $ #$", width, style, color);
 }
 
 void CopyScript(const char* pFileName, const char* pPageName, const CString& directory) {

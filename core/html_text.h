@@ -1,73 +1,130 @@
 // Generated text, written so that one reads in the code what stands in the page:
 //
 //     return MakeHtml([&](CHtmlText& html) {
-//         html.Line(R"(<td width=")", m_TextWidth, R"(" height=")", m_TextHeight, R"(">)");
+//         html.Line(R"(<td width="$" height="$">)", m_TextWidth, m_TextHeight);
 //         html.Lines(R"(
 //     <script>
-//     start()
+//     start($)
 //     </script>
-//     )");
+//     )", m_Speed);
 //     });
 //
+// Each "$" is a hole for a field: a text, or a whole number in decimal. Nothing is escaped, and a "$" within a
+// field is no hole.
+//
 // The function that writes a text is called twice: once to measure it, once to write it into a text of
-// exactly that size, so that every byte is copied once. Nothing is escaped. Lines end in CR LF.
+// exactly that size, so that every byte is copied once.
 #pragma once
 
-#include "platform/string.h"
-
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <charconv>
 #include <concepts>
+#include <cstdint>
 #include <iterator>
 #include <string>
 #include <string_view>
 
 namespace orrelix {
 
-class CHtmlText {
+// A literal cut at its holes while compiling, which fails where the fields are more or fewer. A line break in
+// front, where a raw literal begins, is left out. A "$" of the text itself is one more field.
+template <size_t nHoles>
+class CHtmlPattern {
 public:
-    // Texts and whole numbers joined, the numbers in decimal.
-    template <class... TPiece>
-    void Text(const TPiece&... pieces) {
-        (Add(pieces), ...);
-    }
-
-    // The same, and the end of the line.
-    template <class... TPiece>
-    void Line(const TPiece&... pieces) {
-        Text(pieces..., std::string_view("\r\n"));
-    }
-
-    // Lines without fields, as a raw literal whose first line break is not part of it.
-    void Lines(std::string_view block) {
-        block.remove_prefix(block.starts_with('\n') ? 1 : 0);
-        while (!block.empty()) {
-            const size_t nEnd = block.find('\n');
-            Line(block.substr(0, nEnd));
-            block.remove_prefix(nEnd == std::string_view::npos ? block.size() : nEnd + 1);
+    consteval CHtmlPattern(const char* pText) {
+        std::string_view text = pText;
+        if (std::count(text.begin(), text.end(), '$') != nHoles)
+            throw "the text has to have a hole for each field";
+        text.remove_prefix(text.starts_with('\n') ? 1 : 0);
+        for (CPiece& piece : m_Pieces) {
+            const std::string_view part = text.substr(0, text.find('$'));
+            piece = {part.data(), static_cast<std::uint32_t>(part.size()),
+                     static_cast<std::uint32_t>(std::count(part.begin(), part.end(), '\n'))};
+            m_nLength += piece.m_nLength;
+            m_nBreaks += piece.m_nBreaks;
+            text.remove_prefix(std::min(part.size() + 1, text.size()));
         }
     }
 
 private:
-    template <class TWrite>
-    friend CString MakeHtml(TWrite write);
+    friend class CHtmlText;
 
-    void Add(std::string_view text) {
-        if (m_pWrite)
-            m_pWrite = std::copy(text.begin(), text.end(), m_pWrite);
-        else
-            m_nLength += text.size();
-    }
+    // Small, as patterns are made anew where they are used.
+    struct CPiece {
+        const char* m_pText;
+        std::uint32_t m_nLength;
+        std::uint32_t m_nBreaks; // line breaks in it
 
-    template <std::integral TNumber>
-    void Add(TNumber nNumber) {
-        if (m_pWrite) {
-            m_pWrite = std::to_chars(m_pWrite, m_pEnd, nNumber).ptr;
+        std::string_view View() const { return {m_pText, m_nLength}; }
+    };
+
+    std::array<CPiece, nHoles + 1> m_Pieces{};
+    size_t m_nLength = 0; // of all pieces
+    size_t m_nBreaks = 0;
+};
+
+class CHtmlText {
+public:
+    // The text as it is, line breaks too.
+    template <class... TField>
+    void Text(const CHtmlPattern<sizeof...(TField)>& pattern, const TField&... fields) {
+        if (!m_pWrite) {
+            m_nLength += (pattern.m_nLength + ... + LengthOf(fields));
             return;
         }
+        auto pPiece = pattern.m_Pieces.begin();
+        Write(pPiece->View());
+        ((Write(fields), Write((++pPiece)->View())), ...);
+    }
+
+    // The text and the end of its line, CR LF.
+    template <class... TField>
+    void Line(const CHtmlPattern<sizeof...(TField)>& pattern, const TField&... fields) {
+        Text(pattern, fields...);
+        Text("\r\n");
+    }
+
+    // A text whose own line breaks, not those of the fields, become CR LF.
+    template <class... TField>
+    void Lines(const CHtmlPattern<sizeof...(TField)>& pattern, const TField&... fields) {
+        if (!m_pWrite) {
+            m_nLength += ((pattern.m_nLength + pattern.m_nBreaks) + ... + LengthOf(fields));
+            return;
+        }
+        auto pPiece = pattern.m_Pieces.begin();
+        WriteLines(pPiece->View(), pPiece->m_nBreaks);
+        ((Write(fields), ++pPiece, WriteLines(pPiece->View(), pPiece->m_nBreaks)), ...);
+    }
+
+private:
+    template <class TWrite>
+    friend std::string MakeHtml(TWrite write);
+
+    static size_t LengthOf(std::string_view text) { return text.size(); }
+
+    template <std::integral TNumber>
+    static size_t LengthOf(TNumber nNumber) {
         char digits[24];
-        m_nLength += static_cast<size_t>(std::to_chars(digits, std::end(digits), nNumber).ptr - digits);
+        return static_cast<size_t>(std::to_chars(digits, std::end(digits), nNumber).ptr - digits);
+    }
+
+    void Write(std::string_view text) { m_pWrite = std::copy(text.begin(), text.end(), m_pWrite); }
+
+    template <std::integral TNumber>
+    void Write(TNumber nNumber) {
+        m_pWrite = std::to_chars(m_pWrite, m_pEnd, nNumber).ptr;
+    }
+
+    void WriteLines(std::string_view lines, std::uint32_t nBreaks) {
+        for (; nBreaks > 0; --nBreaks) {
+            const size_t nEnd = lines.find('\n');
+            Write(lines.substr(0, nEnd));
+            Write("\r\n");
+            lines.remove_prefix(nEnd + 1);
+        }
+        Write(lines);
     }
 
     size_t m_nLength = 0;
@@ -77,7 +134,7 @@ private:
 
 // The text that write(CHtmlText&) writes. It has to write the same both times.
 template <class TWrite>
-CString MakeHtml(TWrite write) {
+std::string MakeHtml(TWrite write) {
     CHtmlText html;
     write(html);
     std::string text(html.m_nLength, '\0');
@@ -85,7 +142,13 @@ CString MakeHtml(TWrite write) {
     html.m_pEnd = html.m_pWrite + text.size();
     write(html);
     assert(html.m_pWrite == html.m_pEnd);
-    return CString(std::move(text));
+    return text;
+}
+
+// A pattern with its fields as a text, line breaks as they are.
+template <class... TField>
+std::string Fill(const CHtmlPattern<sizeof...(TField)>& pattern, const TField&... fields) {
+    return MakeHtml([&](CHtmlText& html) { html.Text(pattern, fields...); });
 }
 
 } // namespace orrelix

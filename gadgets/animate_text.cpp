@@ -14,29 +14,34 @@ void CAnimateText::ExchangeParameters(CParameterExchange& exchange) {
 }
 
 void CAnimateText::WriteScript(CHtmlText& html) const {
-    html.Line(R"(<script language="JavaScript">)");
-    html.Line("var brndfnanimatetextinterval=", m_PopUpInterval, ";");
-    html.Line("var brndfnanimatelayinterval=", m_CirculateInterval, ";");
-    html.Line(R"(var brndfnanimatebgcolor="#)", m_FadeColor, R"(";)");
-    html.Line(R"(var brndfnanimatecolor="#)", m_TextColor, R"(";)");
-    html.Line("var brndfnscrollsize=", m_ScrollSize, ";");
-    html.Line("var brndfnanimatemessage= new Array();");
-    for (CStringArray::Index i = 0; i < m_Messages.GetSize(); ++i) {
-        html.Line("brndfnanimatemessage[", i, R"(]='<p style="font-family:)", m_FontFamily, R"(;">)",
-                  m_Messages[i], "</p>';");
-    }
+    html.Lines(R"(
+<script language="JavaScript">
+var brndfnanimatetextinterval=$;
+var brndfnanimatelayinterval=$;
+var brndfnanimatebgcolor="#$";
+var brndfnanimatecolor="#$";
+var brndfnscrollsize=$;
+var brndfnanimatemessage= new Array();
+)",
+               m_PopUpInterval, m_CirculateInterval, m_FadeColor, m_TextColor, m_ScrollSize);
+    for (CStringArray::Index i = 0; i < m_Messages.GetSize(); ++i)
+        html.Line(R"(brndfnanimatemessage[$]='<p style="font-family:$;">$</p>';)", i, m_FontFamily,
+                  m_Messages[i]);
     html.Line("</Script>");
 }
 
 void CAnimateText::WriteBox(CHtmlText& html) const {
-    html.Line(R"(<div style="background-color:#)", m_BackColor, "; HEIGHT: ", m_Height, "px; LEFT: ", m_Left,
-              "px; POSITION: relative; TOP: ", m_Top, "px; WIDTH: ", m_Width, R"(px">)");
-    html.Line(R"(<DIV id="brndfntextanim" style="font-weight:)", m_FontWeight, "; font-style:", m_FontStyle,
-              "; font-size:", m_FontSize, "px; POSITION: relative; TOP: ", m_ScrollStart,
-              R"html(;" onclick="breakf()">)html");
-    html.Line(R"(<LAYER name="brndfntextanim"></LAYER>)");
-    html.Line("</div>");
-    html.Line("</div>");
+    html.Line(R"(<div style="background-color:#$; HEIGHT: $px; LEFT: $px; POSITION: relative; )"
+              R"(TOP: $px; WIDTH: $px">)",
+              m_BackColor, m_Height, m_Left, m_Top, m_Width);
+    html.Line(R"(<DIV id="brndfntextanim" style="font-weight:$; font-style:$; font-size:$px; )"
+              R"html(POSITION: relative; TOP: $;" onclick="breakf()">)html",
+              m_FontWeight, m_FontStyle, m_FontSize, m_ScrollStart);
+    html.Lines(R"(
+<LAYER name="brndfntextanim"></LAYER>
+</div>
+</div>
+)");
 }
 
 CString CAnimateText::GetHTMLBody(CVignelConfig& config, short mode, short) {
@@ -46,7 +51,7 @@ CString CAnimateText::GetHTMLBody(CVignelConfig& config, short mode, short) {
             if (!m_Messages.IsEmpty())
                 WriteScript(html);
             // Behind the variables, which the file reads as it runs.
-            html.Text(ScriptInclude(directory, "animate.js"));
+            html.Text("$", ScriptInclude(directory, "animate.js"));
         }
         WriteBox(html);
     });

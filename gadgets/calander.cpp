@@ -24,36 +24,40 @@ void CCalander::ExchangeParameters(CParameterExchange& exchange) {
 }
 
 void CCalander::WriteCalendar(CHtmlText& html) const {
-    html.Line(R"(<table align=")", m_CalanderAlign, R"(">)");
-    html.Line("<tr>");
-    html.Line("<td>");
-    html.Line(R"(<script language="JavaScript">)");
-    html.Line(R"(brndfncalenstyletext="style='font-size: )", m_GreetFontSize,
-              "pt; font-family: ", m_GreetFontFamily, "; color: #", m_GreetColor,
-              "; font-weight: ", m_GreetFontWeight, "; font-style: ", m_GreetFontStyle,
-              R"(; text-decoration: none'; ")");
-    html.Line(R"(brndfncalenstyletextbutton="style='font-size: )", m_TimeFontSize,
-              "pt; font-family: ", m_TimeFontFamily, "; color: #", m_TimeColor,
-              "; font-weight: ", m_TimeFontWeight, "; font-style: ", m_TimeFontStyle,
-              "; text-decoration: none; height: ", m_BoxHeight, "px; width: ", m_BoxWidth, R"(px'; ")");
-    html.Line(R"(brndfntitlestyle="style='font-size: )", m_TitleFontSize,
-              "pt; font-family: ", m_TitleFontFamily, "; color: #", m_TitleColor,
-              "; font-weight: ", m_TitleFontWeight, "; font-style: ", m_TitleFontStyle,
-              "; text-decoration: none; text-align:", m_TitleAlign, R"(;'; ")");
-    html.Line(R"(brndfncalenstylecalander="style='border: )", m_CalanderBorder,
-              "; font-size: ", m_DateFontSize, "pt; font-family: ", m_DateFontFamily, "; color: #",
-              m_DateColor, "; font-weight: ", m_DateFontWeight, "; font-style: ", m_DateFontStyle,
-              "; text-decoration: none; text-align:", m_DateAlign, R"(;'; ")");
-    html.Line(R"(brndfncalenstyletextborder="style='border:)", m_CellBorder, R"(;'")");
-    html.Line(R"html(brndfncalengreeting(")html", m_GreetText, R"html(");)html");
-    html.Line(R"html(document.write("<br>");)html");
-    html.Line(R"html(brndfncalencalendar("#)html", m_BackgroundColor, R"(","#)", m_CurrentDayColor,
-              R"html(");)html");
-    html.Line(R"html(document.write("");)html");
-    html.Line("</script>");
-    html.Line("</td>");
-    html.Line("</tr>");
-    html.Line("</table>");
+    html.Lines(R"(
+<table align="$">
+<tr>
+<td>
+<script language="JavaScript">
+)",
+               m_CalanderAlign);
+    html.Line(R"(brndfncalenstyletext="style='font-size: $pt; font-family: $; color: #$; font-weight: $; )"
+              R"(font-style: $; text-decoration: none'; ")",
+              m_GreetFontSize, m_GreetFontFamily, m_GreetColor, m_GreetFontWeight, m_GreetFontStyle);
+    html.Line(R"(brndfncalenstyletextbutton="style='font-size: $pt; font-family: $; color: #$; )"
+              R"(font-weight: $; font-style: $; text-decoration: none; height: $px; width: $px'; ")",
+              m_TimeFontSize, m_TimeFontFamily, m_TimeColor, m_TimeFontWeight, m_TimeFontStyle, m_BoxHeight,
+              m_BoxWidth);
+    html.Line(R"(brndfntitlestyle="style='font-size: $pt; font-family: $; color: #$; font-weight: $; )"
+              R"(font-style: $; text-decoration: none; text-align:$;'; ")",
+              m_TitleFontSize, m_TitleFontFamily, m_TitleColor, m_TitleFontWeight, m_TitleFontStyle,
+              m_TitleAlign);
+    html.Line(R"(brndfncalenstylecalander="style='border: $; font-size: $pt; font-family: $; color: #$; )"
+              R"(font-weight: $; font-style: $; text-decoration: none; text-align:$;'; ")",
+              m_CalanderBorder, m_DateFontSize, m_DateFontFamily, m_DateColor, m_DateFontWeight,
+              m_DateFontStyle, m_DateAlign);
+    html.Lines(R"html(
+brndfncalenstyletextborder="style='border:$;'"
+brndfncalengreeting("$");
+document.write("<br>");
+brndfncalencalendar("#$","#$");
+document.write("");
+</script>
+</td>
+</tr>
+</table>
+)html",
+               m_CellBorder, m_GreetText, m_BackgroundColor, m_CurrentDayColor);
 }
 
 CString CCalander::GetHTMLBody(CVignelConfig& config, short mode, short position) {

@@ -37,76 +37,87 @@ bool CCoolLink::ReadParameters(CVignelConfig& config, const CString& directory) 
 }
 
 void CCoolLink::WriteScript(CHtmlText& html, const CString& prefix) const {
-    html.Line(R"(<script type="text/javascript">)");
-    html.Line("var ", prefix, "ie4 = (document.all != null);");
-    html.Line("var ", prefix, R"(overOptionCss = "background:#)", m_OverBackColor, "; color:#",
-              m_OverTextColor, "; font-family:", m_OverFont, ";font-style: ", m_OverFontStyle,
-              "; font-weight:", m_OverFontWeight, "; font-size:", m_OverFontSize, "; border:", m_OverBorder,
-              "; padding-left:", m_OverPaddingLeft, "; padding-right:", m_OverPaddingRight,
-              "; padding-bottom:", m_OverPaddingBottom, "; padding-top:", m_OverPaddingTop, R"(";)");
-    html.Line("var ", prefix, R"(sizedBorderCss = ")", m_SelectBorder, R"(";)");
-    html.Line("function ", prefix, "initSelectBoxes() {");
-    html.Line("\tvar spans = document.all.tags(\"SPAN\");");
-    html.Line("\tvar selects = new Array();");
-    html.Line("\tvar index = 0;");
-    html.Line("   for (var i=0; i<spans.length; i++) {");
-    html.Line("\t\tif (spans[i].className!=\"\")");
-    html.Line("           {");
-    html.Line("\t\t\t\tif (spans[i].className.indexOf(\"select\"))");
-    html.Line("\t\t\t\t\t selects[index++] = spans[i];}");
-    html.Line("}");
-    html.Line("for (var j=0; j<selects.length; j++){");
-    html.Line("\tLinkinitSelectBox(selects[j],", prefix, "overOptionCss,", prefix, "sizedBorderCss);}");
-    html.Line("}");
-    html.Line("if (", prefix, "ie4) {");
-    html.Line("\twindow.onload = ", prefix, "initSelectBoxes;");
-    html.Line("}");
-    html.Line("</script>");
+    html.Lines(R"(
+<script type="text/javascript">
+var $ie4 = (document.all != null);
+)",
+               prefix);
+    html.Line(R"(var $overOptionCss = "background:#$; color:#$; font-family:$;font-style: $; font-weight:$; )"
+              R"(font-size:$; border:$; padding-left:$; padding-right:$; padding-bottom:$; padding-top:$";)",
+              prefix, m_OverBackColor, m_OverTextColor, m_OverFont, m_OverFontStyle, m_OverFontWeight,
+              m_OverFontSize, m_OverBorder, m_OverPaddingLeft, m_OverPaddingRight, m_OverPaddingBottom,
+              m_OverPaddingTop);
+    html.Lines(R"(
+var $sizedBorderCss = "$";
+function $initSelectBoxes() {
+	var spans = document.all.tags("SPAN");
+	var selects = new Array();
+	var index = 0;
+   for (var i=0; i<spans.length; i++) {
+		if (spans[i].className!="")
+           {
+				if (spans[i].className.indexOf("select"))
+					 selects[index++] = spans[i];}
+}
+for (var j=0; j<selects.length; j++){
+	LinkinitSelectBox(selects[j],$overOptionCss,$sizedBorderCss);}
+}
+if ($ie4) {
+	window.onload = $initSelectBoxes;
+}
+</script>
+)",
+               prefix, m_SelectBorder, prefix, prefix, prefix, prefix, prefix);
 }
 
 void CCoolLink::WriteStyle(CHtmlText& html, const CString& prefix) const {
     html.Line(R"(<style type="text/css">)");
     html.Line("<!--");
-    html.Line(".", prefix, "select {border: ", m_SelectBorder, "; width: ", m_SelectWidth,
-              "; font-family:", m_SelectFont, ";font-style: ", m_SelectFontStyle,
-              "; font-weight:", m_SelectFontWeight, "; font-size:", m_SelectFontSize, "; cursor:", m_Cursor,
-              ";}");
-    html.Line(".", prefix, "option {width: 100%; background: #", m_OptionBackColor, "; color:#",
-              m_OptionTextColor, "; border: ", m_OptionBorder, "; padding-left:", m_OptionPaddingLeft,
-              "; padding-right:", m_OptionPaddingRight, "; padding-bottom:", m_OptionPaddingBottom,
-              "; padding-top:", m_OptionPaddingTop, ";}");
+    html.Line(".$select {border: $; width: $; font-family:$;font-style: $; font-weight:$; font-size:$; "
+              "cursor:$;}",
+              prefix, m_SelectBorder, m_SelectWidth, m_SelectFont, m_SelectFontStyle, m_SelectFontWeight,
+              m_SelectFontSize, m_Cursor);
+    html.Line(".$option {width: 100%; background: #$; color:#$; border: $; padding-left:$; padding-right:$; "
+              "padding-bottom:$; padding-top:$;}",
+              prefix, m_OptionBackColor, m_OptionTextColor, m_OptionBorder, m_OptionPaddingLeft,
+              m_OptionPaddingRight, m_OptionPaddingBottom, m_OptionPaddingTop);
     html.Line("-->");
     html.Line("</style>");
 }
 
 void CCoolLink::WriteBox(CHtmlText& html, const CString& prefix, const CString& imageDirectory) const {
-    const CString target = LinkTarget(m_Target);
-    html.Line(R"(<table style="margin: )", m_Margin, "; position: relative; top: ", m_Top, "; left:", m_Left,
-              R"(;">)");
-    html.Line("<tr><td>");
-    html.Line(R"(<span class=")", prefix, R"(select" id=")", prefix, R"(" size=")", m_Texts.GetSize(),
-              R"(" onchange="window.open(this.options[this.selectedIndex].value, ')", target,
-              R"html(')">)html");
+    html.Lines(R"(
+<table style="margin: $; position: relative; top: $; left:$;">
+<tr><td>
+)",
+               m_Margin, m_Top, m_Left);
+    html.Line(R"(<span class="$select" id="$" size="$" )"
+              R"html(onchange="window.open(this.options[this.selectedIndex].value, '$')">)html",
+              prefix, prefix, m_Texts.GetSize(), LinkTarget(m_Target));
+    html.Lines(R"html(
+<table cellspacing="0" cellpadding="0" onclick="toggleDropDown(this.parentElement)">
+<tr>
+<td>&nbsp;</td>
+<td align="CENTER" valign="MIDDLE" class="coolButton" >
+<span style="position: relative; left: 0; top: -2; width: 100%;"></span></td>
+</tr>
+</table>
+)html");
     html.Line(
-        R"html(<table cellspacing="0" cellpadding="0" onclick="toggleDropDown(this.parentElement)">)html");
-    html.Line("<tr>");
-    html.Line("<td>&nbsp;</td>");
-    html.Line(R"(<td align="CENTER" valign="MIDDLE" class="coolButton" >)");
-    html.Line(R"(<span style="position: relative; left: 0; top: -2; width: 100%;"></span></td>)");
-    html.Line("</tr>");
-    html.Line("</table>");
-    html.Line(R"(<div onclick="LinkoptionClick()", prefix,
-              R"html(overOptionCss)" onmouseover="LinkoptionOver()html", prefix,
-              R"html(overOptionCss)" onmouseout="LinkoptionOut()html", prefix, R"html(overOptionCss)">)html");
+        R"html(<div onclick="LinkoptionClick($overOptionCss)" onmouseover="LinkoptionOver($overOptionCss)" )html"
+        R"html(onmouseout="LinkoptionOut($overOptionCss)">)html",
+        prefix, prefix, prefix);
     for (CStringArray::Index i = 0; i < m_Texts.GetSize(); ++i) {
-        html.Text(R"(<div class=")", prefix, R"(option" value=")", m_Links[i], R"(" nowrap>)");
+        html.Text(R"(<div class="$option" value="$" nowrap>)", prefix, m_Links[i]);
         WriteItemImage(html, imageDirectory, m_Images[i], m_ImageSizes[i]);
-        html.Line(m_Texts[i], "</div>");
+        html.Line("$</div>", m_Texts[i]);
     }
-    html.Line("</div>");
-    html.Line("</span>");
-    html.Line("</td></tr>");
-    html.Line("</table>");
+    html.Lines(R"(
+</div>
+</span>
+</td></tr>
+</table>
+)");
 }
 
 CString CCoolLink::GetHTMLBody(CVignelConfig& config, short mode, short position) {

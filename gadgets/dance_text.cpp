@@ -13,45 +13,47 @@ void CDanceText::ExchangeParameters(CParameterExchange& exchange) {
 }
 
 void CDanceText::WriteLink(CHtmlText& html, const CString& title) const {
-    html.Line(R"(<a style="text-decoration:)", m_TextDecoration, "; font-family:", m_FontFamily,
-              "; font-style:", m_FontStyle, "; font-weight:", m_FontWeight, "; font-size:", m_FontSize,
-              R"(;" name="brndfntext)", title, R"(" href=")", m_LinkUrl, R"(" target=")",
-              LinkTarget(m_LinkTarget), R"(">)", m_LinkText, "</a>");
+    html.Line(R"(<a style="text-decoration:$; font-family:$; font-style:$; font-weight:$; font-size:$;" )"
+              R"(name="brndfntext$" href="$" target="$">$</a>)",
+              m_TextDecoration, m_FontFamily, m_FontStyle, m_FontWeight, m_FontSize, title, m_LinkUrl,
+              LinkTarget(m_LinkTarget), m_LinkText);
 }
 
 void CDanceText::WriteColors(CHtmlText& html, const CString& title) const {
-    html.Line("function ", title, "initArray() ");
+    html.Line("function $initArray() ", title);
     html.Line("{");
-    html.Line("\tfor (var i = 0; i < ", title, "initArray.arguments.length; i++) ");
-    html.Line("\t\t{");
-    html.Line("\t\t\tthis[i] = ", title, "initArray.arguments[i];");
-    html.Line("\t\t}");
-    html.Line("\tthis.length = ", title, "initArray.arguments.length;");
-    html.Line("}");
-    html.Line("var ", title, "colors = new ", title, "initArray(");
+    html.Line("\tfor (var i = 0; i < $initArray.arguments.length; i++) ", title);
+    html.Lines(R"(
+		{
+			this[i] = $initArray.arguments[i];
+		}
+	this.length = $initArray.arguments.length;
+}
+var $colors = new $initArray(
+)",
+               title, title, title, title);
     for (CStringArray::Index i = 0; i < m_Colors.GetSize(); ++i)
-        html.Line(R"("#)", m_Colors[i], i + 1 < m_Colors.GetSize() ? R"(",)" : R"(")");
+        html.Line(R"("#$"$)", m_Colors[i], i + 1 < m_Colors.GetSize() ? "," : "");
     html.Line(");");
 }
 
 void CDanceText::WriteDance(CHtmlText& html, const CString& title) const {
-    html.Line(title, "delay = ", m_Delay, ";");
-    html.Line(title, "link = 0;");
-    html.Line("function ", title, "linkDance() ");
+    html.Line("$delay = $;", title, m_Delay);
+    html.Line("$link = 0;", title);
+    html.Line("function $linkDance() ", title);
     html.Line("{");
-    html.Line("\t", title, "link = (", title, "link+1)%", title, "colors.length;");
-    html.Line(R"(   document.links("brndfntext)", title, R"(").style.color = )", title, "colors[", title,
-              "link];");
-    html.Line("\tsetTimeout(\"", title, "linkDance()\",", title, "delay*1000);");
+    html.Line("\t$link = ($link+1)%$colors.length;", title, title, title);
+    html.Line(R"(   document.links("brndfntext$").style.color = $colors[$link];)", title, title, title);
+    html.Line("\tsetTimeout(\"$linkDance()\",$delay*1000);", title, title);
     html.Line("}");
-    html.Line(title, "linkDance();");
+    html.Line("$linkDance();", title);
 }
 
 CString CDanceText::GetHTMLBody(CVignelConfig& config, short, short) {
     // In front of every name of the script, so that links of different titles don't meet.
     const CString title = config.GetTitle();
     return MakeHtml([&](CHtmlText& html) {
-        html.Line();
+        html.Line("");
         WriteLink(html, title);
         html.Line(R"(<SCRIPT LANGUAGE="JavaScript">)");
         html.Line("<!--//");

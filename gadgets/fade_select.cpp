@@ -40,58 +40,58 @@ void CFadeSelect::ExchangeParameters(CParameterExchange& exchange) {
 }
 
 void CFadeSelect::WriteStyle(CHtmlText& html, const CString& prefix) const {
-    html.Line(R"(<style type="text/css">)");
-    html.Line("<!--");
-    html.Line(".", prefix, "select {cursor:", m_Cursor, ";}");
-    html.Line(".", prefix, "selected {border: ", m_SelectBorder, "; background: #", m_SelectBackColor,
-              "; padding: ", m_SelectPadding, "; }");
-    html.Line(".", prefix, "selectTable {height: 100%; width: 100%;border: ", m_TableBorder,
-              "; background: #", m_TableBackColor, ";}");
-    html.Line(".", prefix, "option {padding-left: ", m_OptionPaddingLeft,
-              "; padding-right: ", m_OptionPaddingRight, "; padding-Top: ", m_OptionPaddingTop,
-              "; padding-bottom: ", m_OptionPaddingBottom, ";width: 100%;}");
-    html.Line(".", prefix, "button {width: ", m_ButtonWidth, "px; height: ", m_ButtonHeight,
-              "; font-family: webdings; padding: ", m_ButtonPadding, ";font-size: ", m_ButtonFontSize,
-              "px; border:", m_ButtonBorder, ";}");
-    html.Line(".", prefix,
-              "dropDown {position: absolute; visibility: hidden; width: 100%;border: ", m_DropBorder,
-              "; padding: 0;background: #", m_DropBackColor, ";}-->");
+    html.Lines(R"(
+<style type="text/css">
+<!--
+.$select {cursor:$;}
+.$selected {border: $; background: #$; padding: $; }
+.$selectTable {height: 100%; width: 100%;border: $; background: #$;}
+)",
+               prefix, m_Cursor, prefix, m_SelectBorder, m_SelectBackColor, m_SelectPadding, prefix,
+               m_TableBorder, m_TableBackColor);
+    html.Line(".$option {padding-left: $; padding-right: $; padding-Top: $; padding-bottom: $;width: 100%;}",
+              prefix, m_OptionPaddingLeft, m_OptionPaddingRight, m_OptionPaddingTop, m_OptionPaddingBottom);
+    html.Line(".$button {width: $px; height: $; font-family: webdings; padding: $;font-size: $px; border:$;}",
+              prefix, m_ButtonWidth, m_ButtonHeight, m_ButtonPadding, m_ButtonFontSize, m_ButtonBorder);
+    html.Line(".$dropDown {position: absolute; visibility: hidden; width: 100%;border: $; "
+              "padding: 0;background: #$;}-->",
+              prefix, m_DropBorder, m_DropBackColor);
     html.Line("</style>");
 }
 
 void CFadeSelect::WriteItem(CHtmlText& html, CStringArray::Index i, const CString& imageDirectory) const {
     const CFadeSelectFont& font = m_ItemFonts[i];
-    html.Text("topArray[", i, "] = new Option('<nobr ");
+    html.Text("topArray[$] = new Option('<nobr ", i);
     if (!m_ToolTips[i].IsEmpty())
-        html.Text(R"(title=")", m_ToolTips[i], R"(")");
+        html.Text(R"(title="$")", m_ToolTips[i]);
     html.Text(">");
     WriteItemImage(html, imageDirectory, m_Images[i], m_ImageSizes[i]);
-    html.Line(R"(<span style="font-family: )", font.m_Family, "; font-style: ", font.m_Style,
-              "; font-weight: ", font.m_Weight, "; font-size: ", font.m_Size, "; color: ", font.m_Color,
-              R"(;">)", m_Texts[i], R"(</span></nobr>', ")", m_Links[i], R"html(");)html");
+    html.Line(R"(<span style="font-family: $; font-style: $; font-weight: $; font-size: $; color: $;">)"
+              R"html($</span></nobr>', "$");)html",
+              font.m_Family, font.m_Style, font.m_Weight, font.m_Size, font.m_Color, m_Texts[i], m_Links[i]);
 }
 
 void CFadeSelect::WriteScript(CHtmlText& html, const CString& prefix, const CString& imageDirectory) const {
     html.Line("<script>");
-    html.Line("var ", prefix, "ie4 = (document.all != null);");
-    html.Line("var ", prefix, R"(overOptionCss = "background: #)", m_OverBackColor, "; color:#",
-              m_OverTextColor, "; font-family:", m_OverFont, "; font-style:", m_OverFontStyle,
-              "; font-weight:", m_OverFontWeight, "; font-size:", m_OverFontSize, R"(;")");
-    html.Line("var ", prefix, R"(sizedBorderCss =")", m_OverBorder, R"(")");
-    html.Line("var ", prefix, R"(brndfndoborder =")", m_ButtonBorderWidth, " inset #", m_ButtonBorderColor,
-              R"(")");
-    html.Line("var ", prefix, R"(brndfnupborder =")", m_ButtonBorderWidth, " outset #", m_ButtonBorderColor,
-              R"(")");
-    html.Line("var ", prefix, "fadesteps = ", m_FadeSteps, ";");
-    html.Line("var ", prefix, "fademsec = ", m_FadeMsec, ";");
+    html.Line("var $ie4 = (document.all != null);", prefix);
+    html.Line(R"(var $overOptionCss = "background: #$; color:#$; font-family:$; font-style:$; )"
+              R"(font-weight:$; font-size:$;")",
+              prefix, m_OverBackColor, m_OverTextColor, m_OverFont, m_OverFontStyle, m_OverFontWeight,
+              m_OverFontSize);
+    html.Line(R"(var $sizedBorderCss ="$")", prefix, m_OverBorder);
+    html.Line(R"(var $brndfndoborder ="$ inset #$")", prefix, m_ButtonBorderWidth, m_ButtonBorderColor);
+    html.Line(R"(var $brndfnupborder ="$ outset #$")", prefix, m_ButtonBorderWidth, m_ButtonBorderColor);
+    html.Line("var $fadesteps = $;", prefix, m_FadeSteps);
+    html.Line("var $fademsec = $;", prefix, m_FadeMsec);
     html.Line("topArray = new Array();");
     for (CStringArray::Index i = 0; i < m_Texts.GetSize(); ++i)
         WriteItem(html, i, imageDirectory);
-    html.Line(R"(writeSelectBox(topArray, ")", prefix,
-              R"(", 1, "window.open(this.options[this.selectedIndex].value, ')", LinkTarget(m_Target),
-              R"html(')", "margin-left: )html", m_BoxMargin, "; width: ", m_BoxWidth,
-              "; height:", m_BoxHeight, R"(;",)", prefix, "overOptionCss,", prefix, "sizedBorderCss,", prefix,
-              "brndfndoborder,", prefix, "brndfnupborder,", prefix, "fadesteps,", prefix, "fademsec);");
+    html.Text(R"html(writeSelectBox(topArray, "$", 1, )html"
+              R"html("window.open(this.options[this.selectedIndex].value, '$')", )html"
+              R"("margin-left: $; width: $; height:$;",)",
+              prefix, LinkTarget(m_Target), m_BoxMargin, m_BoxWidth, m_BoxHeight);
+    html.Line("$overOptionCss,$sizedBorderCss,$brndfndoborder,$brndfnupborder,$fadesteps,$fademsec);", prefix,
+              prefix, prefix, prefix, prefix, prefix);
     html.Line("</Script>");
 }
 
@@ -103,14 +103,19 @@ CString CFadeSelect::GetBox(CVignelConfig& config, short mode) {
     const CString prefix = config.GetTitle().MakeLower();
     const CString imageDirectory = ImageDirectoryOfMode(config, mode, m_Images, m_ImagePath);
     return MakeHtml([&](CHtmlText& html) {
-        html.Line("<table style='position:relative;left:", m_Left, "px;top:", m_Top, "px;'>");
-        html.Line("<tr><td>");
-        html.Line(R"(<div align="left">)");
+        html.Lines(R"(
+<table style='position:relative;left:$px;top:$px;'>
+<tr><td>
+<div align="left">
+)",
+                   m_Left, m_Top);
         WriteStyle(html, prefix);
         WriteScript(html, prefix, imageDirectory);
-        html.Line("</div>");
-        html.Line("</td></tr>");
-        html.Line("</table>");
+        html.Lines(R"(
+</div>
+</td></tr>
+</table>
+)");
     });
 }
 

@@ -44,8 +44,8 @@ void WriteItemImage(CHtmlText& html, const CString& directory, const CString& pa
                     const CCoolLinkImage& size) {
     if (path.IsEmpty())
         return;
-    html.Text(R"(<img src=")", directory, FileNameOfPath(path), R"(" width=)", size.m_Width,
-              " height=", size.m_Height, " border=", size.m_Border, R"( align="absmiddle">)");
+    html.Text(R"(<img src="$$" width=$ height=$ border=$ align="absmiddle">)", directory,
+              FileNameOfPath(path), size.m_Width, size.m_Height, size.m_Border);
 }
 
 bool RegisterImage(CVignelConfig& config, const CString& path, const CString& webPath) {

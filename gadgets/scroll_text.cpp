@@ -23,31 +23,35 @@ void CScrollText::ExchangeParameters(CParameterExchange& exchange) {
 // The rule of the link under the mouse alone has a blank in front of "cursor".
 void CScrollText::WriteStyle(CHtmlText& html) const {
     html.Line(R"(<style type="text/css">)");
-    html.Line(R"(.brnover {font-family:")", m_OverFont, R"("; font-size: )", m_OverFontSize,
-              "; font-style:", m_OverFontStyle, "; font-weight: ", m_OverFontWeight, "; color:#", m_OverColor,
-              "; text-decoration:", m_OverDecoration, "; cursor: ", m_OverCursor, "; }");
-    html.Line(R"(.brnout {font-family:")", m_OutFont, R"("; font-size: )", m_OutFontSize,
-              "; font-style:", m_OutFontStyle, "; font-weight: ", m_OutFontWeight, "; color:#", m_OutColor,
-              "; text-decoration:", m_OutDecoration, ";cursor: ", m_OutCursor, "; }");
-    html.Line(R"(.brnclick {font-family:")", m_ClickFont, R"("; font-size: )", m_ClickFontSize,
-              "; font-style:", m_ClickFontStyle, "; font-weight: ", m_ClickFontWeight, "; color:#",
-              m_ClickColor, "; text-decoration:", m_ClickDecoration, ";cursor: ", m_ClickCursor, "; }");
+    html.Line(R"(.brnover {font-family:"$"; font-size: $; font-style:$; font-weight: $; color:#$; )"
+              "text-decoration:$; cursor: $; }",
+              m_OverFont, m_OverFontSize, m_OverFontStyle, m_OverFontWeight, m_OverColor, m_OverDecoration,
+              m_OverCursor);
+    html.Line(R"(.brnout {font-family:"$"; font-size: $; font-style:$; font-weight: $; color:#$; )"
+              "text-decoration:$;cursor: $; }",
+              m_OutFont, m_OutFontSize, m_OutFontStyle, m_OutFontWeight, m_OutColor, m_OutDecoration,
+              m_OutCursor);
+    html.Line(R"(.brnclick {font-family:"$"; font-size: $; font-style:$; font-weight: $; color:#$; )"
+              "text-decoration:$;cursor: $; }",
+              m_ClickFont, m_ClickFontSize, m_ClickFontStyle, m_ClickFontWeight, m_ClickColor,
+              m_ClickDecoration, m_ClickCursor);
     html.Line("</style>");
 }
 
 void CScrollText::WriteVariables(CHtmlText& html) const {
-    html.Line("var brndfnscrollerwidth=", m_ScrollWidth);
-    html.Line("var brndfnscrollerheight=", m_ScrollHeight);
-    html.Line("var brndfnscrollerbgcolor='#", m_LayerColor, "'");
-    html.Line("var brndfnspeednormal=", m_LayerSpeed);
-    html.Line("var brndfnspeedmore=", m_DelayTime);
-    html.Line("var brndfnmessages=new Array()");
-    for (CStringArray::Index i = 0; i < m_Texts.GetSize(); ++i) {
-        html.Line("brndfnmessages[", i, R"(]="<a href=')", m_Links[i],
-                  R"(' class=brnout onmouseover=\"this.className ='brnover'\")",
-                  R"( onmouseout=\"this.className ='brnout'\" onclick=\"this.className ='brnclick'\">)",
-                  m_Texts[i], R"(</a>")");
-    }
+    html.Lines(R"(
+var brndfnscrollerwidth=$
+var brndfnscrollerheight=$
+var brndfnscrollerbgcolor='#$'
+var brndfnspeednormal=$
+var brndfnspeedmore=$
+var brndfnmessages=new Array()
+)",
+               m_ScrollWidth, m_ScrollHeight, m_LayerColor, m_LayerSpeed, m_DelayTime);
+    for (CStringArray::Index i = 0; i < m_Texts.GetSize(); ++i)
+        html.Line(R"(brndfnmessages[$]="<a href='$' class=brnout onmouseover=\"this.className ='brnover'\")"
+                  R"( onmouseout=\"this.className ='brnout'\" onclick=\"this.className ='brnclick'\">$</a>")",
+                  i, m_Links[i], m_Texts[i]);
     html.Lines(R"(
 if (brndfnmessages.length>1)
 brndfni=2
@@ -59,13 +63,12 @@ window.onload=startscroll;
 
 namespace {
 
-// The box twice, for browsers with document.layers and for those with document.all. The first line of the
-// first layer ends in a blank.
+// The box twice, for browsers with document.layers and for those with document.all. The hole is for the blank
+// in which a line ends.
 constexpr char kLayers[] = R"html(
 <ilayer id="brndfnscrollmain" width=&{brndfnscrollerwidth}; height=&{brndfnscrollerheight}; bgcolor=&{brndfnscrollerbgcolor};>
-<layer id="first" left=0 top=1 width=&{brndfnscrollerwidth};>)html"
-                           " \n"
-                           R"html(<script language="JavaScript1.2">
+<layer id="first" left=0 top=1 width=&{brndfnscrollerwidth};>$
+<script language="JavaScript1.2">
 if (document.layers)
 document.write(brndfnmessages[0])
 </script>
@@ -77,9 +80,6 @@ document.write(brndfnmessages[1])
 </script>
 </layer>
 </ilayer>
-)html";
-
-constexpr char kSpan[] = R"html(
 <script language="JavaScript1.2">
 if (document.all){
 document.writeln('<span id="brndfnscrollmain2" style="position:relative;width:'+brndfnscrollerwidth+';height:'+brndfnscrollerheight+';overflow:hiden;background-color:'+brndfnscrollerbgcolor+'">')
@@ -106,16 +106,15 @@ CString CScrollText::GetHTMLBody(CVignelConfig& config, short mode, short positi
         return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "scrolltext.js");
     GrowTo(m_Texts.GetSize(), m_Links);
     return MakeHtml([&](CHtmlText& html) {
-        html.Line(R"(<table width=")", m_TableWidth, R"(" align=")", m_TableAlign, R"(" style="border:)",
-                  m_BorderWidth, " ", m_BorderStyle, " #", m_BorderColor, R"(;">)");
+        html.Line(R"(<table width="$" align="$" style="border:$ $ #$;">)", m_TableWidth, m_TableAlign,
+                  m_BorderWidth, m_BorderStyle, m_BorderColor);
         WriteStyle(html);
         html.Line("<tr>");
         html.Line("<td>");
         html.Line(R"(<script language="JavaScript1.2">)");
         WriteVariables(html);
         html.Line("</script>");
-        html.Lines(kLayers);
-        html.Lines(kSpan);
+        html.Lines(kLayers, " ");
         html.Line("</td>");
         html.Line("</tr>");
         html.Line("</table>");

@@ -21,16 +21,16 @@ void CTextShow::WriteParameters(CVignelConfig& config) {
 }
 
 void CTextShow::WriteTitleCell(CHtmlText& html) const {
-    html.Line(R"(<td width=")", m_TitleWidth, R"(" height=")", m_TitleHeight, R"(" style="color:)",
-              m_TitleColor, "; font-weight: ", m_TitleFontWeight, "; font-family: ", m_TitleFontFamily,
-              "; font-style: ", m_TitleFontStyle, "; font-size: ", m_TitleFontSize, R"(;">)", m_TitleText,
-              "</td>");
+    html.Line(R"(<td width="$" height="$" style="color:$; font-weight: $; font-family: $; )"
+              R"(font-style: $; font-size: $;">$</td>)",
+              m_TitleWidth, m_TitleHeight, m_TitleColor, m_TitleFontWeight, m_TitleFontFamily,
+              m_TitleFontStyle, m_TitleFontSize, m_TitleText);
 }
 
 // The script takes the text from the page, where visitors without scripts read it, and types it back.
 void CTextShow::WriteTextCell(CHtmlText& html) const {
-    html.Line(R"(<td width=")", m_TextWidth, R"(" height=")", m_TextHeight, R"(">)");
     html.Lines(R"html(
+<td width="$" height="$">
 <script type="text/javascript1.2">
 var it=0
 var divname
@@ -51,23 +51,22 @@ function typeit(){
 	document.all(divname).insertAdjacentText("beforeEnd",mytext.charAt(it))
 	if (it<mytext.length-1){
 			it++
-)html");
-    html.Line("\t\t\tsetTimeout(\"typeit()\",", m_Speed, ")}");
-    html.Lines(R"(
+			setTimeout("typeit()",$)}
 	else
 		return
 }
 </script>
-)");
-    html.Line("\t", R"(<span id="typing" style="color:)", m_TextColor, "; font-family: ", m_TextFontFamily,
-              "; font-weight:", m_TextFontWeight, "; font-size:", m_TextFontSize,
-              "; font-style:", m_TextFontStyle, R"(;">)", m_Text, "</span></td>");
+)html",
+               m_TextWidth, m_TextHeight, m_Speed);
+    html.Line("\t"
+              R"(<span id="typing" style="color:$; font-family: $; font-weight:$; font-size:$; )"
+              R"(font-style:$;">$</span></td>)",
+              m_TextColor, m_TextFontFamily, m_TextFontWeight, m_TextFontSize, m_TextFontStyle, m_Text);
 }
 
 CString CTextShow::GetHTMLBody(CVignelConfig&, short, short) {
     return MakeHtml([&](CHtmlText& html) {
-        html.Line(R"(<table width=")", m_TableWidth, R"(" border=")", m_TableBorder, R"(" height=")",
-                  m_TableHeight, R"(">)");
+        html.Line(R"(<table width="$" border="$" height="$">)", m_TableWidth, m_TableBorder, m_TableHeight);
         html.Line("<tr>");
         WriteTitleCell(html);
         WriteTextCell(html);

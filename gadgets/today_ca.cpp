@@ -10,18 +10,17 @@ constexpr CStringArray::Index kSunday = 6;
 constexpr int kFullRows = 5;
 
 void WriteTitleCell(CHtmlText& html, const CTodayCaStyle& style, const CString& title) {
-    html.Line(R"(<th bgcolor="#)", style.m_BoxColor, R"(" style="height:)", style.m_Height,
-              "; width:", style.m_Width, "; color:#", style.m_TextColor, ";font-family:", style.m_FontFamily,
-              ";font-weight:", style.m_FontWeight, ";font-size:", style.m_FontSize,
-              ";font-style:", style.m_FontStyle, R"(;">)", title, "</th>");
+    html.Line(R"(<th bgcolor="#$" style="height:$; width:$; color:#$;font-family:$;font-weight:$;)"
+              R"(font-size:$;font-style:$;">$</th>)",
+              style.m_BoxColor, style.m_Height, style.m_Width, style.m_TextColor, style.m_FontFamily,
+              style.m_FontWeight, style.m_FontSize, style.m_FontStyle, title);
 }
 
 void WriteDayCell(CHtmlText& html, const CTodayCaStyle& style, const CString& boxColor) {
-    html.Line(R"(<td  bgcolor="#)", style.m_BoxColor,
-              R"("><input readonly type=text style="background-color:#)", boxColor,
-              "; height:", style.m_Height, "; width:", style.m_Width, "; color:#", style.m_TextColor,
-              ";font-family:", style.m_FontFamily, ";font-weight:", style.m_FontWeight,
-              ";font-size:", style.m_FontSize, ";font-style:", style.m_FontStyle, R"(;"></td>)");
+    html.Line(R"(<td  bgcolor="#$"><input readonly type=text style="background-color:#$; height:$; width:$; )"
+              R"(color:#$;font-family:$;font-weight:$;font-size:$;font-style:$;"></td>)",
+              style.m_BoxColor, boxColor, style.m_Height, style.m_Width, style.m_TextColor,
+              style.m_FontFamily, style.m_FontWeight, style.m_FontSize, style.m_FontStyle);
 }
 
 } // namespace
@@ -66,36 +65,19 @@ void CTodayCa::ExchangeParameters(CParameterExchange& exchange) {
 #undef STYLE
 
 void CTodayCa::WriteButtonCell(CHtmlText& html, const CString& caption, const char* pCall) const {
-    html.Line(R"(<td style="background-color:#)", m_ButtonAreaColor,
-              R"(;" cellpadding=0 cellspacing=0><input type=button style="background-color:#)", m_ButtonColor,
-              "; color: #", m_ButtonTextColor, "; height:", m_ButtonHeight, "; width:", m_ButtonWidth,
-              "; font-family:", m_ButtonFontFamily, "; font-style:", m_ButtonFontStyle,
-              "; font-weight:", m_ButtonFontWeight, "; font-size:", m_ButtonFontSize, R"(;" value=")",
-              caption, R"(" onClick=")", pCall, R"("></td>)");
+    html.Line(R"(<td style="background-color:#$;" cellpadding=0 cellspacing=0><input type=button )"
+              R"(style="background-color:#$; color: #$; height:$; width:$; font-family:$; font-style:$; )"
+              R"(font-weight:$; font-size:$;" value="$" onClick="$"></td>)",
+              m_ButtonAreaColor, m_ButtonColor, m_ButtonTextColor, m_ButtonHeight, m_ButtonWidth,
+              m_ButtonFontFamily, m_ButtonFontStyle, m_ButtonFontWeight, m_ButtonFontSize, caption, pCall);
 }
 
-// The year's colour stands behind its sizes, the month's in front of them.
-void CTodayCa::WriteYearCell(CHtmlText& html) const {
-    BeginInputCell(html);
-    html.Text("; height:", m_YearBoxHeight, "; width:", m_YearBoxWidth, "; color: #", m_InputTextColor);
-    EndInputCell(html, "1993");
-}
-
-void CTodayCa::WriteMonthCell(CHtmlText& html) const {
-    BeginInputCell(html);
-    html.Text("; color: #", m_InputTextColor, "; height:", m_MonthBoxHeight, "; width:", m_MonthBoxWidth);
-    EndInputCell(html, "January");
-}
-
-void CTodayCa::BeginInputCell(CHtmlText& html) const {
-    html.Text("<th cellpadding=0 cellspacing=0 bgcolor=#", m_InputAreaColor, " colspan=", m_InputAreaSize,
-              R"( align=center><input readonly style="background-color:#)", m_InputBoxColor);
-}
-
-void CTodayCa::EndInputCell(CHtmlText& html, const char* pText) const {
-    html.Line(";font-family:", m_InputFontFamily, "; font-style:", m_InputFontStyle,
-              "; font-weight:", m_InputFontWeight, "; font-size:", m_InputFontSize, R"(;" type=text value=")",
-              pText, R"("></th>)");
+void CTodayCa::WriteInputCell(CHtmlText& html, const std::string& sizesAndColor, const char* pText) const {
+    html.Line(R"(<th cellpadding=0 cellspacing=0 bgcolor=#$ colspan=$ align=center><input readonly )"
+              R"(style="background-color:#$; $;font-family:$; font-style:$; font-weight:$; font-size:$;" )"
+              R"(type=text value="$"></th>)",
+              m_InputAreaColor, m_InputAreaSize, m_InputBoxColor, sizesAndColor, m_InputFontFamily,
+              m_InputFontStyle, m_InputFontWeight, m_InputFontSize, pText);
 }
 
 void CTodayCa::WriteTitleRow(CHtmlText& html) const {
@@ -124,12 +106,11 @@ void CTodayCa::WriteLastRow(CHtmlText& html) const {
     html.Line("<tr>");
     WriteDayCell(html, m_SunCell, m_SundayBoxColor);
     WriteDayCell(html, m_DayCell, m_WeekDayBoxColor);
-    html.Line(R"(<td  bgcolor="#)", m_TodayAreaColor, R"(" colspan=)", m_TodayAreaSize,
-              R"(><input readonly type=text style="background-color:#)", m_TodayBoxColor,
-              "; font-family:", m_TodayFontFamily, "; font-size:", m_TodayFontSize,
-              "; font-weight:", m_TodayFontWeight, "; font-style:", m_TodayFontStyle,
-              "; height:", m_TodayBoxHeight, "; width:", m_TodayBoxWidth, "; color:#", m_TodayTextColor,
-              R"(;"></td>)");
+    html.Line(
+        R"(<td  bgcolor="#$" colspan=$><input readonly type=text style="background-color:#$; )"
+        R"(font-family:$; font-size:$; font-weight:$; font-style:$; height:$; width:$; color:#$;"></td>)",
+        m_TodayAreaColor, m_TodayAreaSize, m_TodayBoxColor, m_TodayFontFamily, m_TodayFontSize,
+        m_TodayFontWeight, m_TodayFontStyle, m_TodayBoxHeight, m_TodayBoxWidth, m_TodayTextColor);
     html.Line("</tr>");
 }
 
@@ -142,40 +123,48 @@ myDate = new Date();
 var Month = parseInt(myDate.getMonth());
 document.brndfncalform.elements[1].value =myDate.getFullYear();
 document.brndfncalform.elements[4].value = PadSpaces(Months[Month]);
-)html");
-    html.Line(
-        R"(document.brndfncalform.elements[43].value = ")", m_TodayText,
-        R"html( " +Months[Month].substring(0,3) + " " +myDate.getDate() + ", " + (myDate.getFullYear());)html");
-    html.Lines(R"html(
+document.brndfncalform.elements[43].value = "$ " +Months[Month].substring(0,3) + " " +myDate.getDate() + ", " + (myDate.getFullYear());
 FillCalendar();
 -->
 </script>
-)html");
+)html",
+               m_TodayText);
 }
 
 void CTodayCa::WriteCalendar(CHtmlText& html) const {
-    html.Line("<", m_CalanderAlign, ">");
-    html.Line(R"(<table border=1 bgcolor="#000000" cellpadding=1 cellspacing=1>)");
-    html.Line(R"(<table style=")", m_Border, R"(" cellpadding=0 cellspacing=0>)");
-    html.Line(R"(<form name="brndfncalform">)");
-    html.Line("<tr>");
+    html.Lines(R"(
+<$>
+<table border=1 bgcolor="#000000" cellpadding=1 cellspacing=1>
+<table style="$" cellpadding=0 cellspacing=0>
+<form name="brndfncalform">
+<tr>
+)",
+               m_CalanderAlign, m_Border);
+    // The year's colour stands behind its sizes, the month's in front of them.
     WriteButtonCell(html, m_YearLeftText, "IncDecYear(-1)");
-    WriteYearCell(html);
+    WriteInputCell(html,
+                   Fill("height:$; width:$; color: #$", m_YearBoxHeight, m_YearBoxWidth, m_InputTextColor),
+                   "1993");
     WriteButtonCell(html, m_YearRightText, "IncDecYear(1)");
     html.Line("</tr>");
     html.Line("<tr>");
     WriteButtonCell(html, m_MonthLeftText, "IncDecMonth(-1)");
-    WriteMonthCell(html);
+    WriteInputCell(html,
+                   Fill("color: #$; height:$; width:$", m_InputTextColor, m_MonthBoxHeight, m_MonthBoxWidth),
+                   "January");
     WriteButtonCell(html, m_MonthRightText, "IncDecMonth(1)");
     html.Line("</tr>");
     WriteTitleRow(html);
     for (int i = 0; i < kFullRows; ++i)
         WriteFullRow(html);
     WriteLastRow(html);
-    html.Line("</form>");
-    html.Line("</table>");
-    html.Line("</table>");
-    html.Line("</", m_CalanderAlign, ">");
+    html.Lines(R"(
+</form>
+</table>
+</table>
+</$>
+)",
+               m_CalanderAlign);
     WriteScript(html);
 }
 

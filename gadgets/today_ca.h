@@ -85,10 +85,7 @@ public:
 private:
     void WriteCalendar(CHtmlText& html) const;
     void WriteButtonCell(CHtmlText& html, const CString& caption, const char* pCall) const;
-    void WriteYearCell(CHtmlText& html) const;
-    void WriteMonthCell(CHtmlText& html) const;
-    void BeginInputCell(CHtmlText& html) const;
-    void EndInputCell(CHtmlText& html, const char* pText) const;
+    void WriteInputCell(CHtmlText& html, const std::string& sizesAndColor, const char* pText) const;
     void WriteTitleRow(CHtmlText& html) const;
     void WriteFullRow(CHtmlText& html) const;
     void WriteLastRow(CHtmlText& html) const;

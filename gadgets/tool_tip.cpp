@@ -24,21 +24,22 @@ void CToolTip::WriteTip(CHtmlText& html, const CString& imageDirectory) const {
     const bool bBox = !m_TipTag.IsEmpty();
     const bool bTip = bBox && !m_TipText.IsEmpty();
     if (bTip) {
-        html.Text(R"(tooltip=" <nobr><)", m_TipTag, "  style='width:", m_MarqueeWidth,
-                  "; color:", m_TipTextColor, "; font-family:", m_TipFont, "; font-weight:", m_TipFontWeight,
-                  "; font-style:", m_TipFontStyle, "; font-size:", m_TipFontSize, ";'>");
+        html.Text(R"(tooltip=" <nobr><$  style='width:$; color:$; font-family:$; font-weight:$; )"
+                  "font-style:$; font-size:$;'>",
+                  m_TipTag, m_MarqueeWidth, m_TipTextColor, m_TipFont, m_TipFontWeight, m_TipFontStyle,
+                  m_TipFontSize);
     }
     html.Text(" ");
     if (bBox && !m_Image.IsEmpty()) {
-        html.Text("<img src='", imageDirectory, FileNameOfPath(m_Image), "' border=", m_ImageSize.m_Border,
-                  " height=", m_ImageSize.m_Height, " width=", m_ImageSize.m_Width, " align=absmiddle>");
+        html.Text("<img src='$$' border=$ height=$ width=$ align=absmiddle>", imageDirectory,
+                  FileNameOfPath(m_Image), m_ImageSize.m_Border, m_ImageSize.m_Height, m_ImageSize.m_Width);
     }
-    html.Text(" ", m_TipText, " ");
+    html.Text(" $ ", m_TipText);
     if (bTip)
-        html.Text("</", m_TipTag, R"(>")");
+        html.Text(R"(</$>")", m_TipTag);
     html.Text(" ");
     if (bBox)
-        html.Text(R"(tooltipstyle="background:)", m_TipBackColor, "; border:", m_TipBorder, R"(;")");
+        html.Text(R"(tooltipstyle="background:$; border:$;")", m_TipBackColor, m_TipBorder);
 }
 
 CString CToolTip::GetHTMLBody(CVignelConfig& config, short mode, short position) {
@@ -48,16 +49,19 @@ CString CToolTip::GetHTMLBody(CVignelConfig& config, short mode, short position)
     const bool bImage = !m_Image.IsEmpty() && !m_TipTag.IsEmpty();
     const CString imageDirectory = bImage ? DirectoryOfMode(config, mode, m_ImagePath) : CString();
     return MakeHtml([&](CHtmlText& html) {
-        html.Line(R"(<SCRIPT LANGUAGE="JavaScript">)");
-        html.Line("var ", title, "delayTime = ", m_DelayTime, ";");
-        html.Line("var ", title, "showTime = ", m_ShowTime, ";");
-        html.Line("</script>");
-        html.Text("<", m_HtmlTag);
+        html.Lines(R"(
+<SCRIPT LANGUAGE="JavaScript">
+var $delayTime = $;
+var $showTime = $;
+</script>
+)",
+                   title, m_DelayTime, title, m_ShowTime);
+        html.Text("<$", m_HtmlTag);
         if (m_HtmlTag == "a")
-            html.Text(R"( href=")", m_Link, R"(" )");
-        html.Text(R"( id=")", title, R"(" )");
+            html.Text(R"( href="$" )", m_Link);
+        html.Text(R"( id="$" )", title);
         WriteTip(html, imageDirectory);
-        html.Line(" > ", m_HtmlText, "</", m_HtmlTag, ">");
+        html.Line(" > $</$>", m_HtmlText, m_HtmlTag);
     });
 }
 

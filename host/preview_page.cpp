@@ -1,5 +1,7 @@
 #include "host/preview_page.h"
 
+#include "core/html_text.h"
+#include "host/report.h"
 #include "host/text_encoding.h"
 
 namespace orrelix {
@@ -184,10 +186,23 @@ std::string HeadingOf(const CPreviewPage& page) {
     return page.m_Effect.m_Title.IsEmpty() ? name : name + ": " + Escaped(page.m_Effect.m_Title.View());
 }
 
-std::string PageHead(const std::string& label, std::string_view title) {
-    return "<meta charset=\"" + label +
-           "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           std::string(title) + "</title>\n";
+// A page of our own around what stands in its body.
+std::string Page(std::string_view attributes, std::string_view label, std::string_view title,
+                 std::string_view style, std::string_view script, std::string_view body) {
+    return Fill(R"(
+<!DOCTYPE html>
+<html lang="en"$>
+<head>
+<meta charset="$">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<title>$</title>
+<style>$$</style>
+$</head>
+<body>
+$</body>
+</html>
+)",
+                attributes, label, title, kSharedStyle, style, script, body);
 }
 
 // Text of the code page with a charset that browsers know: the code page's own, or else UTF-8.
@@ -200,10 +215,18 @@ std::string InKnownCharset(TMake make) {
 std::string Card(const CPreviewPage& page) {
     const std::string heading = HeadingOf(page);
     const std::string address = AddressOf(page.m_Name);
-    return "<article>\n<div class=\"picture\"><iframe src=\"" + address + "#effect\" title=\"" + heading +
-           "\" loading=\"lazy\"></iframe></div>\n<div class=\"about\">\n<h2>" + heading + "</h2>\n<p>" +
-           Escaped(page.m_Effect.m_pEffect->m_pDescription) + "</p>\n<a href=\"" + address + "\">Open " +
-           address + "</a>\n</div>\n</article>\n";
+    return Fill(R"(
+<article>
+<div class="picture"><iframe src="$#effect" title="$" loading="lazy"></iframe></div>
+<div class="about">
+<h2>$</h2>
+<p>$</p>
+<a href="$">Open $</a>
+</div>
+</article>
+)",
+                address, heading, heading, Escaped(page.m_Effect.m_pEffect->m_pDescription), address,
+                address);
 }
 
 } // namespace
@@ -211,27 +234,36 @@ std::string Card(const CPreviewPage& page) {
 std::string EffectPage(const CPreviewPage& page) {
     return InKnownCharset([&](const std::string& label) {
         const CGeneratedEffect& effect = page.m_Effect;
-        return "<!DOCTYPE html>\n<html lang=\"en\" class=\"orrelix-page\" id=\"effect\">\n<head>\n" +
-               PageHead(label, HeadingOf(page)) + "<style>" + kSharedStyle + kEffectStyle + "</style>\n" +
-               std::string(effect.m_Script.View()) +
-               "</head>\n<body>\n<header class=\"orrelix-header\">\n<h1>" + HeadingOf(page) + "</h1>\n<p>" +
-               Escaped(effect.m_pEffect->m_pDescription) +
-               "</p>\n</header>\n<main class=\"orrelix-stage\">\n" + std::string(effect.m_Cursor.View()) +
-               "</main>\n</body>\n</html>\n";
+        const std::string heading = HeadingOf(page);
+        const std::string body = Fill(R"(
+<header class="orrelix-header">
+<h1>$</h1>
+<p>$</p>
+</header>
+<main class="orrelix-stage">
+$</main>
+)",
+                                      heading, Escaped(effect.m_pEffect->m_pDescription), effect.m_Cursor);
+        return Page(R"( class="orrelix-page" id="effect")", label, heading, kEffectStyle, effect.m_Script,
+                    body);
     });
 }
 
 std::string IndexPage(const std::vector<CPreviewPage>& pages) {
     return InKnownCharset([&](const std::string& label) {
-        std::string text =
-            "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n" + PageHead(label, "Effects") + "<style>" +
-            kSharedStyle + kIndexStyle +
-            "</style>\n</head>\n<body>\n<header class=\"orrelix-header\">\n<h1>Effects</h1>\n<p>" +
-            std::to_string(pages.size()) + (pages.size() == 1 ? " effect" : " effects") +
-            ", each running in its own page.</p>\n</header>\n<main>\n";
+        std::string cards;
         for (const CPreviewPage& page : pages)
-            text += Card(page);
-        return text + "</main>\n</body>\n</html>\n";
+            cards += Card(page);
+        const std::string body = Fill(R"(
+<header class="orrelix-header">
+<h1>Effects</h1>
+<p>$, each running in its own page.</p>
+</header>
+<main>
+$</main>
+)",
+                                      Counted(pages.size(), "effect"), cards);
+        return Page("", label, "Effects", kIndexStyle, "", body);
     });
 }
 
