@@ -36,8 +36,8 @@ void CFieldDialog::AddColour(int nEdit, CString& colour, const char* pSection) {
     SetMessageHandler(COLOUR_SELECTION_ENDED, [this](unsigned long, long) { OnColourPicked(); });
 }
 
-void CFieldDialog::AddFont(int nButton, const CFontFields& font) {
-    OnClick(nButton, [font] { EditFont(font); });
+void CFieldDialog::AddFont(int nButton, const CFontFields& font, bool bHandIn) {
+    OnClick(nButton, [=] { EditFont(font, bHandIn); });
     ShowBeside(nButton, [font] { return FontInWords(font); });
 }
 
@@ -46,8 +46,8 @@ void CFieldDialog::AddFont(int nButton, const CFontFields& font, CString& align)
     OnClick(nButton, [font, &align] { EditCalanderFont(font, align); });
 }
 
-void CFieldDialog::AddUrl(int nButton, CString& url) {
-    OnClick(nButton, [&url] { EditUrl(url); });
+void CFieldDialog::AddUrl(int nButton, CString& url, bool bHandIn) {
+    OnClick(nButton, [&url, bHandIn] { EditUrl(url, bHandIn); });
     ShowBeside(nButton, [&url] { return url; });
 }
 
@@ -105,9 +105,11 @@ void CFieldDialog::OnColourPicked() {
     UpdateData(false);
 }
 
-bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts) {
-    for (const CHandedText& handed : texts)
-        handed.m_Field = handed.m_Text;
+bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts, bool bHandIn) {
+    for (const CHandedText& handed : texts) {
+        if (bHandIn)
+            handed.m_Field = handed.m_Text;
+    }
     if (dialog.DoModal() != IDOK)
         return false;
     for (const CHandedText& handed : texts)

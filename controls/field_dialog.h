@@ -31,7 +31,7 @@ protected:
         CString& m_Text;
     };
 
-    // In the constructor, as the next five.
+    // In the constructor, as the next seven.
     void AddFields(std::initializer_list<CField> fields);
 
     // A slider, whose text is its position.
@@ -48,10 +48,13 @@ protected:
     // of the dialog from their pickers.
     void AddColour(int nEdit, CString& colour, const char* pSection);
 
-    // A button that opens CFontPropertiesDlg on the font. Beside it stands what font that is.
-    void AddFont(int nButton, const CFontFields& font);
+    // A button that opens CFontPropertiesDlg on the font, or without bHandIn an empty one. Beside it stands what
+    // font that is.
+    void AddFont(int nButton, const CFontFields& font, bool bHandIn = true);
     // The same with CCalanderFontDlg.
     void AddFont(int nButton, const CFontFields& font, CString& align);
+    // The same with CUrlDlg and an address.
+    void AddUrl(int nButton, CString& url, bool bHandIn = true);
 
     // A button that opens CUrlDlg on the address, which stands beside it.
     void AddUrl(int nButton, CString& url);
@@ -99,7 +102,8 @@ struct CHandedText {
     CString& m_Field;
 };
 
-// Runs a dialog on these texts, which change only if it ends in IDOK: then true.
-bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts);
+// Runs a dialog on these texts, which change only if it ends in IDOK: then true. Without bHandIn the dialog starts
+// with its own fields, which are empty in a new one.
+bool EditThrough(CDialog& dialog, std::initializer_list<CHandedText> texts, bool bHandIn = true);
 
 } // namespace orrelix

@@ -31,17 +31,19 @@ void CFontDlg::OnFamilyDoubleClicked() {
     UpdateData(false);
 }
 
-bool CFontDlg::Edit(const CFontFields& font) {
-    return EditThrough(*this, {{font.m_Face, m_FontFace},
-                               {font.m_Size, m_FontSize},
-                               {font.m_Weight, m_FontWeight},
-                               {font.m_Style, m_FontStyle}});
+bool CFontDlg::Edit(const CFontFields& font, bool bHandIn) {
+    return EditThrough(*this,
+                       {{font.m_Face, m_FontFace},
+                        {font.m_Size, m_FontSize},
+                        {font.m_Weight, m_FontWeight},
+                        {font.m_Style, m_FontStyle}},
+                       bHandIn);
 }
 
 CFontPropertiesDlg::CFontPropertiesDlg() : CFontDlg(FontPropertiesDescription()) {}
 
-void EditFont(const CFontFields& font) {
-    CFontPropertiesDlg().Edit(font);
+void EditFont(const CFontFields& font, bool bHandIn) {
+    CFontPropertiesDlg().Edit(font, bHandIn);
 }
 
 CCalanderFontDlg::CCalanderFontDlg() : CFontDlg(CalanderFontDescription()) {

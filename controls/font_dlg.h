@@ -16,7 +16,7 @@ public:
     CString m_FontStyle;
 
     // Runs the dialog on these texts, which change only if it ends in IDOK: then true.
-    bool Edit(const CFontFields& font);
+    bool Edit(const CFontFields& font, bool bHandIn = true);
 
 protected:
     explicit CFontDlg(const CDialogDescription& description);
@@ -32,8 +32,8 @@ public:
     CFontPropertiesDlg();
 };
 
-// Runs CFontPropertiesDlg on these texts, which change only if it ends in IDOK.
-void EditFont(const CFontFields& font);
+// Runs CFontPropertiesDlg on these texts, which change only if it ends in IDOK. Without bHandIn it starts empty.
+void EditFont(const CFontFields& font, bool bHandIn = true);
 
 // With an alignment of the text.
 class CCalanderFontDlg : public CFontDlg {

@@ -71,9 +71,9 @@ void CUrlDlg::OnTypeListClosed() {
     UpdateData(false);
 }
 
-void EditUrl(CString& url) {
+void EditUrl(CString& url, bool bHandIn) {
     CUrlDlg dialog;
-    EditThrough(dialog, {{url, dialog.m_Url}});
+    EditThrough(dialog, {{url, dialog.m_Url}}, bHandIn);
 }
 
 } // namespace orrelix

@@ -21,7 +21,7 @@ private:
     CString m_LastType; // the kind before the latest change
 };
 
-// Runs the dialog on this address, which changes only if it ends in IDOK.
-void EditUrl(CString& url);
+// Runs the dialog on this address, which changes only if it ends in IDOK. Without bHandIn it starts empty.
+void EditUrl(CString& url, bool bHandIn = true);
 
 } // namespace orrelix

@@ -2,10 +2,12 @@
 
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/calander_dlg.h"
+#include "dialogs/cool_link_dlg.h"
 #include "dialogs/dance_text_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/scroll_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
+#include "dialogs/today_ca_dlg.h"
 #include "dialogs/tool_tip_dlg.h"
 #include "platform/paths.h"
 #include "resources/effects.h"
@@ -46,11 +48,11 @@ constexpr struct CEffectParts {
     {GadgetOf<&COrrelix::m_AnimateText>, RunDialog<CAnimateTextDlg, &COrrelix::m_AnimateText>},
     {GadgetOf<&COrrelix::m_TextShow>, RunDialog<CTextShowDlg, &COrrelix::m_TextShow>},
     {GadgetOf<&COrrelix::m_Calander>, RunDialog<CCalanderDlg, &COrrelix::m_Calander>},
-    {GadgetOf<&COrrelix::m_CoolLink>, nullptr},
+    {GadgetOf<&COrrelix::m_CoolLink>, RunDialog<CCoolLinkDlg, &COrrelix::m_CoolLink>},
     {GadgetOf<&COrrelix::m_ScrollText>, RunDialog<CScrollTextDlg, &COrrelix::m_ScrollText>},
     {GadgetOf<&COrrelix::m_FadeSelect>, RunDialog<CFadeSelectDlg, &COrrelix::m_FadeSelect>},
     {GadgetOf<&COrrelix::m_ToolTip>, RunDialog<CToolTipDlg, &COrrelix::m_ToolTip>},
-    {GadgetOf<&COrrelix::m_TodayCa>, nullptr},
+    {GadgetOf<&COrrelix::m_TodayCa>, RunDialog<CTodayCaDlg, &COrrelix::m_TodayCa>},
     {GadgetOf<&COrrelix::m_DanceText>, RunDialog<CDanceTextDlg, &COrrelix::m_DanceText>},
 };
 static_assert(std::size(kParts) == std::size(kEffects));

@@ -1,8 +1,6 @@
 #include "dialogs/fade_select_dlg.h"
 
-#include "controls/font_dlg.h"
 #include "controls/padding_dlg.h"
-#include "controls/url_dlg.h"
 #include "resources/fade_select_description.h"
 
 namespace orrelix {
@@ -45,34 +43,10 @@ CFadeItemDlg::CFadeItemDlg(bool bModify) : CFieldDialog(FadeItemDescription()), 
     });
     AddColour(Id::FontColor, m_Color, kSection);
     AddImageFile(Id::ChooseImage, m_Image);
-    OnClick(Id::Font, [this] { OnFont(); });
-    ShowBeside(Id::Font, [this] { return FontInWords({m_FontFace, m_FontSize, m_FontWeight, m_FontStyle}); });
-    OnClick(Id::Url, [this] { OnUrl(); });
-    ShowBeside(Id::Url, [this] { return m_Url; });
-}
-
-void CFadeItemDlg::OnFont() {
-    CFontPropertiesDlg dialog;
-    if (m_Modify) {
-        dialog.m_FontFace = m_FontFace;
-        dialog.m_FontWeight = m_FontWeight;
-        dialog.m_FontSize = m_FontSize;
-        dialog.m_FontStyle = m_FontStyle;
-    }
-    if (dialog.DoModal() != IDOK)
-        return;
-    m_FontFace = dialog.m_FontFace;
-    m_FontWeight = dialog.m_FontWeight;
-    m_FontSize = dialog.m_FontSize;
-    m_FontStyle = dialog.m_FontStyle;
-}
-
-void CFadeItemDlg::OnUrl() {
-    CUrlDlg dialog;
-    if (m_Modify)
-        dialog.m_Url = m_Url;
-    if (dialog.DoModal() == IDOK)
-        m_Url = dialog.m_Url;
+    AddFont(Id::Font,
+            {.m_Face = m_FontFace, .m_Size = m_FontSize, .m_Weight = m_FontWeight, .m_Style = m_FontStyle},
+            m_Modify);
+    AddUrl(Id::Url, m_Url, m_Modify);
 }
 
 CSelectedItemDlg::CSelectedItemDlg() : CGadgetDialog(SelectedItemDescription()) {

@@ -27,10 +27,6 @@ public:
 
 protected:
     void OnInitDialog() override { ShowTextsLast(); }
-
-private:
-    void OnFont();
-    void OnUrl();
 };
 
 // The item under the mouse.

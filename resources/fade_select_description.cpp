@@ -10,26 +10,26 @@ const CDialogDescription& FadeSelectDescription() {
     using Id = FadeSelectId;
     static const CDialogDescription description{
         "Fade Select Box",
-        Column(
-            {ItemList(STYLE_MULTIPLE_SELECTION),
-             Row({Group("General Parameters",
-                        {Row({Number(Id::BoxWidth, "Box W&idth:", 0, 5000),
-                              Number(Id::BoxHeight, "Box &Height:", 0, 5000)}),
-                         Row({Number(Id::BoxMargin, "Box Mari&gn:", 0, 5000),
-                              Number(Id::BorderWidth, "B&order Width:", 0, 5000)}),
-                         Row({ComboBox(Id::BorderStyle, "Border St&yle:", kBorderStyles),
-                              Colour(Id::BorderColor, "Border &Color:")}),
-                         Row({Number(Id::Padding, "&Padding:", 0, 5000),
-                              Colour(Id::BoxColor, "Bo&x Color:")})}),
-                  Column({Group("Fade Parameters", {Row({Number(Id::FadeSteps, "&Fade Step:", 0, 5000),
-                                                         Number(Id::FadeMsec, "Inter&val Time:", 0, 5000)})}),
-                          Group("Position Properties:", {Row({Number(Id::Top, "Box &Top:", 0, 5000),
-                                                              Number(Id::Left, "Box &Left:", 0, 5000)})}),
-                          Group("Extensive Style", {Row({Button(Id::SelectedItem, "&Selected Item..."),
-                                                         Button(Id::DropTable, "Drop Tabl&e..."),
-                                                         Button(Id::DropButton, "Drop &Button...")})})})}),
-             Edit(Id::ImagePath, "Specify Image Files &Remote Directory:"),
-             Edit(Id::ScriptPath, "Specify fade.&js and fadeselect.js Remote Directory:"), OkAndCancel()})};
+        Column({ItemList(STYLE_MULTIPLE_SELECTION),
+                Row({Group("General Parameters",
+                           {Row({Number(Id::BoxWidth, "Box W&idth:", 0, 5000),
+                                 Number(Id::BoxHeight, "Box &Height:", 0, 5000)}),
+                            Row({Number(Id::BoxMargin, "Box Mari&gn:", 0, 5000),
+                                 Number(Id::BorderWidth, "B&order Width:", 0, 5000)}),
+                            Row({ComboBox(Id::BorderStyle, "Border St&yle:", kBorderStyles),
+                                 Colour(Id::BorderColor, "Border &Color:")}),
+                            Row({Number(Id::Padding, "&Padding:", 0, 5000),
+                                 Colour(Id::BoxColor, "Bo&x Color:")})}),
+                     Column({Group("Fade Parameters", {Number(Id::FadeSteps, "&Fade Step:", 0, 5000),
+                                                       Number(Id::FadeMsec, "Inter&val Time:", 0, 5000)}),
+                             Group("Position Properties:", {Number(Id::Top, "Box &Top:", 0, 5000),
+                                                            Number(Id::Left, "Box &Left:", 0, 5000)})})}),
+                Group("Extensive Style", {Row({Button(Id::SelectedItem, "&Selected Item..."),
+                                               Button(Id::DropTable, "Drop Tabl&e..."),
+                                               Button(Id::DropButton, "Drop &Button...")})}),
+                Edit(Id::ImagePath, "Specify Image Files &Remote Directory:"),
+                Edit(Id::ScriptPath, "Specify fade.&js and fadeselect.js Remote Directory:"),
+                OkAndCancel()})};
     return description;
 }
 

@@ -14,7 +14,7 @@ CDialogItem ItemList(unsigned nStyle) {
 
 CDialogItem ItemImage() {
     using Id = ItemId;
-    return Group("Insert an Image File", {Row({Edit(Id::ImageFile, "&File Name:"),
+    return Group("Insert an Image File", {Row({Edit(Id::ImageFile, "&File Name:", STYLE_PATH),
                                                Button(Id::ChooseImage, "...", "", "Choose an Image File")}),
                                           Row({Number(Id::ImageWidth, "&Width:", 0, 5000),
                                                Number(Id::ImageHeight, "&Height:", 0, 5000),

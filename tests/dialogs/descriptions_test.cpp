@@ -9,18 +9,27 @@ namespace orrelix {
 
 namespace {
 
-class Descriptions : public testing::TestWithParam<CTestedDialog> {
+class Descriptions : public testing::TestWithParam<const CDialogDescription*> {
 protected:
     template <class TVisit>
     void ForEach(TVisit visit) {
-        ForEachControl(GetParam().m_pDescription(),
-                       [&](const CControlDescription& control, const char* pGroup) {
-                           SCOPED_TRACE(std::string(GetParam().m_pDescription().m_pTitle) + " / " + pGroup +
-                                        " / " + std::to_string(control.m_nId));
-                           visit(control, pGroup);
-                       });
+        ForEachControl(*GetParam(), [&](const CControlDescription& control, const char* pGroup) {
+            SCOPED_TRACE(std::string(GetParam()->m_pTitle) + " / " + pGroup + " / " +
+                         std::to_string(control.m_nId));
+            visit(control, pGroup);
+        });
     }
 };
+
+std::set<const CDialogDescription*> AllDescriptions() {
+    std::set<const CDialogDescription*> descriptions;
+    for (const CTestedDialog& dialog : AllDialogs()) {
+        descriptions.insert(&dialog.m_pDescription());
+        for (const CSubDialog& sub : dialog.m_SubDialogs)
+            descriptions.insert(&sub.m_pDescription());
+    }
+    return descriptions;
+}
 
 } // namespace
 
@@ -56,7 +65,6 @@ TEST_P(Descriptions, IdsAreUniqueAndBuddiesStandBefore) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Descriptions, testing::ValuesIn(AllDialogs()),
-                         [](const auto& dialog) { return dialog.param.m_pName; });
+INSTANTIATE_TEST_SUITE_P(All, Descriptions, testing::ValuesIn(AllDescriptions()));
 
 } // namespace orrelix

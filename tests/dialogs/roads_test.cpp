@@ -46,7 +46,7 @@ void EditFadeSelect(CPersonScript& person, const CString& image) {
     person.Clicks("Add...").In("Item Properties").Shows("Font Color:", "c0c0c0").Shows("Width:", "");
     person.Types("Item Text:", "News, old").Types("Item ToolTip:", "all, of it").Types("Border:", "1");
     person.Turns("Width:", 3).Types("Height:", "50%").Clicks("Choose an Image File").ChoosesFile(image);
-    person.Shows("File Name:", image).Shows("Item Text:", "News, old").Clicks("Font More...");
+    person.Shows("Item Text:", "News, old").Clicks("Font More...");
     FillFont(person, "", "12");
     person.In("Item Properties").Clicks("Font More...");
     FillFont(person, "", "13");
@@ -170,12 +170,74 @@ void EditToolTip(CPersonScript& person, const CString& image) {
     person.Clicks("Cancel").In("ToolTip");
 }
 
+void EditCoolLink(CPersonScript& person, const CString& image) {
+    const CString url = "The informations of this URL:";
+    person.Clicks("Add...").In("Item Properties").Shows("Width:", "0").Types("Item Text:", "News, old");
+    person.Clicks("Choose an Image File").ChoosesFile(image);
+    person.Shows("Item Text:", "News, old").Turns("Width:", 3).Types("Height:", "50%").Clicks(url);
+    FillUrl(person, "", "http://first/");
+    person.In("Item Properties").Clicks(url).In("Input an URL:").Shows("URL", "").Clicks("Cancel");
+    person.In("Item Properties").Clicks("OK").In("Link Select Table").Clicks("Move Up").Clicks("Modify...");
+    person.In("Item Properties").Shows("Height:", "50").Clicks(url);
+    FillUrl(person, "http://first/", "http://second/?a,b");
+    person.In("Item Properties").Types("Border:", "1").Clicks("OK").In("Link Select Table");
+    person.SelectsRow("Items", 0).Clicks("Delete").Picks("Link Target:", "Whole Page(_top)");
+
+    for (const char* pKind : {"Selected Item...", "Normal Item..."}) {
+        const bool bSelected = *pKind == 'S';
+        person.Clicks(pKind).In("Item Style").Types("Width:", bSelected ? "4" : "6").Clicks("Font..");
+        FillFont(person, "20", bSelected ? "21" : "22");
+        person.In("Item Style").Clicks("Padding..");
+        FillPadding(person);
+        person.In("Item Style").Types("Text Color:", bSelected ? "000004" : "000006").Clicks("OK");
+        person.In("Link Select Table");
+    }
+    person.Clicks("Normal Item...").In("Item Style").Types("Width:", "99").Clicks("Padding..");
+    person.In("Padding Style").Shows("Top:", "4").Types("Left:", "99").Clicks("OK");
+    person.In("Item Style").Clicks("Cancel").In("Link Select Table");
+    person.Clicks("Modify...").Answers("Please select an item to modify!");
+}
+
+void EditTodayCa(CPersonScript& person, const CString&) {
+    const struct {
+        const char* m_pButton;
+        const char* m_pTitle;
+        const char* m_pBox;
+        const char* m_pFont;
+        const char* m_pWeight; // that its font starts with
+    } parts[] = {
+        {"Click Button...", "Click Button Area Style", "Year Left:", "Font...", ""},
+        {"Current Day...", "Current Day input Style", "Today Text:", "Font..", "normal"},
+        {"Year/Month...", "Year/Month Input Box Style", "Input Area Size:", "Font...", "normal"},
+        {"WeekDay Title...", "Calender Title Style", "Box Width:", "Font..", "normal"},
+        {"Saturday Title...", "Calender Title Style", "Box Width:", "Font..", "normal"},
+        {"Sunday Title...", "Calender Title Style", "Box Width:", "Font..", "normal"},
+        {"WeekDay...", "Calender Date Style", "Box Color:", "Font..", "normal"},
+        {"Saturday...", "Calender Date Style", "Box Color:", "Font..", "normal"},
+        {"Sunday...", "Calender Date Style", "Box Color:", "Font..", "normal"},
+    };
+    int nText = 100;
+    for (const auto& part : parts) {
+        person.Clicks(part.m_pButton).In(part.m_pTitle).Types(part.m_pBox, ToText(++nText));
+        person.Clicks(part.m_pFont).In("Font Properties").Shows("Font Weight:", part.m_pWeight);
+        person.Types("Font Size:", ToText(nText)).Clicks("OK").In(part.m_pTitle).Clicks("OK");
+        person.In("Cool Calender").Clicks(part.m_pButton).In(part.m_pTitle);
+        person.Shows(part.m_pBox, ToText(nText)).Types(part.m_pBox, "999999").Clicks(part.m_pFont);
+        person.In("Font Properties").Types("Font Size:", "99").Clicks("OK").In(part.m_pTitle);
+        person.Clicks("Cancel").In("Cool Calender");
+    }
+    person.Picks("Title Style:", "\u4e00,\u4e8c,\u4e09...").Types("Border Width:", "2");
+    person.Types("Specify todayca.js Remote Directory:", "scripts\\js");
+}
+
 const CRoad kRoads[] = {
     {"calander", "3", "Calender", EditCalander},
     {"dance_text", "9", "Color Link", EditDanceText},
     {"scroll_text", "5", "Scroll Text", EditScrollText},
     {"tool_tip", "7", "ToolTip", EditToolTip},
+    {"cool_link", "4", "Link Select Table", EditCoolLink},
     {"fade_select", "6", "Fade Select Box", EditFadeSelect},
+    {"today_ca", "8", "Cool Calender", EditTodayCa},
 };
 
 class Road : public PersonTest, public testing::WithParamInterface<CRoad> {

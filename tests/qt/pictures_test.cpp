@@ -43,8 +43,8 @@ void TakePicture(const QString& name) {
         << name.toStdString();
 }
 
-std::function<void(CDialog&)> Take(const char* pName) {
-    return [pName](CDialog&) { TakePicture(pName); };
+std::function<void(CDialog&)> Take(const std::string& name) {
+    return [name](CDialog&) { TakePicture(QString::fromStdString(name)); };
 }
 
 } // namespace
@@ -53,7 +53,14 @@ TEST(Pictures, OfEveryDialog) {
     const CUserSettings settings;
     CQtPerson person;
     for (const CTestedDialog& tested : AllDialogs()) {
-        person.In(tested.m_pDescription().m_pTitle).Then(Take(tested.m_pName));
+        const std::string name = tested.m_pName;
+        person.In(tested.m_pDescription().m_pTitle).Then(Take(name));
+        for (size_t nSub = 0; nSub < tested.m_SubDialogs.size(); ++nSub) {
+            const CSubDialog& sub = tested.m_SubDialogs[nSub];
+            person.Clicks(sub.m_pButton).In(sub.m_pDescription().m_pTitle);
+            person.Then(Take(name + "_" + std::to_string(nSub))).PressesEscape();
+            person.In(tested.m_pDescription().m_pTitle);
+        }
         person.PressesEscape();
         tested.m_Edit ? tested.m_Edit()->Run() : CDialog(tested.m_pDescription()).DoModal();
     }

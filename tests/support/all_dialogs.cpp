@@ -6,14 +6,17 @@
 #include "controls/url_dlg.h"
 #include "dialogs/animate_text_dlg.h"
 #include "dialogs/calander_dlg.h"
+#include "dialogs/cool_link_dlg.h"
 #include "dialogs/dance_text_dlg.h"
 #include "dialogs/fade_select_dlg.h"
 #include "dialogs/scroll_text_dlg.h"
 #include "dialogs/text_show_dlg.h"
+#include "dialogs/today_ca_dlg.h"
 #include "dialogs/tool_tip_dlg.h"
 #include "resources/animate_text_description.h"
 #include "resources/border_description.h"
 #include "resources/calander_description.h"
+#include "resources/cool_link_description.h"
 #include "resources/copy_resources_description.h"
 #include "resources/dance_text_description.h"
 #include "resources/fade_select_description.h"
@@ -22,6 +25,7 @@
 #include "resources/scroll_text_description.h"
 #include "resources/select_script_description.h"
 #include "resources/text_show_description.h"
+#include "resources/today_ca_description.h"
 #include "resources/tool_tip_description.h"
 #include "resources/url_description.h"
 
@@ -84,6 +88,7 @@ const std::vector<CTestedDialog>& AllDialogs() {
     using Image = CInsertImageDlg;
     using Style = CLinkStyleDlg;
     using FadeItem = CFadeItemDlg;
+    using LinkItem = CCoolLinkItemDlg;
     static const std::vector<CTestedDialog> dialogs = {
         {"add_text",
          AddTextDescription,
@@ -114,14 +119,27 @@ const std::vector<CTestedDialog>& AllDialogs() {
                           {"m_FontWeight", &Font::m_FontWeight},
                           {"m_TextAlign", &Font::m_TextAlign}})},
         {"color", ColorDescription, OfMembers<CColorDlg>({{"m_Color", &CColorDlg::m_Color}})},
+        {"cool_link",
+         CoolLinkDescription,
+         OfEffect<CCoolLinkDlg, CCoolLink>,
+         {{"Selected Item...", CoolLinkStyleDescription}, {"Normal Item...", CoolLinkStyleDescription}}},
+        {"cool_link_item", CoolLinkItemDescription,
+         OfMembers<LinkItem>({{"m_ItemText", &LinkItem::m_ItemText},
+                              {"m_ImageFile", &LinkItem::m_ImageFile},
+                              {"m_ImageWidth", &LinkItem::m_ImageWidth},
+                              {"m_ImageHeight", &LinkItem::m_ImageHeight},
+                              {"m_ImageBorder", &LinkItem::m_ImageBorder}})},
         {"copy_resources", CopyResourcesDescription},
         {"dance_text",
          DanceTextDescription,
          OfEffect<CDanceTextDlg, CDanceText>,
          {{"Add...", ColorDescription}, {"Font...", FontPropertiesDescription}, {"Url...", UrlDescription}}},
-        {"fade_select", FadeSelectDescription, OfEffect<CFadeSelectDlg, CFadeSelect>},
-        {"fade_select_drop_button", DropButtonDescription, OfEffect<CDropButtonDlg, CFadeSelect>},
-        {"fade_select_drop_table", DropTableDescription, OfEffect<CDropTableDlg, CFadeSelect>},
+        {"fade_select",
+         FadeSelectDescription,
+         OfEffect<CFadeSelectDlg, CFadeSelect>,
+         {{"Selected Item...", SelectedItemDescription},
+          {"Drop Table...", DropTableDescription},
+          {"Drop Button...", DropButtonDescription}}},
         {"fade_select_item", FadeItemDescription,
          OfMembers<FadeItem>({{"m_Text", &FadeItem::m_Text},
                               {"m_ToolTip", &FadeItem::m_ToolTip},
@@ -130,7 +148,6 @@ const std::vector<CTestedDialog>& AllDialogs() {
                               {"m_ImageWidth", &FadeItem::m_ImageWidth},
                               {"m_ImageHeight", &FadeItem::m_ImageHeight},
                               {"m_ImageBorder", &FadeItem::m_ImageBorder}})},
-        {"fade_select_selected_item", SelectedItemDescription, OfEffect<CSelectedItemDlg, CFadeSelect>},
         {"font", FontPropertiesDescription,
          OfMembers<CFontPropertiesDlg>({{"m_FontFace", &CFontPropertiesDlg::m_FontFace},
                                         {"m_FontSize", &CFontPropertiesDlg::m_FontSize},
@@ -171,6 +188,18 @@ const std::vector<CTestedDialog>& AllDialogs() {
          TextShowDescription,
          OfEffect<CTextShowDlg, CTextShow>,
          {{"Title Font...", FontPropertiesDescription}, {"Text Font...", FontPropertiesDescription}}},
+        {"today_ca",
+         TodayCaDescription,
+         OfEffect<CTodayCaDlg, CTodayCa>,
+         {{"Click Button...", ClickButtonDescription},
+          {"Current Day...", CurrentDayDescription},
+          {"Year/Month...", YearMonthDescription},
+          {"WeekDay Title...", TitleStyleDescription},
+          {"Saturday Title...", TitleStyleDescription},
+          {"Sunday Title...", TitleStyleDescription},
+          {"WeekDay...", DateStyleDescription},
+          {"Saturday...", DateStyleDescription},
+          {"Sunday...", DateStyleDescription}}},
         {"tool_tip",
          ToolTipDescription,
          OfEffect<CToolTipDlg, CToolTip>,
