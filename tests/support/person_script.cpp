@@ -173,6 +173,8 @@ CPersonScript& CPersonScript::Then(std::function<void(CDialog&)> action) {
 }
 
 bool CPersonScript::PlayStep(CDialog& dialog, CPersonHands& hands) {
+    if (m_OnStep)
+        m_OnStep(dialog, hands);
     const CString title = dialog.GetDescription().m_pTitle;
     const std::optional<CStep> step = Take(Kind::Act, CString("the dialog \"") + title + "\"");
     if (!step)

@@ -156,6 +156,10 @@ public:
     // Anything else, done when the steps before have been.
     CPersonScript& Then(std::function<void(CDialog&)> action);
 
+    // Called before each act and look, with the dialog in front: for who notes what the screen has come to.
+    std::function<void(CDialog&, CPersonHands&)> m_OnStep;
+    size_t StepsLeft() const { return m_Steps.size(); }
+
     // --- For who plays the script ---
 
     // Plays the next step in this dialog, which is the one in front. False when the dialog has to be closed:

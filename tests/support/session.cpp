@@ -18,6 +18,20 @@ std::string Indented(const std::string& text) {
 
 } // namespace
 
+std::vector<std::string> QuestionsOf(const std::filesystem::path& file) {
+    std::vector<std::string> questions;
+    std::istringstream session(FileContent(file));
+    bool bOpen = false;
+    for (std::string line; std::getline(session, line);) {
+        if (line.starts_with("  $ "))
+            questions.push_back(line.substr(4));
+        else if (bOpen && line.starts_with("  > "))
+            questions.back() += "\n" + line.substr(4);
+        bOpen = line.starts_with("  $ ") || (bOpen && line.starts_with("  > "));
+    }
+    return questions;
+}
+
 testing::AssertionResult GoesAsItStands(const std::filesystem::path& file,
                                         const std::function<std::string(const std::string&)>& answer) {
     std::istringstream session(FileContent(file));

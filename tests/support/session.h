@@ -10,8 +10,11 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace orrelix {
+
+std::vector<std::string> QuestionsOf(const std::filesystem::path& file);
 
 // Whether each question of the file has the answer that stands there; see EqualsExpected.
 testing::AssertionResult GoesAsItStands(const std::filesystem::path& file,
