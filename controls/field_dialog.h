@@ -53,11 +53,8 @@ protected:
     void AddFont(int nButton, const CFontFields& font, bool bHandIn = true);
     // The same with CCalanderFontDlg.
     void AddFont(int nButton, const CFontFields& font, CString& align);
-    // The same with CUrlDlg and an address.
+    // The same with CUrlDlg and an address, which stands beside the button.
     void AddUrl(int nButton, CString& url, bool bHandIn = true);
-
-    // A button that opens CUrlDlg on the address, which stands beside it.
-    void AddUrl(int nButton, CString& url);
 
     // The two orders in which a dialog starts, for OnInitDialog. They decide what the boxes show.
 
