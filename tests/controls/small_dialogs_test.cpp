@@ -11,7 +11,7 @@ using FontDlg = PersonTest;
 
 TEST_F(BorderDlg, AMixedColourIsRememberedAlsoByACancelledDialogAndACancelledOneIsNot) {
     const auto stored = [] { return GetProfileString("Specify Color CALANDER", "Name39", "none"); };
-    m_Person.In("Border Properties").OpensColours("Border Color");
+    m_Person.In("Border Properties").Types("Border Color", "123456").OpensColours("Border Color");
     m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space}).CancelsColour();
     m_Person.Then([&](CDialog&) { EXPECT_EQ(stored(), "none"); }).OpensColours("Border Color");
     m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space})

@@ -1,5 +1,6 @@
 #include "core/dhtml_gadget.h"
 #include "gadgets/image_files.h"
+#include "platform/paths.h"
 #include "tests/support/scripted_person.h"
 #include "tests/support/temporary_directory.h"
 
@@ -76,7 +77,8 @@ TEST(CopyImages, AsksOnceAboutATakenNameUnlessForced) {
         CStringArray images = {taken, site.Path("from\\free.gif"), taken};
         CScriptedPerson person;
         if (pAnswer) {
-            person.In("Copy Resources").ShowsRows("Files with clashing names", {"taken.gif | " + taken});
+            person.In("Copy Resources")
+                .ShowsRows("Files with clashing names", {"taken.gif | " + WithSlashes(taken)});
             *pAnswer == 'O' ? person.Clicks("OK") : person.PressesEscape();
         }
         CopyImages(images, site.Path("to\\"), nForce);
