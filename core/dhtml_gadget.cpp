@@ -18,8 +18,8 @@ void CDhtmlGadget::WriteFields(CVignelConfig& config) {
     ExchangeParameters(writer);
 }
 
-CString ScriptInclude(const CString& directory, const char* pFileName) {
-    return Fill("<script type=\"text/javascript\" src=\"$$\"></script>\r\n", directory, pFileName);
+CString ScriptInclude(const CString& directory, const CScriptFile& script) {
+    return Fill("<script type=\"text/javascript\" src=\"$$\"></script>\r\n", directory, script.m_pPageName);
 }
 
 CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory) {
@@ -41,15 +41,15 @@ CString WholeBorder(const CString& width, const CString& style, const CString& c
     return Fill("$ $ #$", width, style, color);
 }
 
-void CopyScript(const char* pFileName, const char* pPageName, const CString& directory) {
-    const CString source = GetModuleDirectory() + "\\" + pFileName;
-    CopyWholeFile(source, directory + pFileName, Spelling::Exact);
-    if (CString(pFileName) != pPageName)
-        CopyWholeFile(source, directory + pPageName, Spelling::Exact);
+void CopyScript(const CScriptFile& script, const CString& directory) {
+    const CString source = GetModuleDirectory() + "\\" + script.m_pName;
+    CopyWholeFile(source, directory + script.m_pName, Spelling::Exact);
+    if (CString(script.m_pName) != script.m_pPageName)
+        CopyWholeFile(source, directory + script.m_pPageName, Spelling::Exact);
 }
 
-void RegisterScript(CVignelConfig& config, const char* pName, const CString& webPath) {
-    config.AddResource({pName, GetModuleDirectory() + "\\", webPath});
+void RegisterScript(CVignelConfig& config, const CScriptFile& script, const CString& webPath) {
+    config.AddResource({script.m_pResourceName, GetModuleDirectory() + "\\", webPath});
 }
 
 bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force) {

@@ -62,8 +62,21 @@ inline bool RefersToScripts(short mode) {
     return mode == kPreview || mode == kPublish;
 }
 
+// A script file that lies beside the component, which copies it beside the page. Two other spellings of its name,
+// but for case the same, stand in pages' text and in the store's resources: files and pages know them so.
+struct CScriptFile {
+    constexpr CScriptFile(const char* pName, const char* pPageName = nullptr,
+                          const char* pResourceName = nullptr)
+        : m_pName(pName), m_pPageName(pPageName ? pPageName : pName),
+          m_pResourceName(pResourceName ? pResourceName : pName) {}
+
+    const char* m_pName;
+    const char* m_pPageName;
+    const char* m_pResourceName;
+};
+
 // The line by which a page loads a script file of a directory, which is empty or ends in its separator.
-CString ScriptInclude(const CString& directory, const char* pFileName);
+CString ScriptInclude(const CString& directory, const CScriptFile& script);
 
 // The directory by which a text of this mode refers to files: the store's preview path, or the remote
 // directory. Other modes have none.
@@ -75,12 +88,12 @@ CString LinkTarget(const CString& target);
 // A border as CSS has it, of a width, a style and six hexadecimal digits: "1 solid #d2b48c".
 CString WholeBorder(const CString& width, const CString& style, const CString& color);
 
-// Copies a script file that lies beside the component. `pPageName` is its name as the page's text spells it:
-// where that differs in case and the disk tells case apart, the file is there under both names.
-void CopyScript(const char* pFileName, const char* pPageName, const CString& directory);
+// Copies it to a directory, given with a backslash at its end. Where the disk tells case apart, it is there under
+// its own name and the page's.
+void CopyScript(const CScriptFile& script, const CString& directory);
 
-// Adds a script file's resource under the given name.
-void RegisterScript(CVignelConfig& config, const char* pName, const CString& webPath);
+// Adds its resource.
+void RegisterScript(CVignelConfig& config, const CScriptFile& script, const CString& webPath);
 
 // The copy of a user's file whose full path the gadget holds in `path`. `destination` is a directory with a
 // backslash at its end; `handled` collects the paths that one run has copied. False when a file of that name

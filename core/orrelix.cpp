@@ -1,18 +1,6 @@
 #include "core/orrelix.h"
 
-#include "dialogs/animate_text_dlg.h"
-#include "dialogs/calander_dlg.h"
-#include "dialogs/cool_link_dlg.h"
-#include "dialogs/dance_text_dlg.h"
-#include "dialogs/fade_select_dlg.h"
-#include "dialogs/scroll_text_dlg.h"
-#include "dialogs/text_show_dlg.h"
-#include "dialogs/today_ca_dlg.h"
-#include "dialogs/tool_tip_dlg.h"
 #include "platform/paths.h"
-#include "resources/effects.h"
-
-#include <iterator>
 
 namespace orrelix {
 
@@ -28,34 +16,22 @@ bool SucceedsIn(TAct act) noexcept {
     }
 }
 
-template <auto pGadget>
-CDhtmlGadget& GadgetOf(COrrelix& orrelix) {
-    return orrelix.*pGadget;
-}
-
-template <class TDialog, auto pGadget>
-int RunDialog(COrrelix& orrelix) {
+template <class TDialog, class TGadget>
+int RunDialog(TGadget& gadget) {
     TDialog dialog;
-    dialog.m_pGadget = &(orrelix.*pGadget);
+    dialog.m_pGadget = &gadget;
     return dialog.DoModal();
 }
 
 // What each effect of kEffects consists of, in the same order.
+#define EFFECT(stem, name, description)                                                                      \
+    {[](COrrelix& orrelix) -> CDhtmlGadget& { return orrelix.m_##stem; },                                    \
+     [](COrrelix& orrelix) { return RunDialog<C##stem##Dlg>(orrelix.m_##stem); }},
 constexpr struct CEffectParts {
     CDhtmlGadget& (*m_pGadget)(COrrelix&);
-    int (*m_pRunDialog)(COrrelix&); // null while the dialog is to come: as if the person had cancelled
-} kParts[] = {
-    {GadgetOf<&COrrelix::m_AnimateText>, RunDialog<CAnimateTextDlg, &COrrelix::m_AnimateText>},
-    {GadgetOf<&COrrelix::m_TextShow>, RunDialog<CTextShowDlg, &COrrelix::m_TextShow>},
-    {GadgetOf<&COrrelix::m_Calander>, RunDialog<CCalanderDlg, &COrrelix::m_Calander>},
-    {GadgetOf<&COrrelix::m_CoolLink>, RunDialog<CCoolLinkDlg, &COrrelix::m_CoolLink>},
-    {GadgetOf<&COrrelix::m_ScrollText>, RunDialog<CScrollTextDlg, &COrrelix::m_ScrollText>},
-    {GadgetOf<&COrrelix::m_FadeSelect>, RunDialog<CFadeSelectDlg, &COrrelix::m_FadeSelect>},
-    {GadgetOf<&COrrelix::m_ToolTip>, RunDialog<CToolTipDlg, &COrrelix::m_ToolTip>},
-    {GadgetOf<&COrrelix::m_TodayCa>, RunDialog<CTodayCaDlg, &COrrelix::m_TodayCa>},
-    {GadgetOf<&COrrelix::m_DanceText>, RunDialog<CDanceTextDlg, &COrrelix::m_DanceText>},
-};
-static_assert(std::size(kParts) == std::size(kEffects));
+    int (*m_pRunDialog)(COrrelix&);
+} kParts[] = {ORRELIX_EFFECTS(EFFECT)};
+#undef EFFECT
 
 // Null for a type of none.
 const CEffectParts* FindParts(const CString& type) {
@@ -107,7 +83,7 @@ bool COrrelix::RunDialogs() {
     SelectType(CString(m_Type));
     // A type that is none of ours has nothing to ask.
     const CEffectParts* pParts = FindParts(m_Type);
-    if (pParts && (!pParts->m_pRunDialog || pParts->m_pRunDialog(*this) == IDCANCEL))
+    if (pParts && pParts->m_pRunDialog(*this) == IDCANCEL)
         return false;
     m_bResourcesRegistered = false;
     return true;

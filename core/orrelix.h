@@ -15,17 +15,18 @@
 
 #include "core/dhtml_gadget.h"
 #include "core/vignel_config.h"
+#include "dialogs/animate_text_dlg.h"
+#include "dialogs/calander_dlg.h"
+#include "dialogs/cool_link_dlg.h"
+#include "dialogs/dance_text_dlg.h"
+#include "dialogs/fade_select_dlg.h"
+#include "dialogs/scroll_text_dlg.h"
 #include "dialogs/select_script.h"
-#include "gadgets/animate_text.h"
-#include "gadgets/calander.h"
-#include "gadgets/cool_link.h"
-#include "gadgets/dance_text.h"
-#include "gadgets/fade_select.h"
+#include "dialogs/text_show_dlg.h"
+#include "dialogs/today_ca_dlg.h"
+#include "dialogs/tool_tip_dlg.h"
 #include "gadgets/no_select.h"
-#include "gadgets/scroll_text.h"
-#include "gadgets/text_show.h"
-#include "gadgets/today_ca.h"
-#include "gadgets/tool_tip.h"
+#include "resources/effects.h"
 
 namespace orrelix {
 
@@ -118,15 +119,9 @@ public:
     CSelectScriptDlg m_SelectDlg;
     bool m_bResourcesRegistered = false;
     CNoSelect m_NoSelect;
-    CAnimateText m_AnimateText;
-    CTextShow m_TextShow;
-    CCalander m_Calander;
-    CCoolLink m_CoolLink;
-    CScrollText m_ScrollText;
-    CFadeSelect m_FadeSelect;
-    CToolTip m_ToolTip;
-    CTodayCa m_TodayCa;
-    CDanceText m_DanceText;
+#define EFFECT(stem, name, description) C##stem m_##stem;
+    ORRELIX_EFFECTS(EFFECT) // m_AnimateText, m_TextShow and so on
+#undef EFFECT
 
 private:
     bool Read(const CString& path);

@@ -2,6 +2,12 @@
 
 namespace orrelix {
 
+namespace {
+
+constexpr CScriptFile kScript("animate.js", "animate.js", "Animate.js");
+
+} // namespace
+
 void CAnimateText::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("AnimateTextPara",
                     {FIELD(m_ScrollSize), FIELD(m_FadeColor), FIELD(m_TextColor), FIELD(m_Height),
@@ -51,19 +57,19 @@ CString CAnimateText::GetHTMLBody(CVignelConfig& config, short mode, short) {
             if (!m_Messages.IsEmpty())
                 WriteScript(html);
             // Behind the variables, which the file reads as it runs.
-            html.Text("$", ScriptInclude(directory, "animate.js"));
+            html.Text("$", ScriptInclude(directory, kScript));
         }
         WriteBox(html);
     });
 }
 
 void CAnimateText::CopyResources(const CString& directory, short) {
-    CopyScript("animate.js", "animate.js", directory);
+    CopyScript(kScript, directory);
 }
 
 short CAnimateText::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "Animate.js", m_ScriptPath);
+    RegisterScript(config, kScript, m_ScriptPath);
     return config.GetResourceCount();
 }
 

@@ -2,6 +2,12 @@
 
 namespace orrelix {
 
+namespace {
+
+constexpr CScriptFile kScript("Calander2.js", "calander2.js");
+
+} // namespace
+
 void CCalander::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields(
         "CalanderPara",
@@ -62,17 +68,17 @@ document.write("");
 
 CString CCalander::GetHTMLBody(CVignelConfig& config, short mode, short position) {
     if (position != 0 && RefersToScripts(mode))
-        return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), "calander2.js");
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), kScript);
     return MakeHtml([&](CHtmlText& html) { WriteCalendar(html); });
 }
 
 void CCalander::CopyResources(const CString& directory, short) {
-    CopyScript("Calander2.js", "calander2.js", directory);
+    CopyScript(kScript, directory);
 }
 
 short CCalander::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "Calander2.js", m_ClassWebPath);
+    RegisterScript(config, kScript, m_ClassWebPath);
     return config.GetResourceCount();
 }
 

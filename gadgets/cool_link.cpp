@@ -2,6 +2,12 @@
 
 namespace orrelix {
 
+namespace {
+
+constexpr CScriptFile kScript("select.js");
+
+} // namespace
+
 void CCoolLink::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("CoolLinkActivePara",
                     {FIELD(m_OverBorderColor), FIELD(m_OverBackColor), FIELD(m_OverBorderWidth),
@@ -122,7 +128,7 @@ void CCoolLink::WriteBox(CHtmlText& html, const CString& prefix, const CString& 
 
 CString CCoolLink::GetHTMLBody(CVignelConfig& config, short mode, short position) {
     if (position != 0 && RefersToScripts(mode))
-        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "select.js");
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), kScript);
     if (position != 0) // here the other modes have nothing
         return {};
     if (m_Texts.IsEmpty())
@@ -138,13 +144,13 @@ CString CCoolLink::GetHTMLBody(CVignelConfig& config, short mode, short position
 }
 
 void CCoolLink::CopyResources(const CString& directory, short force) {
-    CopyScript("select.js", "select.js", directory);
+    CopyScript(kScript, directory);
     CopyImages(m_Images, directory, force);
 }
 
 short CCoolLink::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "select.js", m_ScriptPath);
+    RegisterScript(config, kScript, m_ScriptPath);
     RegisterImages(config, m_Images, m_ImagePath);
     return config.GetResourceCount();
 }

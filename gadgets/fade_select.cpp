@@ -2,6 +2,13 @@
 
 namespace orrelix {
 
+namespace {
+
+constexpr CScriptFile kSelectScript("fadeselect.js");
+constexpr CScriptFile kFadeScript("fade.js");
+
+} // namespace
+
 void CFadeSelect::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("FadeSelectActivePara",
                     {FIELD(m_OverBorderColor), FIELD(m_OverBackColor), FIELD(m_OverBorderWidth),
@@ -124,19 +131,19 @@ CString CFadeSelect::GetHTMLBody(CVignelConfig& config, short mode, short positi
     if (position == 0 || !RefersToScripts(mode))
         return GetBox(config, mode);
     const CString directory = DirectoryOfMode(config, mode, m_ScriptPath);
-    return ScriptInclude(directory, "fadeselect.js") + ScriptInclude(directory, "fade.js");
+    return ScriptInclude(directory, kSelectScript) + ScriptInclude(directory, kFadeScript);
 }
 
 void CFadeSelect::CopyResources(const CString& directory, short force) {
-    CopyScript("fade.js", "fade.js", directory);
-    CopyScript("fadeselect.js", "fadeselect.js", directory);
+    CopyScript(kFadeScript, directory);
+    CopyScript(kSelectScript, directory);
     CopyImages(m_Images, directory, force);
 }
 
 short CFadeSelect::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "fadeselect.js", m_ScriptPath);
-    RegisterScript(config, "fade.js", m_ScriptPath);
+    RegisterScript(config, kSelectScript, m_ScriptPath);
+    RegisterScript(config, kFadeScript, m_ScriptPath);
     RegisterImages(config, m_Images, m_ImagePath);
     return config.GetResourceCount();
 }

@@ -63,6 +63,8 @@ window.onload=startscroll;
 
 namespace {
 
+constexpr CScriptFile kScript("scrolltext.js");
+
 // The box twice, for browsers with document.layers and for those with document.all. The hole is for the blank
 // in which a line ends.
 constexpr char kLayers[] = R"html(
@@ -103,7 +105,7 @@ document.writeln('</span>')
 
 CString CScrollText::GetHTMLBody(CVignelConfig& config, short mode, short position) {
     if (position != 0 && RefersToScripts(mode))
-        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "scrolltext.js");
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), kScript);
     GrowTo(m_Texts.GetSize(), m_Links);
     return MakeHtml([&](CHtmlText& html) {
         html.Line(R"(<table width="$" align="$" style="border:$ $ #$;">)", m_TableWidth, m_TableAlign,
@@ -122,12 +124,12 @@ CString CScrollText::GetHTMLBody(CVignelConfig& config, short mode, short positi
 }
 
 void CScrollText::CopyResources(const CString& directory, short) {
-    CopyScript("scrolltext.js", "scrolltext.js", directory);
+    CopyScript(kScript, directory);
 }
 
 short CScrollText::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "scrolltext.js", m_ScriptPath);
+    RegisterScript(config, kScript, m_ScriptPath);
     return config.GetResourceCount();
 }
 

@@ -4,6 +4,8 @@ namespace orrelix {
 
 namespace {
 
+constexpr CScriptFile kScript("Todayca.js", "todayca.js", "todayca.js");
+
 constexpr CStringArray::Index kTitles = 7;
 constexpr CStringArray::Index kSaturday = 5;
 constexpr CStringArray::Index kSunday = 6;
@@ -170,17 +172,17 @@ void CTodayCa::WriteCalendar(CHtmlText& html) const {
 
 CString CTodayCa::GetHTMLBody(CVignelConfig& config, short mode, short position) {
     if (position != 0 && RefersToScripts(mode))
-        return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), "todayca.js");
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ClassWebPath), kScript);
     return MakeHtml([&](CHtmlText& html) { WriteCalendar(html); });
 }
 
 void CTodayCa::CopyResources(const CString& directory, short) {
-    CopyScript("Todayca.js", "todayca.js", directory);
+    CopyScript(kScript, directory);
 }
 
 short CTodayCa::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "todayca.js", m_ClassWebPath);
+    RegisterScript(config, kScript, m_ClassWebPath);
     return config.GetResourceCount();
 }
 

@@ -4,6 +4,12 @@
 
 namespace orrelix {
 
+namespace {
+
+constexpr CScriptFile kScript("Tooltip.js", "tooltip.js", "tooltip.js");
+
+} // namespace
+
 void CToolTip::ExchangeParameters(CParameterExchange& exchange) {
     exchange.Fields("ToolTipPara", {FIELD(m_TipBorderColor), FIELD(m_TipBackColor), FIELD(m_TipBorder),
                                     FIELD(m_TipBorderWidth), FIELD(m_TipBorderStyle), FIELD(m_ScriptPath),
@@ -44,7 +50,7 @@ void CToolTip::WriteTip(CHtmlText& html, const CString& imageDirectory) const {
 
 CString CToolTip::GetHTMLBody(CVignelConfig& config, short mode, short position) {
     if (position != 0 && RefersToScripts(mode))
-        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), "tooltip.js");
+        return ScriptInclude(DirectoryOfMode(config, mode, m_ScriptPath), kScript);
     const CString title = config.GetTitle();
     const bool bImage = !m_Image.IsEmpty() && !m_TipTag.IsEmpty();
     const CString imageDirectory = bImage ? DirectoryOfMode(config, mode, m_ImagePath) : CString();
@@ -66,13 +72,13 @@ var $showTime = $;
 }
 
 void CToolTip::CopyResources(const CString& directory, short force) {
-    CopyScript("Tooltip.js", "tooltip.js", directory);
+    CopyScript(kScript, directory);
     CopyImages({&m_Image, 1}, directory, force);
 }
 
 short CToolTip::RegisterResources(CVignelConfig& config) {
     config.ClearResources();
-    RegisterScript(config, "tooltip.js", m_ScriptPath);
+    RegisterScript(config, kScript, m_ScriptPath);
     // The path of a lost image stays.
     if (!m_Image.IsEmpty() && !RegisterImage(config, m_Image, m_ImagePath))
         m_ImagePath.Empty();

@@ -6,23 +6,31 @@
 
 namespace orrelix {
 
+// A row per effect: the stem of its classes CStem and CStemDlg, its name, its description.
+#define ORRELIX_EFFECTS(EFFECT)                                                                              \
+    EFFECT(AnimateText, "Animate Text",                                                                      \
+           "DHTML Animate Text can show multiple texts with fade in and fade out effect.")                   \
+    EFFECT(TextShow, "Slide Text",                                                                           \
+           "DHTML Slide Text can show the characters of a text with the typewriter effect.")                 \
+    EFFECT(Calander, "Calender", "DHTML Calender is a month-based calander.")                                \
+    EFFECT(CoolLink, "Link Select Table",                                                                    \
+           "DHTML Link Select Table can List the Url in a select table with multiple effects.")              \
+    EFFECT(ScrollText, "Scroll Text",                                                                        \
+           "DHTML Scroll Text can scroll multiple texts in a specified rectangle.")                          \
+    EFFECT(FadeSelect, "Fade Select Box",                                                                    \
+           "DHTML Fade Select Box is an Url Select box with fade in and fade out effect.")                   \
+    EFFECT(ToolTip, "ToolTip", "DHTML ToolTip can set a cool tooltip for a HTML tag")                        \
+    EFFECT(TodayCa, "Cool Calender", "DHTML Cool Calender is an HTML perpetual calandar")                    \
+    EFFECT(DanceText, "Color Link", "DHTML Color Link can show a Url with multilpe colors ")
+
 struct CEffect {
     const char* m_pName;
     const char* m_pDescription;
 };
 
-inline constexpr CEffect kEffects[] = {
-    {"Animate Text", "DHTML Animate Text can show multiple texts with fade in and fade out effect."},
-    {"Slide Text", "DHTML Slide Text can show the characters of a text with the typewriter effect."},
-    {"Calender", "DHTML Calender is a month-based calander."},
-    {"Link Select Table",
-     "DHTML Link Select Table can List the Url in a select table with multiple effects."},
-    {"Scroll Text", "DHTML Scroll Text can scroll multiple texts in a specified rectangle."},
-    {"Fade Select Box", "DHTML Fade Select Box is an Url Select box with fade in and fade out effect."},
-    {"ToolTip", "DHTML ToolTip can set a cool tooltip for a HTML tag"},
-    {"Cool Calender", "DHTML Cool Calender is an HTML perpetual calandar"},
-    {"Color Link", "DHTML Color Link can show a Url with multilpe colors "},
-};
+#define EFFECT(stem, name, description) {name, description},
+inline constexpr CEffect kEffects[] = {ORRELIX_EFFECTS(EFFECT)};
+#undef EFFECT
 
 // The type by which files and hosts know an effect of the table.
 inline CString TypeOf(const CEffect& effect) {
