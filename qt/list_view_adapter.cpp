@@ -226,14 +226,27 @@ private:
             m_pView->selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     }
 
+    // Those of the rows that the view shows selected and the control hasn't, or the other way round. Rows side by
+    // side are one range: the view goes through all its ranges for each row that it draws.
+    QItemSelection WronglyMarked(int nFirst, int nEnd) const {
+        QItemSelection rows;
+        int nFrom = nFirst;
+        for (int nRow = nFirst; nRow <= nEnd; ++nRow) {
+            if (nRow < nEnd &&
+                m_pView->selectionModel()->isSelected(m_Rows.index(nRow, 0)) != m_List.IsSelected(nRow))
+                continue;
+            if (nFrom < nRow)
+                rows.select(m_Rows.index(nFrom, 0), m_Rows.index(nRow - 1, 0));
+            nFrom = nRow + 1;
+        }
+        return rows;
+    }
+
     // Which of these rows are selected; and the focused and the hot row.
     void ShowMarks(int nFirst, int nCount) {
         QItemSelectionModel& selection = *m_pView->selectionModel();
-        for (int nRow = nFirst; nRow < nFirst + nCount; ++nRow) {
-            const QModelIndex row = m_Rows.index(nRow, 0);
-            if (selection.isSelected(row) != m_List.IsSelected(nRow))
-                selection.select(row, QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
-        }
+        selection.select(WronglyMarked(nFirst, nFirst + nCount),
+                         QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
         const QModelIndex focused = m_Rows.index(m_List.GetFocusedItem(), 0);
         if (focused.row() != m_pView->currentIndex().row())
             selection.setCurrentIndex(focused, QItemSelectionModel::NoUpdate);
