@@ -8,6 +8,7 @@
 #include "toolkit/desktop.h"
 #include "toolkit/list_ctrl.h"
 
+#include <algorithm>
 #include <span>
 
 namespace orrelix {
