@@ -82,10 +82,11 @@ void CColourPicker::Draw(CCanvas& canvas, const CRect& rect, bool bPressed, bool
     inside.right -= m_ArrowRect.Width();
     canvas.FillRect(inside,
                     IsWindowEnabled() ? m_BackColour : canvas.GetSystemColour(SystemColour::ButtonFace));
+    canvas.FrameRect(inside, canvas.GetSystemColour(SystemColour::Shadow)); // a colour like the button's own
     if (!GetWindowText().IsEmpty())
         DrawCaption(canvas, inside);
     if (bFocused)
-        canvas.DrawFocusRect(inside.Deflated(1, 1));
+        canvas.DrawFocusRect(inside.Deflated(2, 2));
 }
 
 void CColourPicker::DrawCaption(CCanvas& canvas, const CRect& rect) const {

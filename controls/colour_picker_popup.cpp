@@ -119,18 +119,19 @@ int CColourPickerPopup::NextSelection(PopupKey key) const {
     return HasCustomBox() ? kCustomBox : nAround;
 }
 
-std::vector<CToolTipText> CColourPickerPopup::GetToolTips() const {
-    std::vector<CToolTipText> tips;
-    tips.reserve(GetColourTable().size());
+std::vector<CPopupCell> CColourPickerPopup::GetCells() const {
+    std::vector<CPopupCell> cells;
+    cells.reserve(GetColourTable().size() + 1);
     for (int nIndex = 0; nIndex < m_nColours; ++nIndex)
-        tips.push_back({RectOf(nIndex), TableRow(nIndex).m_Name});
-    return tips;
+        cells.push_back({RectOf(nIndex), TableRow(nIndex).m_Name});
+    if (HasCustomBox())
+        cells.push_back({m_CustomRect, m_CustomText, true});
+    return cells;
 }
 
-CString CColourPickerPopup::GetCurrentText() const {
-    if (m_nCurrentSel == kCustomBox)
-        return m_CustomText;
-    return m_nCurrentSel == kNone ? CString() : CString(TableRow(m_nCurrentSel).m_Name);
+// The box follows the cells.
+int CColourPickerPopup::GetCurrentCell() const {
+    return m_nCurrentSel == kCustomBox ? m_nColours : m_nCurrentSel;
 }
 
 void CColourPickerPopup::Draw(CCanvas& canvas) const {
@@ -150,9 +151,12 @@ void CColourPickerPopup::DrawSelectable(CCanvas& canvas, int nIndex, const CRect
     const bool bChosen = nIndex == m_nChosenSel;
     canvas.FillRect(rect,
                     canvas.GetSystemColour(bChosen && !bCurrent ? chosenFace : SystemColour::ButtonFace));
-    if (bCurrent)
+    if (bCurrent) {
         canvas.DrawEdge(rect, EDGE_RAISED_INNER, EDGE_RECT);
-    else if (bChosen)
+        // An edge has little contrast by itself, in some themes next to none.
+        canvas.FrameRect(rect.Deflated(1, 1), canvas.GetSystemColour(SystemColour::ButtonText));
+    }
+    if (bChosen && !bCurrent)
         canvas.DrawEdge(rect, EDGE_SUNKEN_OUTER, EDGE_RECT);
 }
 

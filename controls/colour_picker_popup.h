@@ -51,8 +51,8 @@ public:
     const CRect& GetCustomRect() const { return m_CustomRect; }
 
     const CRect& GetWindowRect() const override { return m_WindowRect; }
-    std::vector<CToolTipText> GetToolTips() const override;
-    CString GetCurrentText() const override;
+    std::vector<CPopupCell> GetCells() const override;
+    int GetCurrentCell() const override;
     void Draw(CCanvas& canvas) const override;
 
     void OnMouseMove(CPersonKey, CPoint point) override;

@@ -23,9 +23,7 @@ CAdapterPtr MakeEditOrNumber(const CControlDescription& description, CDialog& di
     CEdit& edit = dialog.Item<CEdit>(nId);
     if (CControl* pSpin = FindCompanion(dialog, nId, ControlKind::Spin))
         return MakeNumberAdapter(edit, static_cast<CSpinButtonCtrl&>(*pSpin), stage, parent);
-    const bool bShort =
-        description.Has(STYLE_DIGITS) || FindCompanion(dialog, nId, ControlKind::OwnerDrawnButton);
-    return MakeEditAdapter(edit, description, bShort, stage, parent);
+    return MakeEditAdapter(edit, description, stage, parent);
 }
 
 std::function<CString()> TextBeside(const CDialog& dialog, int nButton) {
@@ -69,7 +67,7 @@ CAdapterPtr MakeAdapter(const CControlDescription& description, CDialog& dialog,
     if (!pAdapter)
         return nullptr;
     // A form's label lends its name to some kinds of widgets only.
-    pAdapter->Widget()->setAccessibleName(ToQt(AccessibleNameOf(description)));
+    pAdapter->Widget()->setAccessibleName(ToQt(OwnNameOf(dialog.GetDescription(), description)));
     pAdapter->ShowControl();
     return pAdapter;
 }

@@ -18,8 +18,7 @@ using CAdapterPtr = std::unique_ptr<CControlAdapter>;
 
 CAdapterPtr MakeStaticAdapter(CStatic& text, const CControlDescription& description, CStage& stage,
                               QWidget& parent);
-// bShort: what the box is meant for is a number or a colour.
-CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
+CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, CStage& stage,
                             QWidget& parent);
 // One box with arrows for the two controls.
 CAdapterPtr MakeNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent);

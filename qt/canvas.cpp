@@ -3,6 +3,8 @@
 #include "qt/text.h"
 
 #include <QStyleOptionFocusRect>
+#include <algorithm>
+#include <cmath>
 
 namespace orrelix {
 
@@ -44,8 +46,36 @@ CRect FromQt(const QRect& rect) {
     return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
 }
 
+namespace {
+
+double Luminance(const QColor& colour) {
+    const auto linear = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const auto [nDark, nLight] = std::minmax(Luminance(one), Luminance(other));
+    return (nLight + 0.05) / (nDark + 0.05);
+}
+
+// The theme's colour for shadows, drawn towards the text's until it stands out from a button's face by the
+// three to one that a line needs to be seen.
+QColor ShadowOf(const QPalette& palette) {
+    const QColor face = palette.color(QPalette::Button), text = palette.color(QPalette::ButtonText);
+    QColor shadow = palette.color(QPalette::Dark);
+    for (int nStep = 0; nStep < 8 && Contrast(shadow, face) < 3; ++nStep)
+        shadow = QColor((shadow.red() * 3 + text.red()) / 4, (shadow.green() * 3 + text.green()) / 4,
+                        (shadow.blue() * 3 + text.blue()) / 4);
+    return shadow;
+}
+
+} // namespace
+
 CColour SystemColourOf(const QPalette& palette, SystemColour colour) {
-    return FromQt(palette.color(RoleOf(colour)));
+    return FromQt(colour == SystemColour::Shadow ? ShadowOf(palette) : palette.color(RoleOf(colour)));
 }
 
 CColour CQtCanvas::GetSystemColour(SystemColour colour) const {
@@ -70,7 +100,7 @@ void CQtCanvas::DrawLine(CPoint from, CPoint to, CColour colour) {
 void CQtCanvas::DrawEdge(const CRect& rect, unsigned nStyle, unsigned nFlags) {
     const QPalette& palette = m_Widget.palette();
     const QColor light = palette.color(QPalette::Light), midlight = palette.color(QPalette::Midlight),
-                 dark = palette.color(QPalette::Dark);
+                 dark = ShadowOf(palette);
     QRect inside = ToQt(rect);
     if (nStyle & (EDGE_RAISED_OUTER | EDGE_SUNKEN_OUTER)) {
         const bool bRaised = (nStyle & EDGE_RAISED_OUTER) != 0;

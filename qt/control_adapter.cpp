@@ -42,4 +42,10 @@ void CControlAdapter::ShowText(QLineEdit& box, const CString& shown) {
     box.setCursorPosition(box.hasFocus() ? static_cast<int>(qMax<qsizetype>(0, text.size() - nBehind)) : 0);
 }
 
+void CControlAdapter::TypeText(QLineEdit& box, const CString& text) {
+    CShowing showing(*this);
+    box.selectAll();
+    box.insert(ToQt(text));
+}
+
 } // namespace orrelix

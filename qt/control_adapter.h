@@ -69,6 +69,8 @@ protected:
     // Puts the text, which is the control's, into the box, where it differs. The cursor stays before the text that it stands
     // before; in a box that the person isn't in, the start of the text shows.
     void ShowText(QLineEdit& box, const CString& text);
+    // The same as if the person had typed it: the box can undo it.
+    void TypeText(QLineEdit& box, const CString& text);
 
     class CShowing {
     public:

@@ -48,6 +48,8 @@ bool GrowsDown(const CDialogItem& item) {
 
 // The same for its width.
 bool GrowsAcross(const CDialogItem& item) {
+    if (item.m_Kind == Kind::Picture)
+        return false;
     if (item.m_Kind != Kind::Control)
         return std::any_of(item.m_Items.begin(), item.m_Items.end(), GrowsAcross);
     return item.m_Control.m_Kind != ControlKind::Button;
@@ -90,15 +92,19 @@ CDialogItem ColumnOf(const CDialogItem& item) {
 
 class CDialogLayout {
 public:
-    CDialogLayout(QWidget& window, const CPlaceControl& place) : m_Window(window), m_Place(place) {}
+    CDialogLayout(QWidget& window, CWidgetMaker& place) : m_Window(window), m_Place(place) {}
 
-    void Fill(const CDialogItem& content) {
-        if (content.m_Kind == Kind::Column)
-            LayOutColumn(content, m_Window);
-        else
-            LayOutColumn(ColumnOf(content), m_Window);
+    QWidget* Fill(const CDialogItem& content, QWidget& body) {
+        CDialogItem column = content.m_Kind == Kind::Column ? content : ColumnOf(content);
+        const CDialogItem last = column.m_Items.back();
+        const bool bClosing = IsClosingRow(last);
+        if (bClosing)
+            column.m_Items.pop_back();
+        LayOutColumn(column, body);
+        QWidget* pClosing = bClosing ? ClosingButtons(last) : nullptr;
         for (size_t nStop = 1; nStop < m_TabStops.size(); ++nStop)
             QWidget::setTabOrder(m_TabStops[nStop - 1], m_TabStops[nStop]);
+        return pClosing;
     }
 
 private:
@@ -119,14 +125,14 @@ private:
                 nPairs = std::max(nPairs, rows.back().size());
         }
         auto* pLayout = new QGridLayout(&parent);
-        if (&parent != &m_Window && column.m_Kind != Kind::Group)
+        if (column.m_Kind != Kind::Group)
             pLayout->setContentsMargins(0, 0, 0, 0);
         const CGrid grid{*pLayout, parent, static_cast<int>(nPairs) * 2, HasOnlyButtons(column)};
         for (int nBoxes = 1; nBoxes < grid.m_nColumns; nBoxes += 2)
             pLayout->setColumnStretch(nBoxes, 1);
         for (size_t nRow = 0; nRow < rows.size(); ++nRow)
             AddRow(grid, column.m_Items[nRow], rows[nRow]);
-        if (!GrowsDown(column) && &parent != &m_Window)
+        if (!GrowsDown(column))
             pLayout->setRowStretch(pLayout->rowCount(), 1);
     }
 
@@ -137,9 +143,7 @@ private:
 
     void AddRow(const CGrid& grid, const CDialogItem& item, const std::vector<CField>& fields) {
         const int nRow = grid.m_Layout.rowCount();
-        if (IsClosingRow(item))
-            AddClosingButtons(grid, item);
-        else if (IsFormRow(fields))
+        if (IsFormRow(fields))
             AddFormRow(grid, nRow, fields);
         else if (fields.size() == 1)
             AddSingle(grid, nRow, fields.front());
@@ -147,17 +151,6 @@ private:
             grid.m_Layout.addLayout(Line(item.m_Items, grid.m_Parent), nRow, 0, 1, grid.m_nColumns);
         if (GrowsDown(item))
             grid.m_Layout.setRowStretch(grid.m_Layout.rowCount() - 1, 1);
-    }
-
-    // Height that no list takes goes between the rest and the closing buttons.
-    void AddClosingButtons(const CGrid& grid, const CDialogItem& row) {
-        const int nGap = grid.m_Layout.rowCount();
-        bool bGrows = false;
-        for (int nRow = 0; nRow < nGap; ++nRow)
-            bGrows |= grid.m_Layout.rowStretch(nRow) > 0;
-        grid.m_Layout.setRowMinimumHeight(nGap, grid.m_Layout.verticalSpacing());
-        grid.m_Layout.setRowStretch(nGap, bGrows ? 0 : 1);
-        grid.m_Layout.addWidget(ClosingButtons(row, grid.m_Parent), nGap + 1, 0, 1, grid.m_nColumns);
     }
 
     void AddFormRow(const CGrid& grid, int nRow, const std::vector<CField>& fields) {
@@ -193,11 +186,15 @@ private:
 
     QHBoxLayout* BoxAndMore(const CField& field, QWidget& parent, QLabel* pLabel) {
         auto* pLine = new QHBoxLayout;
-        pLine->addWidget(Place(field.First(), parent, pLabel), 1);
+        QWidget* pFirst = Place(field.First(), parent, pLabel);
+        const bool bFixed = pFirst->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+        pLine->addWidget(pFirst, bFixed ? 0 : 1);
         for (size_t nItem = 1; nItem < field.m_Items.size(); ++nItem) {
             if (QWidget* pPlaced = Place(*field.m_Items[nItem], parent, nullptr))
                 pLine->addWidget(pPlaced);
         }
+        if (bFixed)
+            pLine->addStretch(1);
         return pLine;
     }
 
@@ -222,6 +219,8 @@ private:
     QWidget* Place(const CDialogItem& item, QWidget& parent, QLabel* pLabel) {
         if (item.m_Kind == Kind::Control)
             return PlaceControl(item.m_Control, parent, pLabel);
+        if (item.m_Kind == Kind::Picture)
+            return m_Place.PlacePicture(item, parent);
         QWidget* pBox =
             item.m_Kind == Kind::Group ? new QGroupBox(ToQt(item.m_pTitle), &parent) : new QWidget(&parent);
         if (item.m_Kind == Kind::Row) {
@@ -234,7 +233,7 @@ private:
     }
 
     QWidget* PlaceControl(const CControlDescription& control, QWidget& parent, QLabel* pLabel) {
-        const CPlacedControl placed = m_Place(control, parent);
+        const CPlacedControl placed = m_Place.PlaceControl(control, parent);
         if (!placed.m_pWidget)
             return nullptr;
         if (pLabel)
@@ -260,11 +259,19 @@ private:
         return Qt::Alignment(nStyle) | Qt::AlignVCenter;
     }
 
-    QWidget* ClosingButtons(const CDialogItem& row, QWidget& parent) {
-        auto* pBox = new QDialogButtonBox(&parent);
+    // Their icons are those of the message boxes' buttons, where the style has any.
+    QWidget* ClosingButtons(const CDialogItem& row) {
+        auto* pBox = new QDialogButtonBox(&m_Window);
+        const bool bIcons =
+            pBox->style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, pBox);
         for (const CDialogItem& item : row.m_Items) {
             const CControlDescription& control = item.m_Control;
-            auto* pButton = static_cast<QPushButton*>(m_Place(control, *pBox).m_pWidget);
+            auto* pButton = static_cast<QPushButton*>(m_Place.PlaceControl(control, *pBox).m_pWidget);
+            if (bIcons && control.m_nId == IDOK)
+                pButton->setIcon(pBox->style()->standardIcon(QStyle::SP_DialogOkButton, nullptr, pButton));
+            if (bIcons && control.m_nId == IDCANCEL)
+                pButton->setIcon(
+                    pBox->style()->standardIcon(QStyle::SP_DialogCancelButton, nullptr, pButton));
             pBox->addButton(pButton, control.m_nId == IDOK       ? QDialogButtonBox::AcceptRole
                                      : control.m_nId == IDCANCEL ? QDialogButtonBox::RejectRole
                                                                  : QDialogButtonBox::ActionRole);
@@ -277,14 +284,15 @@ private:
     }
 
     QWidget& m_Window;
-    const CPlaceControl& m_Place;
+    CWidgetMaker& m_Place;
     std::vector<QWidget*> m_TabStops;
 };
 
 } // namespace
 
-void LayOutDialog(const CDialogDescription& description, QWidget& window, const CPlaceControl& place) {
-    CDialogLayout(window, place).Fill(description.m_Content);
+QWidget* LayOutDialog(const CDialogDescription& description, QWidget& body, QWidget& window,
+                      CWidgetMaker& maker) {
+    return CDialogLayout(window, maker).Fill(description.m_Content, body);
 }
 
 } // namespace orrelix

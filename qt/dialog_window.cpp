@@ -1,8 +1,11 @@
 #include "qt/dialog_window.h"
 
-#include "qt/dialog_layout.h"
+#include "qt/moving_picture.h"
 #include "qt/text.h"
+#include "qt/window_place.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QScreen>
 #include <QScrollArea>
@@ -12,23 +15,15 @@ namespace orrelix {
 namespace {
 
 constexpr int kWindowFrame = 48; // roughly what title bar and edges take
+constexpr int kGapBeforeBar = 4;
 
 } // namespace
 
 CDialogWindow::CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent)
-    : QDialog(pParent), m_Dialog(dialog), m_Key(key), m_pContent(new QWidget(this)) {
-    const CDialogDescription& description = dialog.GetDescription();
-    setWindowTitle(ToQt(description.m_pTitle));
-    LayOutDialog(description, *m_pContent, [this](const CControlDescription& control, QWidget& parent) {
-        std::unique_ptr<CControlAdapter> pAdapter = MakeAdapter(control, m_Dialog, *this, parent);
-        if (!pAdapter)
-            return CPlacedControl();
-        m_Adapters.push_back(std::move(pAdapter));
-        return CPlacedControl{m_Adapters.back()->Widget(), m_Adapters.back()->Placed()};
-    });
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    pLayout->addWidget(FittedToScreen());
+    : QDialog(pParent), m_Dialog(dialog), m_Key(key), m_pBody(new QWidget(this)) {
+    setWindowTitle(ToQt(dialog.GetDescription().m_pTitle));
+    LayOut();
+    RestorePlace(*this, windowTitle());
     m_Dialog.SetObserver(this);
 }
 
@@ -36,21 +31,53 @@ CDialogWindow::~CDialogWindow() {
     m_Dialog.SetObserver(nullptr);
     if (QWidget* pFocus = focusWidget()) // a button that loses it on its way looks at others that may be gone
         pFocus->clearFocus();
-    delete m_pContent; // while the adapters are there to listen
+    delete m_pBody; // while the adapters are there to listen
 }
 
-// Where the screen is too small for the content, or the font too large, it scrolls.
-QWidget* CDialogWindow::FittedToScreen() {
-    const QSize least = m_pContent->minimumSizeHint();
+CPlacedControl CDialogWindow::PlaceControl(const CControlDescription& control, QWidget& parent) {
+    std::unique_ptr<CControlAdapter> pAdapter = MakeAdapter(control, m_Dialog, *this, parent);
+    if (!pAdapter)
+        return {};
+    m_Adapters.push_back(std::move(pAdapter));
+    return {m_Adapters.back()->Widget(), m_Adapters.back()->Placed()};
+}
+
+QWidget* CDialogWindow::PlacePicture(const CDialogItem& picture, QWidget& parent) {
+    auto* pList = dynamic_cast<QAbstractItemView*>(WidgetOf(*m_Dialog.FindItem(picture.m_nList)));
+    return new CMovingPicture(*pList, picture.m_Pictures, &parent);
+}
+
+// Where the screen is too small for the body, or the font too large, it scrolls. The closing buttons stay.
+void CDialogWindow::LayOut() {
+    auto* pLayout = new QVBoxLayout(this);
+    QWidget* pClosing = LayOutDialog(m_Dialog.GetDescription(), *m_pBody, *this, *this);
+    if (pClosing)
+        pLayout->addWidget(pClosing);
+    const QSize around = pLayout->totalMinimumSize() + QSize(0, pClosing ? pLayout->spacing() : 0);
     const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
-    if (least.width() <= room.width() && least.height() <= room.height())
-        return m_pContent;
+    const QSize least = m_pBody->minimumSizeHint();
+    const QMargins margins = pLayout->contentsMargins();
+    const int nAcross = room.width() - margins.left() - margins.right();
+    const bool bFits = least.width() <= nAcross && least.height() <= room.height() - around.height();
+    pLayout->insertWidget(0, bFits ? m_pBody : Scrolling(nAcross), 1);
+    if (!bFits)
+        resize(sizeHint().boundedTo(room));
+}
+
+// The body in an area that scrolls, and never across while it fits `nRoom` beside the upright bar.
+QWidget* CDialogWindow::Scrolling(int nRoom) {
     auto* pArea = new QScrollArea(this);
     pArea->setFrameShape(QFrame::NoFrame);
     pArea->setFocusPolicy(Qt::NoFocus);
     pArea->setWidgetResizable(true);
-    pArea->setWidget(m_pContent);
-    resize(m_pContent->sizeHint().boundedTo(room));
+    pArea->setWidget(m_pBody);
+    const int nBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, pArea) + kGapBeforeBar;
+    m_pBody->layout()->setContentsMargins(0, 0, kGapBeforeBar, 0);
+    pArea->setMinimumWidth(qMin(m_pBody->minimumSizeHint().width() + nBar, nRoom));
+    connect(qApp, &QApplication::focusChanged, pArea, [pArea](QWidget*, QWidget* pNow) {
+        if (pNow && pArea->isAncestorOf(pNow))
+            pArea->ensureWidgetVisible(pNow);
+    });
     return pArea;
 }
 
@@ -81,6 +108,12 @@ void CDialogWindow::Play(const std::function<void(CPersonKey)>& act) {
 void CDialogWindow::Fail() {
     m_pFailure = std::current_exception();
     done(Rejected);
+}
+
+void CDialogWindow::done(int nResult) {
+    if (isVisible())
+        KeepPlace(*this, windowTitle());
+    QDialog::done(nResult);
 }
 
 void CDialogWindow::FinishEditing() {

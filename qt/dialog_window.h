@@ -2,6 +2,7 @@
 #pragma once
 
 #include "qt/control_adapter.h"
+#include "qt/dialog_layout.h"
 #include "toolkit/dialog.h"
 
 #include <QDialog>
@@ -10,7 +11,7 @@
 
 namespace orrelix {
 
-class CDialogWindow : public QDialog, private CDialogObserver, private CStage {
+class CDialogWindow : public QDialog, private CDialogObserver, private CStage, private CWidgetMaker {
 public:
     // The dialog must outlive the window.
     CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent);
@@ -25,18 +26,23 @@ public:
     std::exception_ptr GetFailure() const { return m_pFailure; }
 
     void reject() override;
+    void done(int nResult) override;
 
 private:
     void OnDialogEnded() override { done(Accepted); }
     void Play(const std::function<void(CPersonKey)>& act) override;
     void FinishEditing() override;
 
-    QWidget* FittedToScreen();
+    CPlacedControl PlaceControl(const CControlDescription& control, QWidget& parent) override;
+    QWidget* PlacePicture(const CDialogItem& picture, QWidget& parent) override;
+
+    void LayOut();
+    QWidget* Scrolling(int nRoom);
     void showEvent(QShowEvent* pEvent) override;
 
     CDialog& m_Dialog;
     CPersonKey m_Key;
-    QWidget* m_pContent;
+    QWidget* m_pBody; // all but the closing buttons
     std::vector<std::unique_ptr<CControlAdapter>> m_Adapters;
     std::exception_ptr m_pFailure;
 };

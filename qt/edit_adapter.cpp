@@ -1,54 +1,91 @@
 #include "qt/adapters.h"
+#include "qt/box_mark.h"
 #include "qt/text.h"
 
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 
 namespace orrelix {
 
 namespace {
 
-// What a box has room for, in characters: a colour or a number; an address.
-constexpr int kShortText = 7;
+// How many characters a box has room for, and at least, when the window is small.
+constexpr int kDigits = 7;
 constexpr int kUsualText = 32;
+constexpr int kLeastText = 12;
 
+bool IsHexColour(const QString& text) {
+    static const QRegularExpression sixDigits("^[0-9A-Fa-f]{6}$");
+    return sixDigits.match(text).hasMatch();
+}
+
+bool MayBecomeHexColour(const QString& text) {
+    static const QRegularExpression someDigits("^[0-9A-Fa-f]{0,6}$");
+    return someDigits.match(text).hasMatch();
+}
+
+// A box for a colour or for digits is as wide as these need it and no wider.
 class CLineBox : public QLineEdit {
 public:
-    CLineBox(QWidget* pParent, int nCharacters) : QLineEdit(pParent), m_nCharacters(nCharacters) {}
+    CLineBox(QWidget* pParent, const CControlDescription& description)
+        : QLineEdit(pParent), m_bColour(description.Has(STYLE_COLOUR)),
+          m_bShort(m_bColour || description.Has(STYLE_DIGITS)) {
+        if (m_bShort)
+            setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
 
-    QSize sizeHint() const override { return {WidthOf(m_nCharacters), QLineEdit::sizeHint().height()}; }
+    QSize sizeHint() const override { return {WidthOf(kUsualText), QLineEdit::sizeHint().height()}; }
     QSize minimumSizeHint() const override {
-        return {WidthOf(qMin(m_nCharacters, kShortText)), QLineEdit::minimumSizeHint().height()};
+        return {WidthOf(kLeastText), QLineEdit::minimumSizeHint().height()};
     }
 
 private:
     int WidthOf(int nCharacters) const {
-        return fontMetrics().horizontalAdvance(QString(nCharacters, '0')) +
-               fontMetrics().averageCharWidth() * 2;
+        const QString widest = m_bColour  ? QString("dddddd")
+                               : m_bShort ? QString(kDigits, '0')
+                                          : QString(nCharacters, '0');
+        const int nAround = fontMetrics().averageCharWidth() * 2;
+        return fontMetrics().horizontalAdvance(widest) + nAround + (m_bColour ? CBoxMark::WidthIn(*this) : 0);
     }
 
-    int m_nCharacters;
+    const bool m_bColour;
+    const bool m_bShort;
 };
 
 class CLineAdapter : public CControlAdapter {
 public:
-    CLineAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
-                 QWidget& parent)
-        : CControlAdapter(edit, stage), m_Edit(edit),
-          m_pBox(new CLineBox(&parent, bShort ? kShortText : kUsualText)) {
+    CLineAdapter(CEdit& edit, const CControlDescription& description, CStage& stage, QWidget& parent)
+        : CControlAdapter(edit, stage), m_Edit(edit), m_pBox(new CLineBox(&parent, description)),
+          m_Mark(*m_pBox, *m_pBox), m_bColour(description.Has(STYLE_COLOUR)) {
         if (description.Has(STYLE_DIGITS))
             m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
         ListenTo(*m_pBox, [this](const CString& text) {
             Play([&](CPersonKey key) { m_Edit.PersonTypes(key, m_Edit.FromPerson(text)); });
             ShowAll(); // the control may have taken only a part of it
         });
+        connect(m_pBox, &QLineEdit::editingFinished, this, [this] { ShowMark(); });
     }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(*m_pBox, m_Edit.ForPerson()); }
+
+    void ShowAll() override {
+        ShowText(*m_pBox, m_Edit.ForPerson());
+        ShowMark();
+    }
 
 private:
+    // Nobody is told of a colour that is still being typed.
+    void ShowMark() {
+        const QString text = m_pBox->text();
+        const bool bFine =
+            text.isEmpty() || IsHexColour(text) || (m_pBox->hasFocus() && MayBecomeHexColour(text));
+        m_Mark.Show(m_bColour && !bFine ? "Not a color: a color is six digits from 0 to 9 and a to f" : "");
+    }
+
     CEdit& m_Edit;
     CLineBox* m_pBox;
+    CBoxMark m_Mark;
+    const bool m_bColour;
 };
 
 class CTextArea : public QPlainTextEdit {
@@ -105,11 +142,11 @@ private:
 
 } // namespace
 
-CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, bool bShort, CStage& stage,
+CAdapterPtr MakeEditAdapter(CEdit& edit, const CControlDescription& description, CStage& stage,
                             QWidget& parent) {
     if (edit.IsMultiLine())
         return std::make_unique<CTextAreaAdapter>(edit, stage, parent);
-    return std::make_unique<CLineAdapter>(edit, description, bShort, stage, parent);
+    return std::make_unique<CLineAdapter>(edit, description, stage, parent);
 }
 
 } // namespace orrelix

@@ -33,8 +33,7 @@ public:
 
 private:
     QSize OfRows(int nCharacters, int nRows) const {
-        return {fontMetrics().averageCharWidth() * nCharacters,
-                (fontMetrics().lineSpacing() + 2) * nRows + 2 * frameWidth()};
+        return {fontMetrics().averageCharWidth() * nCharacters, RowHeight() * nRows + 2 * frameWidth()};
     }
 };
 

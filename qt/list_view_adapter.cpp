@@ -120,7 +120,7 @@ public:
     }
 
 private:
-    int HeightOfRows(int nRows) const { return (fontMetrics().lineSpacing() + 3) * nRows + 2 * frameWidth(); }
+    int HeightOfRows(int nRows) const { return RowHeight() * nRows + 2 * frameWidth(); }
 };
 
 class CFileView : public CRowsView<QListView> {
@@ -135,7 +135,7 @@ public:
     }
 
     QSize sizeHint() const override {
-        return {fontMetrics().averageCharWidth() * 64, fontMetrics().lineSpacing() * 14};
+        return {fontMetrics().averageCharWidth() * 64, (RowHeight() + 2 * spacing()) * 10 + 2 * frameWidth()};
     }
 
     void ShowColumns(const CListCtrl&) {}

@@ -1,8 +1,10 @@
 #include "qt/adapters.h"
+#include "qt/box_mark.h"
 #include "qt/quiet_wheel.h"
 #include "qt/text.h"
 
 #include <QAbstractSpinBox>
+#include <QRegularExpression>
 #include <QStyleOptionSpinBox>
 
 namespace orrelix {
@@ -12,7 +14,9 @@ namespace {
 // A box with arrows for any text: what a number is and where it ends is the controls' matter.
 class CNumberBox : public CQuietWheel<QAbstractSpinBox> {
 public:
-    CNumberBox(CSpinButtonCtrl& spin, QWidget* pParent) : CQuietWheel(pParent), m_Spin(spin) {}
+    CNumberBox(CSpinButtonCtrl& spin, QWidget* pParent) : CQuietWheel(pParent), m_Spin(spin) {
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
 
     std::function<void(int)> m_OnSteps;
     QLineEdit& Line() const { return *lineEdit(); }
@@ -23,7 +27,8 @@ public:
         QStyleOptionSpinBox option;
         initStyleOption(&option);
         const QString widest = QString(qMax<qsizetype>(6, QString::number(m_Spin.GetUpper()).size()), '0');
-        const QSize contents(fontMetrics().horizontalAdvance(widest), Line().sizeHint().height());
+        const QSize contents(fontMetrics().horizontalAdvance(widest) + CBoxMark::WidthIn(*this),
+                             Line().sizeHint().height());
         return style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, this);
     }
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -48,10 +53,12 @@ class CNumberAdapter : public CControlAdapter {
 public:
     CNumberAdapter(CEdit& edit, CSpinButtonCtrl& spin, CStage& stage, QWidget& parent)
         : CControlAdapter(edit, stage), m_Spin(spin), m_pBox(new CNumberBox(spin, &parent)),
-          m_SpinEar(*m_pBox) {
+          m_Mark(m_pBox->Line(), *m_pBox), m_SpinEar(*m_pBox) {
         m_Spin.SetObserver(&m_SpinEar);
         m_pBox->m_OnSteps = [this](int nSteps) {
+            m_bTurning = true;
             Play([&](CPersonKey key) { m_Spin.PersonTurns(key, nSteps); });
+            m_bTurning = false;
         };
         ListenTo(m_pBox->Line(), [this, &edit](const CString& text) {
             Play([&](CPersonKey key) { edit.PersonTypes(key, text); });
@@ -61,7 +68,16 @@ public:
     ~CNumberAdapter() override { m_Spin.SetObserver(nullptr); }
 
     QWidget* Widget() const override { return m_pBox; }
-    void ShowAll() override { ShowText(m_pBox->Line(), Control().GetWindowText()); }
+
+    void ShowAll() override {
+        if (m_bTurning)
+            TypeText(m_pBox->Line(), Control().GetWindowText());
+        else
+            ShowText(m_pBox->Line(), Control().GetWindowText());
+        static const QRegularExpression number("^\\s*[+-]?\\d");
+        const QString text = m_pBox->Line().text();
+        m_Mark.Show(text.isEmpty() || number.match(text).hasMatch() ? "" : "Not a number");
+    }
 
 private:
     // The position shows as the edit box's text; what is left to show is which arrows work.
@@ -76,6 +92,8 @@ private:
 
     CSpinButtonCtrl& m_Spin;
     CNumberBox* m_pBox;
+    CBoxMark m_Mark;
+    bool m_bTurning = false;
     CSpinEar m_SpinEar;
 };
 

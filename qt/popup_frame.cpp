@@ -1,6 +1,7 @@
 #include "qt/popup_frame.h"
 
 #include "qt/canvas.h"
+#include "qt/popup_accessible.h"
 #include "qt/text.h"
 
 #include <QApplication>
@@ -19,12 +20,12 @@ CPoint PointOf(const QMouseEvent& event) {
 
 CPopupFrame::CPopupFrame(CPopupWindow& popup, CPersonKey key, QWidget* pParent, std::function<void()> fail)
     : QWidget(pParent, Qt::Popup), m_pPopup(&popup), m_Key(key), m_Fail(std::move(fail)) {
+    MakePopupsAccessible();
     setAttribute(Qt::WA_QuitOnClose, false);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     if (const QWidget* pButton = pParent ? pParent->focusWidget() : nullptr)
-        m_Name = pButton->accessibleName();
-    setAccessibleName(m_Name);
+        setAccessibleName(pButton->accessibleName());
     const QRect rect = ToQt(popup.GetWindowRect());
     setFixedSize(rect.size());
     setGeometry(rect);
@@ -42,10 +43,8 @@ CPopupFrame::~CPopupFrame() {
     LetGo();
 }
 
-// A screen reader says a new name of what has the focus.
-void CPopupFrame::OnPopupChanged(CPopupWindow& popup) {
-    const CString current = popup.GetCurrentText();
-    setAccessibleName(current.IsEmpty() ? m_Name : ToQt(current) + ", " + m_Name);
+void CPopupFrame::OnPopupChanged(CPopupWindow&) {
+    AnnounceCurrentCell(*this);
     update();
 }
 
@@ -93,11 +92,18 @@ bool CPopupFrame::event(QEvent* pEvent) {
 }
 
 void CPopupFrame::ShowToolTip(const QHelpEvent& help) {
-    for (const CToolTipText& tip : m_pPopup->GetToolTips()) {
-        if (tip.m_Rect.PtInRect({help.pos().x(), help.pos().y()}))
-            return QToolTip::showText(help.globalPos(), PlainTip(ToQt(tip.m_Text)), this, ToQt(tip.m_Rect));
+    for (const CPopupCell& cell : m_pPopup->GetCells()) {
+        if (cell.m_Rect.PtInRect({help.pos().x(), help.pos().y()}))
+            return ShowToolTip(cell, help.globalPos());
     }
     QToolTip::hideText();
+}
+
+void CPopupFrame::ShowToolTip(const CPopupCell& cell, QPoint place) {
+    if (cell.m_bTextShows)
+        QToolTip::hideText();
+    else
+        QToolTip::showText(place, PlainTip(ToQt(cell.m_Text)), this, ToQt(cell.m_Rect));
 }
 
 void CPopupFrame::paintEvent(QPaintEvent*) {
@@ -129,8 +135,19 @@ void CPopupFrame::keyPressEvent(QKeyEvent* pEvent) {
         {Qt::Key_Enter, PopupKey::Return},  {Qt::Key_Space, PopupKey::Space},
     };
     const auto key = keys.constFind(pEvent->key());
-    if (key != keys.constEnd())
-        Play([&](CPopupWindow& popup) { popup.OnKeyDown(m_Key, *key); });
+    if (key == keys.constEnd())
+        return;
+    Play([&](CPopupWindow& popup) { popup.OnKeyDown(m_Key, *key); });
+    ShowToolTipOfCurrentCell();
+}
+
+// Who works it by keys gets the tips without a pointer's resting.
+void CPopupFrame::ShowToolTipOfCurrentCell() {
+    const int nCurrent = GetCurrentCell();
+    if (m_bClosing || nCurrent < 0)
+        return;
+    const CPopupCell cell = GetCells()[static_cast<size_t>(nCurrent)];
+    ShowToolTip(cell, mapToGlobal(ToQt(cell.m_Rect).bottomLeft()));
 }
 
 // The system takes popups away when the person goes elsewhere, and so does a new window.

@@ -16,6 +16,11 @@ public:
     // Sees to it that the popup ends, if it hasn't.
     ~CPopupFrame() override;
 
+    std::vector<CPopupCell> GetCells() const {
+        return m_pPopup ? m_pPopup->GetCells() : std::vector<CPopupCell>();
+    }
+    int GetCurrentCell() const { return m_pPopup ? m_pPopup->GetCurrentCell() : -1; }
+
     bool Shows(const CPopupWindow& popup) const { return m_pPopup == &popup; }
 
     // Tells the popup that the person, or the window below it, has gone.
@@ -36,6 +41,8 @@ protected:
 private:
     void OnPopupChanged(CPopupWindow& popup) override;
     void ShowToolTip(const QHelpEvent& help);
+    void ShowToolTip(const CPopupCell& cell, QPoint place);
+    void ShowToolTipOfCurrentCell();
 
     void Play(const std::function<void(CPopupWindow&)>& act);
     void LetGo();
@@ -43,7 +50,6 @@ private:
     CPopupWindow* m_pPopup; // null when it has been let go
     CPersonKey m_Key;
     std::function<void()> m_Fail;
-    QString m_Name; // of the button that opened it
     bool m_bClosing = false;
     int m_nEvents = 0;
 };

@@ -32,6 +32,17 @@ public:
     // While this is true, changes of the selection are the program's.
     std::function<bool()> m_IsShowing;
 
+    // The height of a row as the style has it.
+    int RowHeight() const {
+        QStyleOptionViewItem row;
+        row.initFrom(this);
+        row.font = this->font();
+        row.features = QStyleOptionViewItem::HasDisplay;
+        row.text = "X";
+        row.decorationSize = this->iconSize();
+        return this->style()->sizeFromContents(QStyle::CT_ItemViewItem, &row, {}, this).height();
+    }
+
     using TView::edit;
 
     void setModel(QAbstractItemModel* pModel) override {
@@ -43,13 +54,12 @@ public:
 
 protected:
     bool event(QEvent* pEvent) override {
-        if (pEvent->type() == QEvent::FocusIn) // makes some row the current one; nobody chose it
-            return Quietly([&] { return TView::event(pEvent); });
+        if (pEvent->type() == QEvent::FocusIn)
+            return TakeFocus(pEvent);
         return Within([&] { return TView::event(pEvent); });
     }
 
-    // Where nothing is selected, the row that Qt took for the current one at the focus's coming was never
-    // seen to be: the first key selects a row, and doesn't go on from there. Space on the selected row is the
+    // Where nothing is selected, the first key selects a row. Space on the selected row is the
     // double click of those who have no mouse.
     void keyPressEvent(QKeyEvent* pEvent) override {
         const int nKey = pEvent->key();
@@ -101,10 +111,13 @@ private:
         return bDone;
     }
 
-    template <class TAct>
-    bool Quietly(TAct act) {
+    // Qt makes some row the current one then, which looks as if somebody had chosen it.
+    bool TakeFocus(QEvent* pEvent) {
+        const bool bCurrent = this->currentIndex().isValid();
         m_bQuiet = true;
-        const bool bDone = act();
+        const bool bDone = TView::event(pEvent);
+        if (!bCurrent)
+            this->selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
         m_bQuiet = false;
         return bDone;
     }

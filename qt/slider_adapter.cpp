@@ -28,6 +28,11 @@ public:
         pLine->addWidget(new QLabel(ToQt(description.m_pFrom), m_pBox));
         pLine->addWidget(m_pSlider, 1);
         pLine->addWidget(new QLabel(ToQt(description.m_pTo), m_pBox));
+        m_pNumber = new QLabel(m_pBox);
+        m_pNumber->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        m_pNumber->setMinimumWidth(
+            m_pNumber->fontMetrics().horizontalAdvance(QString::number(description.m_nUpper) + "0"));
+        pLine->addWidget(m_pNumber);
         connect(m_pSlider, &QSlider::valueChanged, this, [this](int nValue) {
             if (!IsShowing())
                 Play([&](CPersonKey key) { m_Slider.PersonMoves(key, nValue); });
@@ -44,6 +49,7 @@ public:
         m_pSlider->setPageStep(qMax(1, m_Slider.GetTicFreq()));
         m_pSlider->setSingleStep(qMax(1, m_Slider.GetTicFreq() / 10));
         m_pSlider->setValue(m_Slider.GetPos());
+        m_pNumber->setNum(m_Slider.GetPos());
     }
 
 private:
@@ -52,6 +58,7 @@ private:
     CSliderCtrl& m_Slider;
     QWidget* m_pBox;
     QSlider* m_pSlider;
+    QLabel* m_pNumber; // of the position
 };
 
 } // namespace

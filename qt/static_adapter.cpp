@@ -13,15 +13,24 @@ public:
     CTextLabel(QWidget* pParent, bool bFilledLater) : QLabel(pParent), m_bFilledLater(bFilledLater) {
         setTextFormat(Qt::PlainText);
         setWordWrap(true);
+        if (bFilledLater)
+            setAlignment(Qt::AlignLeft | Qt::AlignTop);
     }
 
     QSize minimumSizeHint() const override {
-        return m_bFilledLater ? QLabel::minimumSizeHint().expandedTo(
-                                    {fontMetrics().averageCharWidth() * 36, fontMetrics().lineSpacing() * 2})
-                              : QLabel::minimumSizeHint();
+        const int nWidth = m_bFilledLater ? fontMetrics().averageCharWidth() * 36 : 0;
+        return QLabel::minimumSizeHint().expandedTo({nWidth, LeastHeight()});
+    }
+    // A text of one line takes as much height as one of two, so that nothing jumps when it changes.
+    int heightForWidth(int nWidth) const override {
+        return qMax(QLabel::heightForWidth(nWidth), LeastHeight());
     }
 
 private:
+    int LeastHeight() const {
+        return m_bFilledLater ? fontMetrics().lineSpacing() * 2 + 2 * (margin() + frameWidth()) : 0;
+    }
+
     bool m_bFilledLater;
 };
 

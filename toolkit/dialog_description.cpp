@@ -49,7 +49,9 @@ char MnemonicOf(const char* pText) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(pText[nAt + 1])));
 }
 
-CString AccessibleNameOf(const CControlDescription& control) {
+namespace {
+
+CString NameFromTexts(const CControlDescription& control) {
     for (const char* pText : {control.m_pName, control.m_pLabel, control.m_pCaption}) {
         CString name = WithoutMnemonic(pText);
         if (name.Right(1) == ":")
@@ -60,15 +62,35 @@ CString AccessibleNameOf(const CControlDescription& control) {
     return {};
 }
 
+} // namespace
+
+CString AccessibleNameOf(const CControlDescription& control) {
+    const CString name = NameFromTexts(control);
+    return control.m_Kind == ControlKind::OwnerDrawnButton ? "Choose " + name : name;
+}
+
+CString OwnNameOf(const CDialogDescription& description, const CControlDescription& control) {
+    const CString name = AccessibleNameOf(control);
+    int nCalledSo = 0;
+    CString group;
+    ForEachControl(description, [&](const CControlDescription& other, const char* pGroup) {
+        if (other.m_Kind != ControlKind::Spin && AccessibleNameOf(other) == name)
+            ++nCalledSo;
+        if (other.m_nId == control.m_nId)
+            group = pGroup;
+    });
+    return nCalledSo > 1 && !group.IsEmpty() ? name + ", " + group : name;
+}
+
 namespace describe {
 namespace {
 
 CDialogItem Box(CDialogItem::Kind kind, const char* pTitle, Items items) {
-    return {kind, pTitle, {}, std::move(items)};
+    return {kind, pTitle, {}, std::move(items), 0, {}};
 }
 
 CDialogItem Control(CControlDescription control) {
-    return {CDialogItem::Kind::Control, "", std::move(control), {}};
+    return {CDialogItem::Kind::Control, "", std::move(control), {}, 0, {}};
 }
 
 } // namespace
@@ -158,6 +180,10 @@ CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pT
                     .m_nTicks = nTicks,
                     .m_pFrom = pFrom,
                     .m_pTo = pTo});
+}
+
+CDialogItem Picture(int nList, std::vector<const char*> pictures) {
+    return {CDialogItem::Kind::Picture, "", {}, {}, nList, std::move(pictures)};
 }
 
 CDialogItem OkAndCancel() {

@@ -8,8 +8,8 @@
 //                 Edit(Id::TitleText, "Te&xt Title:"),
 //                 OkAndCancel()})};
 //
-// An item is a control, or a box with items in it: a row (side by side), a column (one below the other,
-// labels and boxes aligned) or a group (a column in a frame with a title). The keyboard goes from control to
+// An item is a control, a picture, or a box with items in it: a row (side by side), a column (one below the
+// other, labels and boxes aligned) or a group (a column in a frame with a title). The keyboard goes from control to
 // control in the order of the description.
 //
 // Texts are in the system's code page. "&" in a label or caption stands before its mnemonic; "&&" is "&".
@@ -83,12 +83,14 @@ struct CControlDescription {
 };
 
 struct CDialogItem {
-    enum class Kind { Control, Row, Column, Group };
+    enum class Kind { Control, Picture, Row, Column, Group };
 
     Kind m_Kind = Kind::Column;
     const char* m_pTitle = ""; // of a group
     CControlDescription m_Control;
     std::vector<CDialogItem> m_Items;
+    int m_nList = 0;                     // the list box before it whose selected row a picture shows
+    std::vector<const char*> m_Pictures; // by row: what the window system calls the picture
 };
 
 struct CDialogDescription {
@@ -107,9 +109,12 @@ CString WithoutMnemonic(const char* pText);
 // The mnemonic in lower case, or 0 when the text has none.
 char MnemonicOf(const char* pText);
 
-// What a screen reader calls the control: its name, else its label, else its caption. The two last without a
-// ":" at the end. A spin control or a colour button takes it from its edit box's label.
+// What a screen reader calls the control: its name, else its label, else its caption, without a ":" at the end.
+// A spin control takes it from its edit box's label, and so does a colour button, as what it is good for.
 CString AccessibleNameOf(const CControlDescription& control);
+
+// The same, with the title of its group behind it where the dialog has the name twice: "Width, Text Area".
+CString OwnNameOf(const CDialogDescription& description, const CControlDescription& control);
 
 // The ids of the controls that go with an edit box. A dialog's own ids lie from 100 to 999.
 constexpr int SpinOf(int nEdit) {
@@ -143,6 +148,9 @@ CDialogItem ListView(int nId, const char* pLabel, unsigned nStyle, const char* p
 CDialogItem ComboBox(int nId, const char* pLabel, std::vector<CChoice> choices, unsigned nStyle = STYLE_NONE);
 CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pTo, int nLower, int nUpper,
                    int nTicks);
+
+// A picture of whatever is selected in the list box, for those who see it. Not a control: no dialog knows of it.
+CDialogItem Picture(int nList, std::vector<const char*> pictures);
 
 // The row of closing buttons. "OK" is the default button.
 CDialogItem OkAndCancel();

@@ -19,18 +19,20 @@ namespace orrelix {
 
 enum class PopupKey { Up, Down, Left, Right, Escape, Return, Space };
 
-struct CToolTipText {
+// Something in a popup that the person can choose.
+struct CPopupCell {
     CRect m_Rect; // in the popup's coordinates
     CString m_Text;
+    bool m_bTextShows = false; // the text is painted on it; otherwise a tip tells it
 };
 
 class CPopupWindow {
 public:
     // On the screen. It doesn't change while the popup is open.
     virtual const CRect& GetWindowRect() const = 0;
-    virtual std::vector<CToolTipText> GetToolTips() const = 0;
-    // What the pointer or the keyboard is on, for who can't see it; empty when it is on nothing.
-    virtual CString GetCurrentText() const = 0;
+    virtual std::vector<CPopupCell> GetCells() const = 0;
+    // The cell that the pointer or the keyboard is on, -1 when it is on none.
+    virtual int GetCurrentCell() const = 0;
     virtual void Draw(CCanvas& canvas) const = 0;
 
     virtual void OnMouseMove(CPersonKey, CPoint point) = 0;

@@ -34,7 +34,7 @@ public:
             return {0, 0};
         const CRect rect = nSelection == kBox
                                ? m_pPopup->GetCustomRect()
-                               : m_pPopup->GetToolTips().at(static_cast<size_t>(nSelection)).m_Rect;
+                               : m_pPopup->GetCells().at(static_cast<size_t>(nSelection)).m_Rect;
         return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
     }
     void MoveTo(int nSelection) { MoveInPopup(MiddleOf(nSelection)); }

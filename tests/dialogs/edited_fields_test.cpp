@@ -32,7 +32,10 @@ protected:
     static void ForEach(const CDialogDescription& dialog, const Visit& visit) {
         ForEachControl(dialog, [&](const CControlDescription& control, const char* pGroup) {
             const CString group = *pGroup ? WithoutMnemonic(pGroup) + " / " : CString();
-            visit(control, group + AccessibleNameOf(control));
+            // A spin control and a colour button go by the name of their box.
+            visit(control, group + AccessibleNameOf({.m_pLabel = control.m_pLabel,
+                                                     .m_pCaption = control.m_pCaption,
+                                                     .m_pName = control.m_pName}));
         });
     }
 

@@ -65,7 +65,7 @@ void StartQt() {
                 pUsual(type, context, message);
         });
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ORRELIX_SOURCE_DIR "/tests/qt/screen.json");
     ASSERT_TRUE(EnsureApplication());
 }
 

@@ -1,5 +1,7 @@
 // How the windows behave beyond what every desktop promises: keys, mouse, focus, what a screen reader hears.
 #include "controls/border_dlg.h"
+#include "dialogs/select_script.h"
+#include "qt/moving_picture.h"
 #include "resources/border_description.h"
 #include "tests/qt/qt_person.h"
 #include "tests/support/everything_dialog.h"
@@ -9,7 +11,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QProxyStyle>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -43,6 +48,7 @@ protected:
         EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     }
 
+    const CUserSettings m_Settings;
     CQtPerson m_Person;
     CEverythingDlg m_Dialog;
 };
@@ -167,6 +173,67 @@ TEST_F(Windows, TheArrowsOfANumberAreInItsBox) {
         QTest::mouseClick(&box, Qt::LeftButton, {}, {box.width() - 6, box.height() * 3 / 4});
         EXPECT_EQ(box.text(), "12");
     });
+}
+
+TEST_F(Windows, ATurnedNumberCanBeUndone) {
+    Work([](CDialog& dialog) {
+        auto& box = Shown<QAbstractSpinBox>(dialog, Id::Number);
+        ReplaceText(box, "30");
+        QTest::keyClick(&box, Qt::Key_Up);
+        QTest::keyClick(&box, Qt::Key_Up);
+        EXPECT_EQ(box.text(), "32");
+        QTest::keySequence(&box, QKeySequence::Undo);
+        QTest::keySequence(&box, QKeySequence::Undo);
+        EXPECT_EQ(box.text(), "30");
+        EXPECT_EQ(dialog.Item<CEdit>(Id::Number).GetWindowText(), "30");
+    });
+}
+
+TEST_F(Windows, WhatIsNoNumberOrColourCarriesAMarkAndSaysSo) {
+    Work([](CDialog& dialog) {
+        const struct {
+            int m_nId;
+            const char* m_pText;
+            bool m_bMarked;
+        } cases[] = {
+            {Id::Number, "abc", true},     {Id::Number, "90%", false},     {Id::Number, "", false},
+            {Id::Colour, "red", true},     {Id::Colour, "ff00", true},     {Id::Colour, "ff00fg", true},
+            {Id::Colour, "fF0012", false}, {Id::Colour, "#ff0012", false}, {Id::Text, "red", false}};
+        for (const auto& [nId, pText, bMarked] : cases) {
+            auto& box = Shown<QWidget>(dialog, nId);
+            ReplaceText(box, pText);
+            QTest::keyClick(&box, Qt::Key_Tab);
+            EXPECT_EQ(!box.accessibleDescription().isEmpty(), bMarked) << pText;
+            const QList<QAction*> signs = box.findChildren<QAction*>();
+            EXPECT_EQ(std::any_of(
+                          signs.begin(), signs.end(),
+                          [](const QAction* pSign) { return pSign->isVisible() && !pSign->icon().isNull(); }),
+                      bMarked)
+                << pText;
+        }
+    });
+}
+
+TEST_F(Windows, AWindowComesUpAsItWasLeft) {
+    const QRect place(70, 60, 720, 690);
+    Work([&](CDialog&) { CQtPerson::Window().setGeometry(place); });
+    Work([&](CDialog&) { EXPECT_EQ(CQtPerson::Window().geometry(), place); });
+}
+
+TEST_F(Windows, WhereTheScreenIsTooSmallTheClosingButtonsStayInSight) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2.5);
+    QApplication::setFont(large);
+    Work([](CDialog& dialog) {
+        const auto* pArea = CQtPerson::Window().findChild<QScrollArea*>();
+        ASSERT_TRUE(pArea);
+        EXPECT_FALSE(pArea->horizontalScrollBar()->isVisible());
+        EXPECT_FALSE(pArea->isAncestorOf(&Shown<QWidget>(dialog, IDOK)));
+        Shown<QWidget>(dialog, Id::More).setFocus(Qt::TabFocusReason);
+        EXPECT_FALSE(Focused().visibleRegion().isEmpty());
+    });
+    QApplication::setFont(usual);
 }
 
 TEST_F(Windows, AComboBoxIsWorkedByKeysAndEnterInItsEditPartPressesTheDefaultButton) {
@@ -334,6 +401,37 @@ TEST_F(Windows, OffTheirThreadDialogsAreCancelled) {
     EXPECT_EQ(nAnswer, IDCANCEL);
 }
 
+TEST(Picture, MovesForAWhileAndNotAtAllForWhoWantsNoMotion) {
+    class CCalmStyle : public QProxyStyle {
+        int styleHint(StyleHint hint, const QStyleOption* pOption, const QWidget* pWidget,
+                      QStyleHintReturn* pReturn) const override {
+            return hint == SH_Widget_Animation_Duration
+                       ? 0
+                       : QProxyStyle::styleHint(hint, pOption, pWidget, pReturn);
+        }
+    };
+    const CUserSettings settings;
+    CQtPerson person;
+    for (const bool bCalm : {false, true}) {
+        const QString usual = QApplication::style()->name();
+        if (bCalm)
+            QApplication::setStyle(new CCalmStyle);
+        person.In("Select a DHTML Scripts").Then([&](CDialog&) {
+            auto& picture = *CQtPerson::Window().findChild<CMovingPicture*>();
+            EXPECT_TRUE(picture.pixmap().isNull());
+            auto& list = *CQtPerson::Window().findChild<QAbstractItemView*>();
+            for (int nRow = 0; nRow < list.model()->rowCount(); ++nRow) {
+                ClickRow(list, nRow);
+                EXPECT_EQ(picture.pixmap().deviceIndependentSize(), QSizeF(240, 150)) << nRow;
+                EXPECT_EQ(picture.IsMoving(), !bCalm);
+            }
+        });
+        person.PressesEscape();
+        CSelectScriptDlg().DoModal();
+        QApplication::setStyle(usual);
+    }
+}
+
 TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
     CUserSettings settings;
     CQtPerson person;
@@ -364,7 +462,9 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
             QWidget* pPopup = QApplication::activePopupWidget();
             QTest::keyClick(pPopup, Qt::Key_Right);
             QTest::keyClick(pPopup, Qt::Key_Right);
-            EXPECT_EQ(pPopup->accessibleName(), "Light orange, Border Color");
+            QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(pPopup);
+            ASSERT_TRUE(pHeard->focusChild());
+            EXPECT_EQ(pHeard->focusChild()->text(QAccessible::Name), "Light orange");
             QHelpEvent help(QEvent::ToolTip, {25, 10}, pPopup->mapToGlobal(QPoint(25, 10)));
             QApplication::sendEvent(pPopup, &help);
             EXPECT_EQ(QToolTip::text(), "White");

@@ -13,6 +13,7 @@
 #include "tests/support/everything_dialog.h"
 #include "tests/support/person_script.h"
 #include "tests/support/temporary_directory.h"
+#include "tests/support/user_settings.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -21,6 +22,7 @@ namespace orrelix {
 
 class DesktopPromises : public testing::TestWithParam<std::unique_ptr<CPersonScript> (*)()> {
 protected:
+    const CUserSettings m_Settings;
     std::unique_ptr<CPersonScript> m_Script = GetParam()();
     CPersonScript& m_Person = *m_Script;
     promises::CEverythingDlg m_Dialog;

@@ -59,10 +59,10 @@ public:
     explicit CPopup(CString& log) : m_Log(log) {}
 
     const CRect& GetWindowRect() const override { return m_Rect; }
-    std::vector<CToolTipText> GetToolTips() const override {
+    std::vector<CPopupCell> GetCells() const override {
         return {{{0, 0, 40, 30}, "Left"}, {{40, 0, 80, 30}, "Right"}};
     }
-    CString GetCurrentText() const override { return m_bRight ? "Right" : ""; }
+    int GetCurrentCell() const override { return m_bRight ? 1 : -1; }
     void Draw(CCanvas& canvas) const override { canvas.FillRect({0, 0, 80, 30}, MakeColour(255, 0, 0)); }
     void OnMouseMove(CPersonKey, CPoint point) override {
         m_bRight = point.x >= 40;

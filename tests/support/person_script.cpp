@@ -8,7 +8,8 @@ namespace {
 
 bool IsCalled(const CControlDescription& control, const CString& name) {
     return name == WithoutMnemonic(control.m_pLabel) || name == WithoutMnemonic(control.m_pCaption) ||
-           name == WithoutMnemonic(control.m_pName) || name == AccessibleNameOf(control);
+           name == WithoutMnemonic(control.m_pName) || name == AccessibleNameOf(control) ||
+           "Choose " + name == AccessibleNameOf(control); // the colour button of a box
 }
 
 int RowWithText(const CTarget& target, CPersonHands& hands, const CString& text) {
@@ -126,7 +127,7 @@ CPersonScript& CPersonScript::AddPopupAct(const CString& words,
 CPersonScript& CPersonScript::PicksColour(const CString& colourName) {
     return AddPopupAct(CString("picks the colour ") + colourName,
                        [this, colourName](CPopupWindow& popup, CPersonHands& hands) {
-                           for (const CToolTipText& cell : popup.GetToolTips()) {
+                           for (const CPopupCell& cell : popup.GetCells()) {
                                if (cell.m_Text == colourName) {
                                    hands.MoveInPopup(MiddleOf(cell.m_Rect));
                                    hands.ReleaseInPopup(MiddleOf(cell.m_Rect));
