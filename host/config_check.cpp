@@ -7,6 +7,7 @@
 #include "host/report.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 #include <iterator>
 
 namespace orrelix {
@@ -16,10 +17,11 @@ CConfigCheck::CConfigCheck(const std::filesystem::path& path) {
     if (m_Form.m_Error)
         throw CFileError(path, "can't be read: " + m_Form.m_Error.message());
     if (m_Form.m_nMarkers == 0) {
-        m_Damage.push_back("is no configuration file: it has no line \"" + std::string(kMarkers[0]) + "\"");
+        m_Damage.push_back(fmt::format("is no configuration file: it has no line \"{}\"", kMarkers[0]));
     } else if (m_Form.m_nMarkers < std::size(kMarkers)) {
-        m_Damage.push_back("is damaged: the line \"" + std::string(kMarkers[m_Form.m_nMarkers]) +
-                           "\" is missing, and what should stand behind it with it");
+        m_Damage.push_back(
+            fmt::format("is damaged: the line \"{}\" is missing, and what should stand behind it with it",
+                        kMarkers[m_Form.m_nMarkers]));
     } else {
         // One of the resource lines is the count itself.
         CheckCount("resource", m_Store.m_Resources.GetSize(), m_Form.m_nResourceLines - 1);
@@ -29,9 +31,9 @@ CConfigCheck::CConfigCheck(const std::filesystem::path& path) {
 
 void CConfigCheck::CheckCount(const char* pNoun, std::ptrdiff_t nPromised, std::ptrdiff_t nThere) {
     if (nPromised != nThere)
-        m_Damage.push_back("is damaged: its count promises " +
-                           Counted(static_cast<size_t>(nPromised), pNoun) + ", and " +
-                           std::to_string(std::max<std::ptrdiff_t>(nThere, 0)) + " can be found");
+        m_Damage.push_back(fmt::format("is damaged: its count promises {}, and {} can be found",
+                                       Counted(static_cast<size_t>(nPromised), pNoun),
+                                       std::max<std::ptrdiff_t>(nThere, 0)));
 }
 
 bool CConfigCheck::IsOurs() const {
@@ -60,8 +62,8 @@ std::string CConfigCheck::WhyNoEffect() const {
     if (GetEffectType() == "0")
         return "no effect has been chosen for it yet";
     if (!GetEffect())
-        return "names no effect that is known here (DhtmlType is \"" + std::string(GetEffectType().View()) +
-               "\")";
+        return fmt::format("names no effect that is known here (DhtmlType is \"{}\")",
+                           GetEffectType().View());
     return {};
 }
 

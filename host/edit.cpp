@@ -5,6 +5,7 @@
 #include "host/component_path.h"
 #include "host/generated_effect.h"
 #include "host/named_fields.h"
+#include "host/nearest_word.h"
 #include "host/text_encoding.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
@@ -14,7 +15,7 @@
 
 #include <cctype>
 #include <chrono>
-#include <iomanip>
+#include <fmt/format.h>
 #include <iostream>
 
 namespace orrelix {
@@ -23,11 +24,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string EffectNames() {
-    std::string names;
+std::vector<std::string> EffectNames() {
+    std::vector<std::string> names;
     for (const CEffect& effect : kEffects)
-        names += std::string(names.empty() ? "" : ", ") + '"' + effect.m_pName + '"';
+        names.push_back(fmt::format("\"{}\"", effect.m_pName));
     return names;
+}
+
+std::string NameAnEffect() {
+    return fmt::format("--effect: {}", fmt::join(EffectNames(), ", "));
 }
 
 // As properties of files have it.
@@ -53,8 +58,7 @@ bool ToCodePage(const std::string& option, const std::string& text, CString& con
     const CConvertedText result = ConvertText(text, "UTF-8", GetEncoding());
     converted = result.m_Text;
     if (result.m_nUnfit + result.m_nInvalid > 0)
-        report.WrongUsage(option,
-                          "has characters that code page " + std::to_string(GetCodePage()) + " lacks");
+        report.WrongUsage(option, fmt::format("has characters that code page {} lacks", GetCodePage()));
     return result.m_nUnfit + result.m_nInvalid == 0;
 }
 
@@ -79,12 +83,11 @@ std::string ToTerminal(const CString& value) {
 
 void PrintFields(CDhtmlGadget& gadget) {
     for (const CNamedField& field : ListFields(gadget)) {
-        const char* pName = field.m_Name.c_str();
+        const char sign = field.m_bList ? '+' : '=';
         for (const CString& value : field.m_Values)
-            std::cout << std::left << std::setw(24) << pName << (field.m_bList ? " + " : " = ")
-                      << ToTerminal(value) << '\n';
+            std::cout << fmt::format("{:24} {} {}\n", field.m_Name, sign, ToTerminal(value));
         if (field.m_Values.empty())
-            std::cout << std::left << std::setw(24) << pName << " + (no items)\n";
+            std::cout << fmt::format("{:24} + (no items)\n", field.m_Name);
     }
 }
 
@@ -113,9 +116,11 @@ bool HasLostFiles(COrrelix& orrelix, const CEditOptions& options, CReport& repor
         for (const CString& value : field.m_Values) {
             if (!field.m_bFileName || value.IsEmpty() || FileExists(value))
                 continue;
-            report.Error(options.m_File.string(), "the effect needs the file " + SystemPath(value).string() +
-                                                      ", which is missing; put it there, or set " +
-                                                      field.m_Name + " to another one or to nothing");
+            report.Error(
+                options.m_File.string(),
+                fmt::format("the effect needs the file {}, which is missing; put it there, or set {} "
+                            "to another one or to nothing",
+                            SystemPath(value).string(), field.m_Name));
             bLost = true;
         }
     }
@@ -128,9 +133,9 @@ void CheckCopies(COrrelix& orrelix, const CString& directory, CReport& report) {
         const CString name = orrelix.GetResourceName(nIndex);
         const CString source = orrelix.GetResourceLocalPath(nIndex) + name;
         if (!SameContent(source, directory + name))
-            report.Error(SystemPath(directory + name).string(), "the page needs it, but " +
-                                                                    SystemPath(source).string() +
-                                                                    " couldn't be copied there");
+            report.Error(SystemPath(directory + name).string(),
+                         fmt::format("the page needs it, but {} couldn't be copied there",
+                                     SystemPath(source).string()));
     }
 }
 
@@ -181,9 +186,8 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     if (!options.m_bListFields && fs::exists(options.m_File))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
-        return report.WrongUsage(
-            name,
-            "has no effect yet of which there could be fields; name one with --effect: " + EffectNames());
+        return report.WrongUsage(name, "has no effect yet of which there could be fields; name one with " +
+                                           NameAnEffect());
     if (Printable(options.m_Title) != options.m_Title)
         return report.WrongUsage("--title", "has a line break or another control character");
     COrrelix orrelix;
@@ -196,13 +200,18 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     orrelix.SetBitmapFileName("");
     orrelix.SetPreviewPath("");
     if (options.m_Effect.empty()) {
-        if (RunDialogs(orrelix, options, "name one of the effects with --effect: " + EffectNames(), report))
+        if (RunDialogs(orrelix, options, "name one of the effects with " + NameAnEffect(), report))
             Write(orrelix, options, report);
         return;
     }
     const CEffect* pEffect = FindEffectNamed(options.m_Effect);
-    if (!pEffect)
-        return report.WrongUsage("--effect " + options.m_Effect, "is no effect; there are " + EffectNames());
+    if (!pEffect) {
+        const std::string meant = DidYouMean('"' + options.m_Effect + '"', EffectNames());
+        return report.WrongUsage(
+            "--effect " + options.m_Effect,
+            meant.empty() ? fmt::format("is no effect; there are {}", fmt::join(EffectNames(), ", "))
+                          : "is no effect; " + meant);
+    }
     orrelix.SelectType(TypeOf(*pEffect));
     if (options.m_bListFields)
         PrintFields(*orrelix.m_pGadget);

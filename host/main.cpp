@@ -1,6 +1,7 @@
 // The program orrelix: what a page editor does with the component, as commands.
 #include "host/component_path.h"
 #include "host/edit.h"
+#include "host/nearest_word.h"
 #include "host/preview.h"
 #include "host/publish.h"
 #include "host/report.h"
@@ -9,6 +10,8 @@
 #include "platform/code_page.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <fmt/format.h>
 #include <functional>
 #include <iostream>
 #include <memory>
@@ -111,29 +114,62 @@ int WrongUsage(const std::string& text) {
     return kWrongUsage;
 }
 
+void AddOptionNames(const CLI::App& command, std::vector<std::string>& names) {
+    for (const CLI::Option* pOption : command.get_options()) {
+        if (!pOption->get_positional())
+            names.push_back(pOption->get_name());
+    }
+}
+
+// What to say of a word that is nearly a command or an option; empty when there is none.
+std::string SayWhatWasMeant(const CLI::App& program) {
+    std::vector<std::string> known;
+    const std::vector<CLI::App*> given = program.get_subcommands();
+    for (const CLI::App* pCommand : program.get_subcommands(nullptr)) {
+        if (given.empty())
+            known.push_back(pCommand->get_name());
+        else if (pCommand == given.front())
+            AddOptionNames(*pCommand, known);
+    }
+    AddOptionNames(program, known);
+    for (const std::string& word : program.remaining(true)) {
+        const std::string meant = DidYouMean(word.substr(0, word.find('=')), known);
+        if (!meant.empty())
+            return fmt::format("{} is unknown; {}", word, meant);
+    }
+    return {};
+}
+
 int RunProgram(int nArguments, char** ppArguments) {
     CLI::App program(
         "Makes, shows, previews and publishes effects for web pages, kept in configuration files.",
         "orrelix");
-    program.set_version_flag("--version", "orrelix " ORRELIX_VERSION);
+    program.set_version_flag("-V,--version", "orrelix " ORRELIX_VERSION);
     program.require_subcommand(1);
     program.fallthrough();
-    program.footer("'orrelix COMMAND --help' tells about a command, 'man orrelix' about all.");
+    program.footer("'orrelix help COMMAND' tells about a command, 'man orrelix' about all.");
     int nCodePage = kUtf8CodePage;
     program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
         ->type_name("N");
     const CCommand commands[] = {AddNew(program), AddEdit(program), AddShow(program), AddPreview(program),
                                  AddPublish(program)};
+    // The last one first, as the parser takes them.
+    std::vector<std::string> arguments(std::reverse_iterator(ppArguments + nArguments),
+                                       std::reverse_iterator(ppArguments + 1));
+    if (!arguments.empty() && arguments.back() == "help") {
+        arguments.pop_back();
+        arguments.insert(arguments.begin(), "--help");
+    }
     try {
-        program.parse(nArguments, ppArguments);
+        program.parse(std::move(arguments));
     } catch (const CLI::Success& success) { // --help, --version
         return program.exit(success);
     } catch (const CLI::ParseError& error) {
-        return WrongUsage(error.what());
+        const std::string meant = SayWhatWasMeant(program);
+        return WrongUsage(meant.empty() ? error.what() : meant);
     }
     if (!SetCodePage(nCodePage) || !IsConvertible(GetEncoding()))
-        return WrongUsage("--code-page: " + std::to_string(nCodePage) +
-                          " is no code page that is known here");
+        return WrongUsage(fmt::format("--code-page: {} is no code page that is known here", nCodePage));
     for (const CCommand& command : commands) {
         if (command.m_pArguments->parsed())
             return RunCommand(command);

@@ -4,6 +4,7 @@
 #include "platform/string.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 #include <vector>
 
 namespace orrelix {
@@ -123,9 +124,9 @@ private:
         const auto end = FindEndOf(piece, piece.m_nInnerBegin + comment->m_nWord);
         if (!end) {
             problem =
-                "has the comment \"<!--" + std::string(text) +
-                "-->\" with an effect behind it, but not "
-                "the comment with \"/vignel\" where that ends; put it back, or take out what was put in";
+                fmt::format("has the comment \"<!--{}-->\" with an effect behind it, but not the comment "
+                            "with \"/vignel\" where that ends; put it back, or take out what was put in",
+                            text);
             return false;
         }
         range.m_nEnd = *end;
@@ -171,19 +172,19 @@ std::string EscapedTitle(const std::string& title) {
 }
 
 std::string MarkOf(const std::string& title) {
-    return "\"<!-- vignel: " + EscapedTitle(title) + " -->\"";
+    return fmt::format("\"<!-- vignel: {} -->\"", EscapedTitle(title));
 }
 
 std::string WhyNoMark(const std::string& title, const CPlaces& places) {
     if (places.m_Marks.size() > 1)
-        return "has the mark " + MarkOf(title) + " " + std::to_string(places.m_Marks.size()) +
-               " times; leave the one where the effect is to appear";
-    std::string reason = "has no place for the effect; put " + MarkOf(title) + " where it is to appear";
-    if (!places.m_OtherTitles.empty())
-        reason += " (the titles that the page has marks for:";
-    for (const std::string& other : places.m_OtherTitles)
-        reason += " \"" + other + "\"";
-    return reason + (places.m_OtherTitles.empty() ? "" : ")");
+        return fmt::format("has the mark {} {} times; leave the one where the effect is to appear",
+                           MarkOf(title), places.m_Marks.size());
+    const std::string reason =
+        fmt::format("has no place for the effect; put {} where it is to appear", MarkOf(title));
+    if (places.m_OtherTitles.empty())
+        return reason;
+    return fmt::format("{} (the titles that the page has marks for: \"{}\")", reason,
+                       fmt::join(places.m_OtherTitles, "\" \""));
 }
 
 struct CEdit {
@@ -243,10 +244,9 @@ std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title
     m_nUnfit += inPage.m_nUnfit;
     m_nInvalid += inPage.m_nInvalid;
     for (int nNumber = 1;; ++nNumber) {
-        std::string comment = std::string("vignel ") + pPosition;
-        if (nNumber > 1)
-            comment.append(" ").append(std::to_string(nNumber));
-        comment.append(": ").append(EscapedTitle(title)).append(" -->");
+        const std::string comment =
+            fmt::format("vignel {}{}: {} -->", pPosition, nNumber > 1 ? fmt::format(" {}", nNumber) : "",
+                        EscapedTitle(title));
         const std::string end = m_Text.ToPage("<!-- /" + comment).m_Text;
         if (inPage.m_Text.find(end) == std::string::npos)
             return m_Text.ToPage("<!-- " + comment + "\r\n").m_Text + inPage.m_Text + end;

@@ -1,8 +1,10 @@
 #include "host/named_fields.h"
 
 #include "host/component_path.h"
+#include "host/nearest_word.h"
 
 #include <algorithm>
+#include <fmt/format.h>
 
 namespace orrelix {
 
@@ -80,6 +82,15 @@ auto FindField(const std::vector<CNamedField>& fields, const std::string& name) 
                         [&name](const CNamedField& field) { return field.m_Name == name; });
 }
 
+std::string WhyNoField(const std::vector<CNamedField>& fields, const std::string& name) {
+    std::vector<std::string> names;
+    for (const CNamedField& field : fields)
+        names.push_back(field.m_Name);
+    const std::string meant = DidYouMean(name, names);
+    return fmt::format("the effect has no field {}; {}", name,
+                       meant.empty() ? "--list-fields shows those that it has" : meant);
+}
+
 } // namespace
 
 std::vector<CNamedField> ListFields(CDhtmlGadget& gadget) {
@@ -94,7 +105,7 @@ std::string SetFields(CDhtmlGadget& gadget, const CFieldValues& values) {
     for (const auto& [name, given] : values) {
         const auto field = FindField(fields, name);
         if (field == fields.end())
-            return "the effect has no field " + name + "; --list-fields shows those that it has";
+            return WhyNoField(fields, name);
         if (!field->m_bList && given.size() > 1)
             return name + " is one text and no list; set it once";
         if (field->m_bList)

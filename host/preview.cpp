@@ -6,6 +6,7 @@
 #include "host/site.h"
 #include "host/text_encoding.h"
 
+#include <fmt/format.h>
 #include <iostream>
 
 namespace orrelix {
@@ -46,8 +47,9 @@ private:
             throw CFileError(file, "would have its page where the index belongs; rename the file");
         for (const CPreviewPage& other : m_Pages) {
             if (other.m_Name == name)
-                throw CFileError(file, "would have its page where that of " + other.m_Source +
-                                           " is; rename one of them");
+                throw CFileError(file,
+                                 fmt::format("would have its page where that of {} is; rename one of them",
+                                             other.m_Source));
         }
         const CGeneratedEffect effect = GenerateEffect(file, kPreview);
         m_Copies.Plan(effect, page, file.string());

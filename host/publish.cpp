@@ -6,6 +6,7 @@
 #include "host/site.h"
 #include "platform/files.h"
 
+#include <fmt/format.h>
 #include <iostream>
 
 namespace orrelix {
@@ -16,10 +17,10 @@ namespace {
 
 void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CReport& report) {
     if (page.GetUnfitCount() > 0)
-        report.Warning(subject, Counted(page.GetUnfitCount(), "character") +
-                                    " can't be written in the page's "
-                                    "encoding, " +
-                                    page.GetEncoding() + ", and stand in it as \"&#N;\"");
+        report.Warning(subject,
+                       fmt::format("{} can't be written in the page's encoding, {}, and stand in it as "
+                                   "\"&#N;\"",
+                                   Counted(page.GetUnfitCount(), "character"), page.GetEncoding()));
     report.WarnOfInvalidBytes(subject, page.GetInvalidCount());
 }
 
@@ -34,7 +35,7 @@ bool WritePage(const fs::path& path, const std::string& before, const std::strin
     }
     const std::error_code error = WriteFileContent(path, after, Durability::PowerCut);
     if (error)
-        report.Error(subject, "can't be written: " + error.message() + "; the page is as it was");
+        report.Error(subject, fmt::format("can't be written: {}; the page is as it was", error.message()));
     return !error;
 }
 

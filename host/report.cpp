@@ -1,7 +1,7 @@
 #include "host/report.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <fmt/format.h>
 #include <iostream>
 
 namespace orrelix {
@@ -17,8 +17,9 @@ void CReport::Warning(const std::string& subject, const std::string& text) {
 
 void CReport::WarnOfInvalidBytes(const std::string& subject, size_t nBytes) {
     if (nBytes > 0)
-        Warning(subject, Counted(nBytes, "byte") + " of the effect's text are none of the code page's; if it "
-                                                   "was made in another one, name that with --code-page");
+        Warning(subject, fmt::format("{} of the effect's text are none of the code page's; if it was made in "
+                                     "another one, name that with --code-page",
+                                     Counted(nBytes, "byte")));
 }
 
 void CReport::WrongUsage(const std::string& subject, const std::string& text) {
@@ -33,17 +34,17 @@ std::string Printable(const std::string& text) {
         // U+0080 to U+009F are control characters too, of two bytes.
         const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
         const bool bTwoBytes = code == 0xC2 && next >= 0x80 && next < 0xA0;
-        char escape[8] = "";
         if (bTwoBytes || (code < ' ' && text[i] != '\t') || code == 0x7F)
-            snprintf(escape, sizeof escape, "\\x%02X", bTwoBytes ? next : code);
-        result += *escape ? escape : std::string(1, text[i]);
+            result += fmt::format("\\x{:02X}", bTwoBytes ? next : code);
+        else
+            result += text[i];
         i += bTwoBytes ? 1 : 0;
     }
     return result;
 }
 
 std::string Counted(size_t nCount, const std::string& noun) {
-    return std::to_string(nCount) + " " + noun + (nCount == 1 ? "" : "s");
+    return fmt::format("{} {}{}", nCount, noun, nCount == 1 ? "" : "s");
 }
 
 } // namespace orrelix

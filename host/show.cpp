@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
+#include <fmt/format.h>
 #include <iostream>
 #include <nlohmann/json.hpp>
 
@@ -104,11 +104,9 @@ std::string DateOf(const CString& days) {
         return "";
     const auto nMinutes = static_cast<long>(std::lround(nDays * 24 * 60));
     const year_month_day date(kDayZero + std::chrono::days(nMinutes / (24 * 60)));
-    char text[64];
-    snprintf(text, sizeof text, " (%04d-%02u-%02u %02ld:%02ld)", static_cast<int>(date.year()),
-             static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()), nMinutes / 60 % 24,
-             nMinutes % 60);
-    return text;
+    return fmt::format(" ({:04}-{:02}-{:02} {:02}:{:02})", static_cast<int>(date.year()),
+                       static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                       nMinutes / 60 % 24, nMinutes % 60);
 }
 
 void CReadableFile::PrintKeys(std::ostream& out, const std::vector<CString>& keys,

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <fmt/format.h>
 #include <system_error>
 #include <vector>
 
@@ -121,8 +122,10 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
 
 void CFileCopies::Plan(const CGeneratedEffect& effect, const fs::path& page, const std::string& subject) {
     for (const CString& name : effect.m_Lost)
-        m_Report.Error(subject, "the effect needs the file \"" + std::string(name.View()) +
-                                    "\", which is missing; put it beside the configuration file");
+        m_Report.Error(subject,
+                       fmt::format("the effect needs the file \"{}\", which is missing; put it beside "
+                                   "the configuration file",
+                                   name.View()));
     for (const CEffectFile& file : effect.m_Files)
         PlanFile(file, page, subject);
 }
@@ -130,7 +133,7 @@ void CFileCopies::Plan(const CGeneratedEffect& effect, const fs::path& page, con
 void CFileCopies::PlanFile(const CEffectFile& file, const fs::path& page, const std::string& subject) {
     const std::string source = SystemPath(file.m_Source).string();
     if (!FileExists(file.m_Source)) {
-        m_Report.Error(subject, "the effect needs the file " + source + ", which is missing");
+        m_Report.Error(subject, fmt::format("the effect needs the file {}, which is missing", source));
         return;
     }
     for (const CString& name : file.m_Names) {
@@ -140,14 +143,14 @@ void CFileCopies::PlanFile(const CEffectFile& file, const fs::path& page, const 
         const fs::path target = m_Site.Locate(address, page.parent_path(), problem);
         if (target.empty())
             m_Report.Error(subject,
-                           "\"" + address + "\", where the page looks for " + source + ", " + problem);
+                           fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
         else if (target == page)
-            m_Report.Error(subject, "the file " + source + " would land on the page itself");
+            m_Report.Error(subject, fmt::format("the file {} would land on the page itself", source));
         else if (!IsFree(target, file.m_Source))
-            m_Report.Error(subject, "the files " + source + " and " +
-                                        SystemPath(m_Sources.at(target)).string() +
-                                        " differ, but both would be " + target.string() +
-                                        "; give one of them another name");
+            m_Report.Error(
+                subject,
+                fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
+                            source, SystemPath(m_Sources.at(target)).string(), target.string()));
         else
             m_Sources.emplace(target, file.m_Source);
         if (target.empty())
