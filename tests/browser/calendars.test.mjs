@@ -1,6 +1,6 @@
 // Calender, drawn where the page's text calls for it, and Cool Calender, the boxes of the page's form.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, styleOf, testEverywhere } from "./harness.mjs";
+import { at, givePage, pageText, styleOf, tap, testEverywhere } from "./harness.mjs";
 
 const MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
     "November", "December"];
@@ -100,7 +100,7 @@ testEverywhere("today_ca_plain", "fills its boxes with every kind of month, toda
     }
 }, { before: at("2024-02-29T12:00") });
 
-testEverywhere("today_ca_plain", "moves by mouse and by keyboard, within sane years", async ({ page }) => {
+testEverywhere("today_ca_plain", "moves by mouse, by touch and by keyboard, within sane years", async ({ page }) => {
     for (const [year, nMonth, name, expected] of [
         [2026, 11, "Next month", "2027 January"], [2027, 0, "Previous month", "2026 December"],
         [2026, 11, "Next year", "2027 December"], [2027, 11, "Previous year", "2026 December"],
@@ -112,6 +112,9 @@ testEverywhere("today_ca_plain", "moves by mouse and by keyboard, within sane ye
         assert.equal(await shown(page), expected, name);
     }
     assert.equal(await page.getByRole("status").textContent(), "May 2026");
+    await tap(page, button(page, "Next year"));
+    assert.equal(await shown(page), "2027 May");
+    await tap(page, button(page, "Previous year"));
     await page.locator("body").click({ position: { x: 1, y: 1 } });
     for (const [key, name, expected] of [["Enter", "Previous year", "2025 May"], ["Space", "Next year", "2026 May"],
         ["Enter", "Previous month", "2026 April"], ["Space", "Next month", "2026 May"]]) {
@@ -120,7 +123,7 @@ testEverywhere("today_ca_plain", "moves by mouse and by keyboard, within sane ye
         await page.keyboard.press(key);
         assert.equal(await shown(page), expected, name);
     }
-}, { before: at("2026-12-31T23:59") });
+}, { before: at("2026-12-31T23:59"), shows: { "Cool Calender": ["mouse", "keys", "touch"] } });
 
 testEverywhere("today_ca_rich", "looks as the author chose and is told to those who don't see it", async ({ page }) => {
     const text = await pageText("today_ca_rich");

@@ -1,6 +1,6 @@
 // Fade Select Box and Link Select Table: what both promise, then what one has for itself.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, testEverywhere } from "./harness.mjs";
+import { givePage, pageText, styleOf, tap, testEverywhere } from "./harness.mjs";
 
 const LINKS = [
     ["Home, sweet home", "http://www.vellumark.example/home?from=1,2"],
@@ -46,7 +46,8 @@ async function choose(page, nItem, nBox = 0) {
     return (await field(page).nth(nBox).innerText()).trim();
 }
 
-for (const effect of ["fade_select", "cool_link"]) {
+const NAMES = { fade_select: "Fade Select Box", cool_link: "Link Select Table" };
+for (const effect of Object.keys(NAMES)) {
     testEverywhere(`${effect}_rich`, "works by mouse", async ({ page }) => {
         await field(page).click();
         const places = () => rows(page).evaluateAll((all) => JSON.stringify(all.map((row) => row.getBoundingClientRect())));
@@ -65,7 +66,17 @@ for (const effect of ["fade_select", "cool_link"]) {
             assert.equal(await choose(page, nItem), LINKS[nItem][0]);
             assert.deepEqual(await opened(page), expected);
         }
-    }, { before });
+    }, { before, shows: { [NAMES[effect]]: ["mouse"] } });
+
+    testEverywhere(`${effect}_rich`, "works by touch", async ({ page }) => {
+        await tap(page, field(page));
+        await tap(page, { x: 900, y: 600 });
+        await closed(page);
+        await tap(page, field(page));
+        await tap(page, rows(page).nth(1));
+        await closed(page);
+        assert.deepEqual(await opened(page), LIBRARY);
+    }, { before, shows: { [NAMES[effect]]: ["touch"] } });
 
     testEverywhere(`${effect}_rich`, "works by keys, and is told to a screen reader", async ({ page }) => {
         // Where the list will open, so that it comes up under the resting pointer.
@@ -101,7 +112,7 @@ for (const effect of ["fade_select", "cool_link"]) {
         assert.equal(await active(), LINKS[1][0], "opens at the chosen item");
         await page.keyboard.press("Tab");
         await closed(page);
-    }, { before });
+    }, { before, shows: { [NAMES[effect]]: ["keys"] } });
 
     testEverywhere(`${effect}_rich`, "the list stays in the window and moves nothing of the page", async ({ page }) => {
         await page.locator("table").first().evaluate((table) => {

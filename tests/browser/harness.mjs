@@ -65,6 +65,8 @@ const BROWSERS = {
     }),
 };
 
+const MODES = ["standards", "quirks"];
+
 // The server and the browsers start with the first page that needs them and end with the file's last test.
 const started = {};
 const onlyOnce = (name, start) => (started[name] ??= start());
@@ -204,6 +206,7 @@ async function takePage(options) {
 //   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
 //   clock          true: the page's time stands still until the test moves it with page.clock
 //   context        more for the browser context, such as { viewport: { width: 360, height: 640 } }
+//   shows          what docs/browsers.md may say of it: { "ToolTip": ["mouse", "touch"] }
 // Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
 // so far, and a test that provokes one on purpose empties it.
 async function openEffect(name, options) {
@@ -222,9 +225,18 @@ async function openEffect(name, options) {
     };
 }
 
+// What the tests of a file show, a line for each effect and way of using it, instead of running them.
+function tell(title, shows) {
+    for (const [effect, ways] of Object.entries(shows))
+        for (const way of ways)
+            console.log(JSON.stringify({ effect, way, title, browsers: Object.keys(BROWSERS), modes: MODES }));
+}
+
 // A test for each browser and mode: opens NAME.html, runs body({page, errors, mode, browser}), closes the page. Options
 // as for openEffect. All run at once, but one after the other in Firefox, where one window only has the focus.
 export function testEverywhere(name, title, body, options = {}) {
+    if (process.env.ORRELIX_ONLY_TELL)
+        return tell(title, options.shows ?? {});
     const run = async (where) => {
         const effect = await openEffect(name, { ...options, ...where });
         try {
@@ -238,7 +250,7 @@ export function testEverywhere(name, title, body, options = {}) {
     describe(`${name}: ${title}`, { concurrency: true }, () => {
         for (const browser of Object.keys(BROWSERS))
             describe(browser, { concurrency: browser === "chromium" }, () => {
-                for (const mode of ["standards", "quirks"])
+                for (const mode of MODES)
                     test(mode, { timeout: 60_000 }, () => run({ browser, mode }));
             });
     });

@@ -54,9 +54,11 @@ const moving = [
         rests: [pointer("#brndfnscrollmain2"), focus("#brndfnscrollmain2 a"), ...stops],
     },
     {
+        effect: "Calender",
         name: "calander_plain",
         look: () => document.querySelector("[role=timer]").textContent.normalize("NFKC"),
-        rests: [pointer("[role=timer]"), focus("[role=timer]")],
+        rests: [pointer("[role=timer]"), focus("[role=timer]"), ["a tap", (page) => tap(page, page.locator("[role=timer]")),
+            (page) => tap(page, { x: 990, y: 690 })]],
         calm: /^9:05 PM$/,
         time: 1200,
         calmOptions: { before: at("2026-11-22T21:05:07") },
@@ -107,13 +109,13 @@ for (const { effect, name, look, rests, time = 250, calm = /./, calmOptions } of
         }
         await page.evaluate(() => document.body.replaceChildren());
         assert.deepEqual(await running(page, time), [0, 0]);
-    }, { before: countTicks, shows: effect && { [effect]: ["mouse", "keys", "touch"] } });
+    }, { before: countTicks, shows: { [effect]: ["mouse", "keys", "touch"] } });
     testEverywhere(name, "stands for a visitor who wants calm", async ({ page }) => {
         assert.match(await stands(page), calm);
-        if (effect !== "Animate Text" && effect) // its texts still change, one for another
+        if (effect !== "Animate Text") // whose texts still change, one for another
             assert.equal(await stopButton(page).count(), 0, "nothing to stop");
     }, { calm: true, ...calmOptions });
-    if (effect && effect !== "Animate Text")
+    if (!["Animate Text", "Calender"].includes(effect))
         testEverywhere(name, "comes to rest when the wish for calm comes later", async ({ page }) => {
             await moves(page);
             await setCalm(page, true);

@@ -41,7 +41,7 @@ testEverywhere("tool_tip_plain", "shows after its delay at the pointer, in the a
     assert.deepEqual(await styleOf(text, "color", "fontSize"), ["rgb(50, 205, 50)", "20px"]);
     await watch(page, strip, (lefts) => lefts.some((left) => left < lefts[0] - 10));
     await until(page, 0);
-});
+}, { shows: { ToolTip: ["mouse"] } });
 
 testEverywhere(quick({ show: 2500 }), "goes after its time, and shows again only after the pointer has left",
     async ({ page }) => {
@@ -87,7 +87,7 @@ testEverywhere(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show
             const id = await element(page, title).getAttribute("aria-describedby");
             assert.equal((await page.locator(`[id="${id}"]`).textContent()).trim(), "visit our homepage");
         }
-    });
+    }, { shows: { ToolTip: ["keys"] } });
 
 testEverywhere(quick({ change: (effect) => effect.replace(/href="[^"]*"/, 'href="#followed"') }),
     "a tap shows it, the next follows the link; a tap elsewhere and Escape take it away", async ({ page }) => {
@@ -105,7 +105,7 @@ testEverywhere(quick({ change: (effect) => effect.replace(/href="[^"]*"/, 'href=
             await until(page, 1);
             assert.equal(await followed(), bFollowed);
         }
-    });
+    }, { shows: { ToolTip: ["touch"] } });
 
 // Where others have misplaced, covered or hidden it.
 testEverywhere(givePage(quickText({ show: 400 }).replace("<body>", '<body style="transform: translate(40px, 30px)">')
