@@ -53,7 +53,7 @@ if(ORRELIX_HOST)
             set(environment ORRELIX_PAGES=${browser_pages} ORRELIX_PROGRAM=$<TARGET_FILE:orrelix_program>
                 CHROMIUM=${CHROMIUM_PROGRAM} FIREFOX=${FIREFOX_PROGRAM})
             set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser
-                RUN_SERIAL ON TIMEOUT 300 ENVIRONMENT "${environment}")
+                TIMEOUT 300 ENVIRONMENT "${environment}")
         endforeach()
     else()
         message(WARNING "Browser tests are left out: they need node, chromium, firefox and 'npm ci' in tests/browser")

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { readFileSync, readdirSync } from "node:fs";
 import path from "node:path";
-import { givePage, pageText, testEverywhere, watch } from "./harness.mjs";
+import { givePage, goOn, pageText, testEverywhere, watch } from "./harness.mjs";
 
 const effects = ["animate_text", "text_show", "calander", "cool_link", "scroll_text", "fade_select", "tool_tip", "today_ca",
     "dance_text"];
@@ -57,25 +57,18 @@ async function bare(name) {
         ${(scripts.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("")}</head><body>${body}</body></html>`;
 }
 
-// One page of each: the next is opened where the last was.
-async function goThrough(page, names, visit) {
-    for (const name of names) {
-        await page.goto(page.url().replace(/[^/]*$/, `${name}.html`));
-        await visit(name);
-    }
-}
-
 const names = [];
 for (const name of PAGES)
     names.push(givePage(await bare(name), `bare_${name}`));
 
 testEverywhere(names[0], "no page scrolls sideways on a small screen, with any effect", async ({ page }) => {
     const wide = [];
-    await goThrough(page, names, async (name) => {
+    for (const name of names) {
+        await goOn(page, name);
         const width = await page.evaluate(() => document.scrollingElement.scrollWidth);
         if (width > 360)
             wide.push(`${name}: ${width} px`);
-    });
+    }
     assert.deepEqual(wide, []);
 }, { context: { viewport: { width: 360, height: 640 } } });
 
@@ -84,12 +77,13 @@ const RULES = ["wcag2a", "wcag2aa", "wcag21a", "wcag21aa", "wcag22aa", "best-pra
 const NOT_OURS = ["color-contrast", "region", "landmark-one-main", "page-has-heading-one"];
 testEverywhere(names[0], "a tool for accessibility finds nothing", async ({ page }) => {
     const found = [];
-    await goThrough(page, names, async (name) => {
+    for (const name of names) {
+        await goOn(page, name);
         await page.evaluate(AXE);
         const { violations } = await page.evaluate((tags) => window.axe.run({ runOnly: tags }), RULES);
         for (const { id, nodes } of violations)
             if (!NOT_OURS.includes(id))
                 found.push(`${name}: ${id} ${nodes[0].html.slice(0, 80)}`);
-    });
+    }
     assert.deepEqual(found, []);
 });

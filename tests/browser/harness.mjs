@@ -225,6 +225,12 @@ async function openEffect(name, options) {
     };
 }
 
+// Opens another page in the place of the one that the test was given, in the same mode.
+export async function goOn(page, name) {
+    const [, mode] = new URL(page.url()).pathname.split("/");
+    await page.goto(new URL(`/${mode}/${name}.html`, page.url()).href);
+}
+
 // What the tests of a file show, a line for each effect and way of using it, instead of running them.
 function tell(title, shows) {
     for (const [effect, ways] of Object.entries(shows))

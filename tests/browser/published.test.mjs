@@ -4,7 +4,7 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import path from "node:path";
-import { testEverywhere } from "./harness.mjs";
+import { goOn, testEverywhere } from "./harness.mjs";
 
 const root = path.resolve(import.meta.dirname, "../..");
 const sites = path.join(process.env.ORRELIX_PAGES, "published");
@@ -30,7 +30,7 @@ assert.ok(examples.length > 0);
 const pages = examples.map(publish);
 testEverywhere(pages[0], "every published example loads and shows its effect", async ({ page, errors }) => {
     for (const name of pages) {
-        await page.goto(new URL(`/${page.url().split("/")[3]}/${name}.html`, page.url()).href);
+        await goOn(page, name);
         const height = await page.evaluate(() => {
             const effect = document.createRange();
             effect.setStartAfter(document.getElementById("before"));

@@ -2,7 +2,7 @@
 // inherits nothing from the page.
 import assert from "node:assert/strict";
 import { writeFileSync } from "node:fs";
-import { givePage, pageText, testEverywhere } from "./harness.mjs";
+import { givePage, goOn, pageText, testEverywhere } from "./harness.mjs";
 
 const RESET = "<style>* { box-sizing: border-box; margin: 0; padding: 0 } p, a, td, span { color: teal }</style>";
 const SHEETS = ["pico", "bootstrap", "tailwind"].map((name) => `<link rel="stylesheet" href="${name}.css">`);
@@ -20,7 +20,7 @@ for (const effect of EFFECTS) {
         const look = () => page.locator("#frame").screenshot();
         const wanted = await look();
         for (const other of others) {
-            await page.goto(page.url().replace(/[^/]*$/, `${other}.html`));
+            await goOn(page, other);
             const seen = await look();
             if (!wanted.equals(seen) && process.env.ORRELIX_SEEN)
                 for (const [i, picture] of [wanted, seen].entries())
