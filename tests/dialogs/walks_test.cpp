@@ -1,11 +1,15 @@
 // Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs. A question is what a
-// person does, the answer what changes on the screen then; a walk begins with "$ edits", behind which stand fields
-// that aren't as they are at first ("m_Width=50%|m_Left="), and its last answer is what the fields have become.
-// The verbs are in kVerbs; "$ in" says in which dialog the person is from then on.
+// person does, the answer what changes on the screen then; "$ in" says in which dialog the person is from then on,
+// and the other verbs are in kVerbs. A walk begins with "$ edits", behind which stand parameters that the effect has
+// read ("DanceTextPara=,,,,,,0") and fields that aren't as they are at first ("m_Width=50%|m_Left="). Its last answer
+// is what the fields have become, and what of an effect its parameters give back otherwise. That Cancel in the place
+// of an effect's OK changes nothing is tried beside.
 #include "controls/hex_colour.h"
+#include "platform/paths.h"
 #include "tests/support/all_dialogs.h"
 #include "tests/support/person_test.h"
 #include "tests/support/session.h"
+#include "tests/support/temporary_directory.h"
 #include "toolkit/desktop.h"
 #include "toolkit/list_box.h"
 
@@ -86,48 +90,89 @@ const struct {
     {"presses Enter", [](auto& person, auto&, auto&) { person.PressesEnter(); }},
     {"presses Escape", [](auto& person, auto&, auto&) { person.PressesEscape(); }},
     {"reads and closes", [](auto& person, auto& name, auto&) { person.Answers(name); }},
+    {"refuses", [](auto& person, auto& name, auto&) { person.Answers(name, IDCANCEL); }},
+    {"chooses file",
+     [](auto& person, auto& name, auto& value) {
+         person.ChoosesFile(name, value.empty() ? std::optional<CString>() : CString(value));
+     }},
+    {"chooses no file", [](auto& person, auto&, auto&) { person.CancelsFile(); }},
     {"in", [](auto& person, auto& name, auto&) { person.In(name); }},
 };
 
 class Walk : public PersonTest, public testing::WithParamInterface<CTestedDialog> {
 protected:
-    Walk() {
-        m_Person.m_OnStep = [this](CDialog& dialog, CPersonHands& hands) { Look(dialog, hands); };
-    }
-
     // Puts the act into the script.
     void Add(const std::string& question) {
         const auto verb = std::find_if(std::rbegin(kVerbs), std::rend(kVerbs),
                                        [&](const auto& row) { return question.starts_with(row.m_pVerb); });
         ASSERT_NE(verb, std::rend(kVerbs)) << question;
-        const std::string words = question.substr(std::min(strlen(verb->m_pVerb) + 1, question.size()));
+        CString given = question.substr(std::min(strlen(verb->m_pVerb) + 1, question.size()));
+        given.Replace("$IMAGE", m_Image);
+        const std::string words(given.View());
         const size_t nEquals = std::min(words.find(" = "), words.size());
         verb->m_pDo(m_Person, words.substr(0, nEquals), words.substr(std::min(nEquals + 3, words.size())));
     }
 
     // Runs the walk of these questions; each gets its answer.
     void Run(std::span<const std::string> questions, std::span<std::string> answers) {
+        m_Person.m_OnStep = [this](CDialog& dialog, CPersonHands& hands) { Look(dialog, hands); };
         m_Person.In(GetParam().m_pDescription().m_pTitle);
         m_StepOf.clear();
         for (size_t i = 1; i < questions.size(); ++i) {
             Add(questions[i]);
             m_StepOf.resize(m_Person.StepsLeft(), i);
         }
-        const std::unique_ptr<CEditing> pEditing = GetParam().m_Edit();
-        for (const std::string& setting :
-             Pieces(questions[0].substr(std::min(strlen("edits "), questions[0].size())), '|')) {
-            const size_t nEquals = setting.find('=');
-            for (const auto& [name, pText] : pEditing->Fields())
-                *pText = setting.substr(0, nEquals) == name ? CString(setting.substr(nEquals + 1)) : *pText;
-        }
         m_Answers = answers;
+        const std::unique_ptr<CEditing> pEditing = Prepared(questions[0]);
         const CTexts before = FieldsIn(*pEditing);
         const int nResult = pEditing->Run();
-        answers.back() += nResult == IDOK ? "OK\n" : "cancelled\n";
-        answers.back() += Changes(before, FieldsIn(*pEditing));
+        m_Person.m_OnStep = nullptr;
+        const CTexts after = FieldsIn(*pEditing);
+        answers.back() += (nResult == IDOK ? "OK\n" : "cancelled\n") + Changes(before, after);
+        if (nResult != IDOK || !pEditing->Effect())
+            return;
+        answers.back() += ReadAgain(*pEditing->Effect(), after);
+        m_Person.In(GetParam().m_pDescription().m_pTitle);
+        for (size_t i = 1; i < questions.size(); ++i)
+            Add(i + 1 < questions.size() ? questions[i] : "clicks Cancel");
+        const std::unique_ptr<CEditing> pCancelled = Prepared(questions[0]);
+        EXPECT_EQ(pCancelled->Run(), IDCANCEL);
+        EXPECT_EQ(Changes(before, FieldsIn(*pCancelled)), "") << questions[0];
     }
 
+    const CTemporaryDirectory m_Images;
+    const CString m_Image = m_Images.Write("photo.gif", "an image");
+
 private:
+    std::unique_ptr<CEditing> Prepared(const std::string& question) {
+        std::unique_ptr<CEditing> pEditing = GetParam().m_Edit();
+        CVignelConfig parameters;
+        CTexts fields;
+        for (const std::string& setting :
+             Pieces(question.substr(std::min(strlen("edits "), question.size())), '|')) {
+            const size_t nEquals = setting.find('=');
+            if (setting.starts_with("m_"))
+                fields[setting.substr(0, nEquals)] = setting.substr(nEquals + 1);
+            else
+                parameters.SetParameter(setting.substr(0, nEquals), setting.substr(nEquals + 1));
+        }
+        if (!parameters.m_ParameterMap.IsEmpty())
+            pEditing->Effect()->ReadParameters(parameters, m_Images.Path());
+        for (const auto& [name, pText] : pEditing->Fields())
+            *pText = fields.count(name) ? CString(fields[name]) : *pText;
+        return pEditing;
+    }
+
+    // What an effect with its parameters alone has otherwise.
+    std::string ReadAgain(CDhtmlGadget& effect, const CTexts& fields) {
+        CVignelConfig config;
+        effect.WriteParameters(config);
+        const std::unique_ptr<CEditing> pLater = GetParam().m_Edit();
+        pLater->Effect()->ReadParameters(config, m_Images.Path());
+        const std::string changes = Changes(fields, FieldsIn(*pLater));
+        return changes.empty() ? "" : "read again:\n" + changes;
+    }
+
     static CTexts FieldsIn(CEditing& editing) {
         CTexts fields;
         for (const auto& [name, pText] : editing.Fields())
@@ -141,6 +186,8 @@ private:
             if (const auto old = before.find(name); old == before.end() || old->second != value)
                 text += name + ": " + value + "\n";
         }
+        for (const auto& [name, value] : before)
+            text += after.count(name) ? "" : name + " is gone\n";
         return text;
     }
 
@@ -190,6 +237,8 @@ private:
                     text = "the system's fonts";
                 for (const int nRow : hands.SelectedRowsOf(target))
                     text += ", selected " + std::to_string(nRow);
+                if (control.m_Kind == ControlKind::ListCtrl && hands.HotRowOf(target) >= 0)
+                    text += ", hot " + std::to_string(hands.HotRowOf(target));
                 break;
             case ControlKind::Slider:
                 text = std::to_string(hands.PositionOf(target));
@@ -200,14 +249,16 @@ private:
                 text = Escaped(hands.TextOf(target));
                 break;
             case ControlKind::Button:
-                text = "enabled";
+                text = Escaped(hands.TextBeside(target));
+                text += text.empty() && hands.IsEnabled(target) ? "enabled" : "";
                 break;
             default:
                 return;
             }
             const CString group = *pGroup ? WithoutMnemonic(pGroup) + " / " : CString();
-            screen[(group + AccessibleNameOf(control)).GetString()] =
-                text + (hands.IsEnabled(target) ? "" : ", disabled");
+            screen[(group + AccessibleNameOf(control)).GetString()] = text + (hands.IsEnabled(target) ? ""
+                                                                              : text.empty() ? "disabled"
+                                                                                             : ", disabled");
         });
         return screen;
     }
@@ -239,8 +290,12 @@ TEST_P(Walk, ShowsAndLeavesWhatItSays) {
         Run(std::span(questions).subspan(nBegin, nEnd - nBegin),
             std::span(answers).subspan(nBegin, nEnd - nBegin));
     }
-    EXPECT_TRUE(
-        GoesAsItStands(file, [&, n = size_t(0)](const std::string&) mutable { return answers[n++]; }));
+    EXPECT_TRUE(GoesAsItStands(file, [&, n = size_t(0)](const std::string&) mutable {
+        CString answer = answers[n++];
+        for (const CString& image : {m_Image, WithSlashes(m_Image)})
+            answer.Replace(image, "$IMAGE");
+        return std::string(answer.View());
+    }));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Walk, testing::ValuesIn(DialogsWithWalks()),

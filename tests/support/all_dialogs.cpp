@@ -42,6 +42,7 @@ std::unique_ptr<CEditing> OfEffect() {
             m_Dialog.m_pGadget = &m_Effect;
             return m_Dialog.DoModal();
         }
+        CDhtmlGadget* Effect() override { return &m_Effect; }
         TEffect m_Effect;
         TDialog m_Dialog;
     };

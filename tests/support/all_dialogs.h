@@ -15,6 +15,7 @@ public:
     virtual ~CEditing() = default;
     virtual std::vector<CNamedText> Fields() = 0;
     virtual int Run() = 0;
+    virtual CDhtmlGadget* Effect() { return nullptr; } // null for a dialog of no effect
 };
 
 // A dialog that a button opens on fields of the button's dialog.
