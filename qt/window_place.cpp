@@ -1,5 +1,6 @@
 #include "qt/window_place.h"
 
+#include "platform/paths.h"
 #include "platform/user_folder.h"
 
 #include <QFile>
@@ -12,7 +13,7 @@ namespace {
 // Empty when the user has no folder.
 QString PlacesFile(bool bCreateFolder) {
     const CString folder = GetUserFolder(bCreateFolder);
-    return folder.IsEmpty() ? QString() : QFile::decodeName(folder.GetString()) + "/windows.ini";
+    return folder.IsEmpty() ? QString() : QFile::decodeName(SystemSpelling(folder).c_str()) + "/windows.ini";
 }
 
 QString KeyOf(QString name) {

@@ -19,6 +19,7 @@ protected:
         environment.insert("QT_QPA_GENERIC_PLUGINS", "orrelix_test_keyboard");
         environment.insert("ORRELIX_TEST_KEYS", pKeys);
         environment.insert("LC_ALL", "C.UTF-8");
+        environment.insert("XDG_CONFIG_HOME", m_Directory.File("").c_str());
         for (const auto& [name, value] : settings)
             value.isNull() ? environment.remove(name) : environment.insert(name, value);
         QProcess host;

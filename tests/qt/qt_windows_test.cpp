@@ -218,6 +218,7 @@ TEST_F(Windows, AWindowComesUpAsItWasLeft) {
     const QRect place(70, 60, 720, 690);
     Work([&](CDialog&) { CQtPerson::Window().setGeometry(place); });
     Work([&](CDialog&) { EXPECT_EQ(CQtPerson::Window().geometry(), place); });
+    EXPECT_TRUE(exists(m_Settings.Folder() / "windows.ini"));
 }
 
 TEST_F(Windows, WhereTheScreenIsTooSmallTheClosingButtonsStayInSight) {
