@@ -95,7 +95,7 @@ const struct {
      [](auto& person, auto& name, auto& value) {
          person.ChoosesFile(name, value.empty() ? std::optional<CString>() : CString(value));
      }},
-    {"chooses no file", [](auto& person, auto&, auto&) { person.CancelsFile(); }},
+    {"chooses no file, but types", [](auto& person, auto& name, auto&) { person.CancelsFile(name); }},
     {"in", [](auto& person, auto& name, auto&) { person.In(name); }},
 };
 
