@@ -31,8 +31,8 @@ std::vector<std::string> EffectNames() {
     return names;
 }
 
-std::string NameAnEffect() {
-    return fmt::format("--effect: {}", fmt::join(EffectNames(), ", "));
+std::string AllEffects() {
+    return fmt::format("{}", fmt::join(EffectNames(), ", "));
 }
 
 // As properties of files have it.
@@ -186,8 +186,9 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     if (!options.m_bListFields && fs::exists(options.m_File))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
-        return report.WrongUsage(name, "has no effect yet of which there could be fields; name one with " +
-                                           NameAnEffect());
+        return report.WrongUsage(
+            name,
+            "has no effect yet of which there could be fields; name one with --effect: " + AllEffects());
     if (Printable(options.m_Title) != options.m_Title)
         return report.WrongUsage("--title", "has a line break or another control character");
     COrrelix orrelix;
@@ -200,18 +201,15 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     orrelix.SetBitmapFileName("");
     orrelix.SetPreviewPath("");
     if (options.m_Effect.empty()) {
-        if (RunDialogs(orrelix, options, "name one of the effects with " + NameAnEffect(), report))
+        if (RunDialogs(orrelix, options, "name one of the effects with --effect: " + AllEffects(), report))
             Write(orrelix, options, report);
         return;
     }
     const CEffect* pEffect = FindEffectNamed(options.m_Effect);
-    if (!pEffect) {
-        const std::string meant = DidYouMean('"' + options.m_Effect + '"', EffectNames());
-        return report.WrongUsage(
-            "--effect " + options.m_Effect,
-            meant.empty() ? fmt::format("is no effect; there are {}", fmt::join(EffectNames(), ", "))
-                          : "is no effect; " + meant);
-    }
+    if (!pEffect)
+        return report.WrongUsage("--effect " + options.m_Effect,
+                                 "is no effect; " + DidYouMean('"' + options.m_Effect + '"', EffectNames(),
+                                                               "there are " + AllEffects()));
     orrelix.SelectType(TypeOf(*pEffect));
     if (options.m_bListFields)
         PrintFields(*orrelix.m_pGadget);

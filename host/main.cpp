@@ -114,26 +114,20 @@ int WrongUsage(const std::string& text) {
     return kWrongUsage;
 }
 
-void AddOptionNames(const CLI::App& command, std::vector<std::string>& names) {
-    for (const CLI::Option* pOption : command.get_options()) {
-        if (!pOption->get_positional())
-            names.push_back(pOption->get_name());
-    }
-}
-
 // What to say of a word that is nearly a command or an option; empty when there is none.
 std::string SayWhatWasMeant(const CLI::App& program) {
-    std::vector<std::string> known;
     const std::vector<CLI::App*> given = program.get_subcommands();
-    for (const CLI::App* pCommand : program.get_subcommands(nullptr)) {
-        if (given.empty())
-            known.push_back(pCommand->get_name());
-        else if (pCommand == given.front())
-            AddOptionNames(*pCommand, known);
+    const CLI::App& command = given.empty() ? program : *given.front();
+    std::vector<std::string> known;
+    for (const CLI::App* pCommand : command.get_subcommands(nullptr))
+        known.push_back(pCommand->get_name());
+    const auto isOption = [](const CLI::Option* pOption) { return pOption->nonpositional(); };
+    for (const CLI::App* pTaker : {&command, &program}) {
+        for (const CLI::Option* pOption : pTaker->get_options(isOption))
+            known.push_back(pOption->get_name());
     }
-    AddOptionNames(program, known);
     for (const std::string& word : program.remaining(true)) {
-        const std::string meant = DidYouMean(word.substr(0, word.find('=')), known);
+        const std::string meant = DidYouMean(word.substr(0, word.find('=')), known, "");
         if (!meant.empty())
             return fmt::format("{} is unknown; {}", word, meant);
     }

@@ -86,9 +86,8 @@ std::string WhyNoField(const std::vector<CNamedField>& fields, const std::string
     std::vector<std::string> names;
     for (const CNamedField& field : fields)
         names.push_back(field.m_Name);
-    const std::string meant = DidYouMean(name, names);
     return fmt::format("the effect has no field {}; {}", name,
-                       meant.empty() ? "--list-fields shows those that it has" : meant);
+                       DidYouMean(name, names, "--list-fields shows those that it has"));
 }
 
 } // namespace

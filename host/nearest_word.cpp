@@ -34,9 +34,10 @@ std::string Lower(std::string_view text) {
 
 } // namespace
 
-std::string DidYouMean(std::string_view typed, const std::vector<std::string>& words) {
+std::string DidYouMean(std::string_view typed, const std::vector<std::string>& words,
+                       const std::string& otherwise) {
     size_t nNearest = typed.size() / 4 + 2; // one letter of a short word, more of a long one
-    std::string answer;
+    std::string answer = otherwise;
     for (const std::string& word : words) {
         const size_t nDistance = Distance(Lower(typed), Lower(word));
         if (nDistance < nNearest) {

@@ -7,8 +7,9 @@
 
 namespace orrelix {
 
-// "did you mean WORD?" with the one of the words that is nearest to what was typed, in any case; empty when
-// none is so near that it can be meant.
-std::string DidYouMean(std::string_view typed, const std::vector<std::string>& words);
+// "did you mean WORD?" with the one of the words that is nearest to what was typed, in any case; `otherwise`
+// when none is so near that it can be meant.
+std::string DidYouMean(std::string_view typed, const std::vector<std::string>& words,
+                       const std::string& otherwise);
 
 } // namespace orrelix
