@@ -39,7 +39,7 @@
             const wait = nDelay < FRAME ? requestAnimationFrame : nativeSetTimeout;
             return wait.call(window, () => {
                 due = fn;
-                if (handle.running)
+                if (handle.running && link.isConnected)
                     pass();
             }, nDelay);
         };

@@ -163,7 +163,7 @@ async function newPage({ browser, calm = false, before, clock = false, context: 
     const page = await context.newPage();
     const errors = [];
     page.on("console", (message) => {
-        if (message.type() === "error")
+        if (["error", "warning"].includes(message.type()))
             errors.push(`${message.text()} (${message.location().url})`);
     });
     page.on("pageerror", (error) => errors.push(error.stack || String(error)));

@@ -84,7 +84,7 @@ const running = (page, time) => page.evaluate(async (milliseconds) => {
     return [window.nTicks - before, document.getAnimations().filter(({ playState }) => playState === "running").length];
 }, time);
 
-for (const { effect, name, look, rests, time = 250, calm = /./, calmOptions } of moving) {
+for (const { effect, name, look, rests, time = 150, calm = /./, calmOptions } of moving) {
     const moves = (page) => watch(page, look, (values) => values.length > 1);
     const stands = async (page, why) => {
         await nextFrame(page);

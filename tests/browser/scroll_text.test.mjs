@@ -81,6 +81,13 @@ testEverywhere(givePage(quick(undefined, PLAIN.replace(/<body>([^]*)<\/body>/,
     }
 });
 
+testEverywhere(givePage(quick().replace(/<main[^>]*>([^]*)<\/main>/, "<details>$1</details>")),
+    "in a panel that is closed at first the texts come one after another too", async ({ page }) => {
+        await page.locator("details").evaluate((panel) => (panel.open = true));
+        for (const [box] of await everyFrame(page, (frames) => frames.some(([shown]) => shown.length === 2)))
+            assert.ok(box.length < 2 || Math.abs(box[0].top - box[1].top) > 15, JSON.stringify(box));
+    });
+
 testEverywhere(givePage(quick([...TEXTS, ...TEXTS, "Last"])), "with reduced motion it is a list to scroll by hand",
     async ({ page }) => {
         await page.locator("#brndfnscrollmain2").evaluate((box) => (box.scrollTop = 9999));
