@@ -1,35 +1,57 @@
 # The component: everything but the Qt windows, program, tests and benches. It needs the standard library and nothing
 # else.
-set(platform_services file_system file_lock module screen user_folder)
+set(platform_services automation file_system file_lock module registry screen text_conversion user_folder)
 if(WIN32)
     list(TRANSFORM platform_services APPEND _windows.cpp)
 else()
     list(TRANSFORM platform_services APPEND _posix.cpp)
 endif()
 list(TRANSFORM platform_services PREPEND platform/)
+file(GLOB platform_sources CONFIGURE_DEPENDS platform/*.cpp)
+list(FILTER platform_sources EXCLUDE REGEX "_(posix|windows)\\.cpp$")
+list(APPEND platform_sources ${platform_services})
 
-# The lower floor: the store, the parameters, the HTML and the contract of all gadgets. It knows no gadget and no
+# The system, the dialogs' toolkit and what both stand on: all that the windows' library needs of the component, so their
+# symbols are seen outside of it.
+file(GLOB toolkit_sources CONFIGURE_DEPENDS toolkit/*.cpp)
+add_library(orrelix_toolkit OBJECT ${platform_sources} ${toolkit_sources})
+
+# The lower floor of core: the store, the parameters, the HTML and the contract of all gadgets. It knows no gadget and no
 # dialog.
-file(GLOB store_sources CONFIGURE_DEPENDS core/*.cpp platform/*.cpp)
-list(FILTER store_sources EXCLUDE REGEX "core/orrelix\\.cpp$|_(posix|windows)\\.cpp$")
-add_library(orrelix_store OBJECT ${store_sources} ${platform_services})
+set(store_sources line_reader.cpp vignel_config.cpp parameters.cpp dhtml_gadget.cpp)
+list(TRANSFORM store_sources PREPEND core/)
+add_library(orrelix_store OBJECT ${store_sources})
 
-# The upper floor: the gadgets, their dialogs, and the object that hosts see.
-file(GLOB component_sources CONFIGURE_DEPENDS
-    gadgets/*.cpp dialogs/*.cpp controls/*.cpp resources/*.cpp toolkit/*.cpp)
-add_library(orrelix_component OBJECT core/orrelix.cpp ${component_sources})
+# The upper floor: the gadgets, their dialogs, the object that hosts see and how they reach it.
+file(GLOB core_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} core/*.cpp)
+list(REMOVE_ITEM core_sources ${store_sources})
+file(GLOB component_sources CONFIGURE_DEPENDS gadgets/*.cpp dialogs/*.cpp controls/*.cpp resources/*.cpp)
+add_library(orrelix_component OBJECT ${core_sources} ${component_sources})
 
-foreach(floor orrelix_store orrelix_component)
+set(floors orrelix_toolkit orrelix_store orrelix_component)
+foreach(floor ${floors})
     target_link_libraries(${floor} PRIVATE orrelix_options)
     target_include_directories(${floor} PRIVATE ${PROJECT_SOURCE_DIR})
+    # Without unique symbols, which would keep the library loaded for ever.
+    target_compile_options(${floor} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     set_target_properties(${floor} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endforeach()
 
-add_library(orrelix SHARED $<TARGET_OBJECTS:orrelix_store> $<TARGET_OBJECTS:orrelix_component>)
+set(objects ${floors})
+list(TRANSFORM objects REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>")
+
+# What hosts load.
+add_library(orrelix SHARED ${objects})
 target_link_libraries(orrelix PRIVATE ${CMAKE_DL_LIBS})
 target_include_directories(orrelix PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
-set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix)
+target_link_options(orrelix PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/component.map)
+set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/component.map)
+
+# The same objects for tests and benches, which call what hosts can't see.
+add_library(orrelix_static STATIC ${objects})
+target_link_libraries(orrelix_static PUBLIC ${CMAKE_DL_LIBS})
+target_include_directories(orrelix_static PUBLIC ${PROJECT_SOURCE_DIR})
 
 install(TARGETS orrelix LIBRARY DESTINATION ${ORRELIX_LIBRARY_DIR})
-install(DIRECTORY controls core dialogs gadgets platform resources toolkit DESTINATION include/orrelix
-    FILES_MATCHING PATTERN "*.h")
+install(FILES include/vignel_server.h include/orrelix.hpp DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

@@ -3,16 +3,18 @@ find_package(GTest REQUIRED)
 include(GoogleTest)
 
 file(GLOB support_sources CONFIGURE_DEPENDS tests/support/*.cpp)
+list(FILTER support_sources EXCLUDE REGEX "/main\\.cpp$")
 add_library(test_support STATIC ${support_sources})
-target_link_libraries(test_support PUBLIC orrelix orrelix_options GTest::gtest)
-target_compile_definitions(test_support PUBLIC ORRELIX_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+target_link_libraries(test_support PUBLIC orrelix_static orrelix_options GTest::gtest)
+target_compile_definitions(test_support PUBLIC ORRELIX_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    ORRELIX_SCRIPT_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 
 # The tests of a folder are compiled once, as ${folder}_tests: another program may link them too.
 function(orrelix_test_program folder)
     file(GLOB sources CONFIGURE_DEPENDS tests/${folder}/*_test.cpp)
     add_library(${folder}_tests OBJECT ${sources})
-    target_link_libraries(${folder}_tests PUBLIC test_support GTest::gtest_main ${ARGN})
-    add_executable(${folder}_test)
+    target_link_libraries(${folder}_tests PUBLIC test_support ${ARGN})
+    add_executable(${folder}_test ${PROJECT_SOURCE_DIR}/tests/support/main.cpp)
     target_link_libraries(${folder}_test PRIVATE ${folder}_tests)
     add_dependencies(${folder}_test scripts)
     gtest_discover_tests(${folder}_test TEST_PREFIX ${folder}. DISCOVERY_TIMEOUT 60)

@@ -5,22 +5,15 @@
 
 namespace orrelix {
 
-namespace {
-
-// In the order of the rows.
-constexpr const char* kWords[] = {"", "self", "top", "blank", "parent"};
-
-} // namespace
-
 int RowOfLinkTarget(const CString& word) {
     const auto found =
-        std::find_if(std::begin(kWords), std::end(kWords), [&](const char* pWord) { return word == pWord; });
-    return found == std::end(kWords) ? -1 : static_cast<int>(found - std::begin(kWords));
+        std::find_if(std::begin(kLinkTargetWords), std::end(kLinkTargetWords), [&](const char* pWord) { return word == pWord; });
+    return found == std::end(kLinkTargetWords) ? -1 : static_cast<int>(found - std::begin(kLinkTargetWords));
 }
 
 void TakeLinkTarget(int nRow, CString& word) {
     if (nRow >= 0)
-        word = kWords[nRow];
+        word = kLinkTargetWords[nRow];
 }
 
 } // namespace orrelix

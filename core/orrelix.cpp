@@ -1,7 +1,5 @@
 #include "core/orrelix.h"
 
-#include "platform/paths.h"
-
 namespace orrelix {
 
 namespace {
@@ -49,7 +47,7 @@ CVignelConfig& COrrelix::Registered() {
     return m_Config;
 }
 
-bool COrrelix::ReadConfigFile(const CString& path) {
+bool COrrelix::ReadConfigFile(const CPath& path) {
     return SucceedsIn([&] { return Read(path); });
 }
 
@@ -57,13 +55,14 @@ bool COrrelix::Config() {
     return SucceedsIn([&] { return RunDialogs(); });
 }
 
-bool COrrelix::WriteConfigFileEx(const CString& path, short force) {
+bool COrrelix::WriteConfigFileEx(const CPath& path, short force) {
     m_WriteError = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
     return SucceedsIn([&] { return Write(path, force); });
 }
 
 bool COrrelix::Read(const CString& path) {
-    if (!m_Config.ReadFile(path))
+    m_Form = {};
+    if (!m_Config.ReadFile(path, m_bKeepForm ? &m_Form : nullptr))
         return false;
     if (m_Config.GetProgID() != kProgID)
         return true;

@@ -26,6 +26,7 @@
 #include "dialogs/today_ca_dlg.h"
 #include "dialogs/tool_tip_dlg.h"
 #include "gadgets/no_select.h"
+#include "platform/paths.h"
 #include "resources/effects.h"
 
 namespace orrelix {
@@ -58,10 +59,10 @@ public:
 
     // Reads a file and brings its gadget back. False, and nothing changes, when it can't be opened. A file of
     // another component is read into the store, and the gadget stays.
-    bool ReadConfigFile(const CString& path);
+    bool ReadConfigFile(const CPath& path);
 
     // WriteConfigFileEx without force.
-    bool WriteConfigFile(const CString& path) { return WriteConfigFileEx(path, 0); }
+    bool WriteConfigFile(const CPath& path) { return WriteConfigFileEx(path, 0); }
 
     // Runs the dialogs: first the choice of an effect, unless one is chosen, then that effect's own. False
     // when the user cancelled.
@@ -69,12 +70,12 @@ public:
 
     // Ids of the texts and of the icon that a host may load from a library that has them. Constants of the
     // contract with hosts.
-    long GetVignelTypeID() const { return 1; }
-    long GetVignelNameID() const { return 2; }
-    long GetMenuTextID() const { return 3; }
-    long GetMessageTextID() const { return 4; }
-    long GetTipsTextID() const { return 5; }
-    long GetIconID(short) const { return 4000; }
+    int GetVignelTypeID() const { return 1; }
+    int GetVignelNameID() const { return 2; }
+    int GetMenuTextID() const { return 3; }
+    int GetMessageTextID() const { return 4; }
+    int GetTipsTextID() const { return 5; }
+    int GetIconID(short) const { return 4000; }
 
     short GetHTMLSegmentNumber() { return m_pGadget->GetHTMLSegmentNumber(); }
     // "cursor" for 0, "script" for any other.
@@ -85,7 +86,7 @@ public:
     }
 
     // The loaded library, in which a host looks for them.
-    long GetResourceInstance() const { return GetModuleInstance(); }
+    int GetResourceInstance() const { return GetModuleInstance(); }
 
     // The files that the page needs. The first of these calls after a new object, or after a Config that
     // ended in OK, asks the gadget; the following ones use its answer.
@@ -104,7 +105,11 @@ public:
     // Copies the gadget's files into the directory of `path` and writes the file there. With `force` not 0
     // nobody is asked about names that are taken. False when the file can't be written; the copies have been
     // made by then.
-    bool WriteConfigFileEx(const CString& path, short force);
+    bool WriteConfigFileEx(const CPath& path, short force);
+
+    // The form of the file read last, kept for those who look into files.
+    bool m_bKeepForm = false;
+    CConfigForm m_Form;
 
     // Why the last writing of a file failed.
     std::error_code m_WriteError;

@@ -17,7 +17,11 @@ void SetModuleDirectory(const CString& directory);
 // what the system puts around it ("lib", ".so"). Null when there is no such library or function.
 void* LoadNeighbour(const char* pLibrary, const char* pFunction);
 
-// A number that stands for the loaded library within this process: the address at which it begins.
-long GetModuleInstance();
+// The full path of the library that holds this code, under the name by which it was loaded; of a program, the
+// program's. Empty when the system can't tell.
+CString GetModuleFile();
+
+// A number that stands for the loaded library within this process. Never 0.
+int GetModuleInstance();
 
 } // namespace orrelix

@@ -1,6 +1,7 @@
 #include "platform/module.h"
 #include "platform/paths.h"
 
+#include <cstdint>
 #include <dlfcn.h>
 #include <filesystem>
 #include <optional>
@@ -15,25 +16,25 @@ Dl_info ThisModule() {
     return module;
 }
 
-// With slashes; empty when the system can't tell.
-std::string FindDirectory() {
+// With slashes; empty when the system can't tell. A link beside the library stays, because it outlives the version that
+// it leads to.
+std::filesystem::path FindFile() {
     const char* pFile = ThisModule().dli_fname;
     std::error_code unknown;
-    return std::filesystem::canonical(pFile ? pFile : "", unknown).parent_path().string();
+    const auto file = std::filesystem::canonical(pFile ? pFile : "", unknown);
+    const auto asLoaded = file.parent_path() / std::filesystem::path(pFile ? pFile : "").filename();
+    return std::filesystem::exists(asLoaded, unknown) ? asLoaded : file;
 }
 
 // Asked for while the library is loaded: its path may be a relative one, and the host's directory may change.
-const std::string g_directory = FindDirectory();
+const std::filesystem::path g_file = FindFile();
 
 std::optional<CString> g_namedByHost;
 
 } // namespace
 
 CString GetModuleDirectory() {
-    if (g_namedByHost || g_directory.empty())
-        return g_namedByHost.value_or("");
-    const CString withEnd = FromSystemPath(g_directory + "/");
-    return withEnd.Left(withEnd.GetLength() - 1);
+    return g_namedByHost ? *g_namedByHost : DirectoryOfPath(GetModuleFile());
 }
 
 void SetModuleDirectory(const CString& directory) {
@@ -41,15 +42,21 @@ void SetModuleDirectory(const CString& directory) {
 }
 
 void* LoadNeighbour(const char* pLibrary, const char* pFunction) {
-    if (g_directory.empty())
+    if (g_file.empty())
         return nullptr;
-    const std::string file = g_directory + "/lib" + pLibrary + ".so";
+    const std::string file = (g_file.parent_path() / "lib").string() + pLibrary + ".so";
     void* pLoaded = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     return pLoaded ? dlsym(pLoaded, pFunction) : nullptr;
 }
 
-long GetModuleInstance() {
-    return reinterpret_cast<long>(ThisModule().dli_fbase);
+CString GetModuleFile() {
+    return FromSystemPath(g_file.string());
+}
+
+// Where the library begins, in pages.
+int GetModuleInstance() {
+    const auto nPage = reinterpret_cast<std::uintptr_t>(ThisModule().dli_fbase) >> 12;
+    return static_cast<int>(nPage & 0x7FFFFFFF) | 1;
 }
 
 } // namespace orrelix

@@ -8,6 +8,14 @@
 
 namespace orrelix {
 
+// A path where hosts give one: they may name it as the system does, and the component gets it full, with
+// backslashes (see platform/wide_text.h).
+class CPath : public CString {
+public:
+    using CString::CString;
+    CPath(const CString& path) : CString(path) {}
+};
+
 // The text behind the last backslash; the whole path when it has none.
 CString FileNameOfPath(const CString& path);
 

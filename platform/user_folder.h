@@ -8,9 +8,11 @@ namespace orrelix {
 constexpr const char* kCompanyWord = "Brindlefen";
 constexpr const char* kApplicationTitle = "Vellumark Orrelix";
 
-// The component's own folder for the settings of the user, named by company word and application title below
-// the user's configuration folder; with backslashes and none at its end. Empty when the
-// user has no configuration folder or, with bCreate, when the folder can't be made.
+// A folder below the user's configuration folder, by its name with slashes; with backslashes and none at its end. Empty
+// when the user has no configuration folder or, with bCreate, when the folder can't be made.
+CString GetConfigurationFolder(const std::string& name, bool bCreate);
+
+// The component's own folder for the settings of the user, named by company word and application title.
 CString GetUserFolder(bool bCreate);
 
 } // namespace orrelix

@@ -45,12 +45,16 @@ bool MakeFolders(const std::string& path) {
 
 } // namespace
 
-CString GetUserFolder(bool bCreate) {
+CString GetConfigurationFolder(const std::string& name, bool bCreate) {
     std::string folder = ConfigurationFolder();
     if (folder.empty())
         return {};
-    folder += std::string("/") + kCompanyWord + "/" + kApplicationTitle;
+    folder += '/' + name;
     return bCreate && !MakeFolders(folder) ? CString() : FromSystemPath(folder);
+}
+
+CString GetUserFolder(bool bCreate) {
+    return GetConfigurationFolder(std::string(kCompanyWord) + "/" + kApplicationTitle, bCreate);
 }
 
 } // namespace orrelix

@@ -1,5 +1,7 @@
 #include "resources/font_description.h"
 
+#include "resources/choices.h"
+
 namespace orrelix {
 
 namespace {
@@ -8,13 +10,11 @@ using namespace describe;
 using Id = FontId;
 
 CDialogItem Weight() {
-    return ComboBox(
-        Id::Weight, "Font &Weight:",
-        {"normal", "lighter", "light", "demi-light", "medium", "demi-bold", "bold", "extra-bold", "bolder"});
+    return ComboBox(Id::Weight, "Font &Weight:", kFontWeights);
 }
 
 CDialogItem Style() {
-    return ComboBox(Id::Style, "Font St&yle:", {"italic", "oblique", "normal"}, STYLE_SORTED);
+    return ComboBox(Id::Style, "Font St&yle:", kFontStyles, STYLE_SORTED);
 }
 
 CDialogItem Size() {

@@ -29,6 +29,7 @@ public:
 
 CNobody g_nobody;
 CDesktop* g_pDesktop = nullptr; // null until one is set
+CString g_ownerWindow;
 
 } // namespace
 
@@ -39,6 +40,14 @@ CDesktop& GetDesktop() {
 
 void SetDesktop(CDesktop* pDesktop) {
     g_pDesktop = pDesktop ? pDesktop : &g_nobody;
+}
+
+const CString& GetOwnerWindow() {
+    return g_ownerWindow;
+}
+
+void SetOwnerWindow(const CString& window) {
+    g_ownerWindow = window;
 }
 
 int AfxMessageBox(const CString& text, MessageBoxKind kind) {

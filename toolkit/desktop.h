@@ -77,6 +77,11 @@ CDesktop& GetDesktop();
 // Not owned; it must stay until another one is set. Null: nobody is there.
 void SetDesktop(CDesktop* pDesktop);
 
+// The host's window, on top of which a desktop opens its dialogs: the number by which the window system knows it, in
+// decimal. Empty at start, for none.
+const CString& GetOwnerWindow();
+void SetOwnerWindow(const CString& window);
+
 // A message box with one "OK", or the kind that is named.
 int AfxMessageBox(const CString& text, MessageBoxKind kind = MessageBoxKind::Ok);
 

@@ -1,0 +1,177 @@
+#include "core/fields.h"
+
+#include "controls/link_target.h"
+#include "controls/remote_directory.h"
+#include "core/dispatch.h"
+#include "resources/choices.h"
+
+#include <algorithm>
+
+namespace orrelix {
+
+namespace {
+
+const std::vector<CChoice> kTargets(std::begin(kLinkTargetWords), std::end(kLinkTargetWords));
+const std::vector<CChoice> kTipTags = {"marquee", "span"};
+
+constexpr int kMostOfArrows = 5000;
+
+struct CNameEnding {
+    std::string_view m_Ending;
+    FieldKind m_Kind;
+    const std::vector<CChoice>* m_pChoices = nullptr;
+    int m_nMost = 0;
+};
+
+// The first that fits counts.
+const CNameEnding kEndings[] = {
+    {"Color", FieldKind::Colour},
+    {"Colors", FieldKind::Colour},
+    {"BorderStyle", FieldKind::Choice, &kBorderStyles},
+    {"Style", FieldKind::Choice, &kFontStyles},
+    {"Weight", FieldKind::Choice, &kFontWeights},
+    {"Decoration", FieldKind::Choice, &kDecorations},
+    {"Align", FieldKind::Choice, &kAligns},
+    {"Target", FieldKind::Choice, &kTargets},
+    {"TipTag", FieldKind::Choice, &kTipTags},
+    {"ScriptPath", FieldKind::Directory},
+    {"ImagePath", FieldKind::Directory},
+    {"ClassWebPath", FieldKind::Directory},
+    {"PopUpInterval", FieldKind::Number, nullptr, 1000},
+    {"CirculateInterval", FieldKind::Number, nullptr, 1000},
+    {"m_Speed", FieldKind::Number, nullptr, 1000},
+    {"m_Delay", FieldKind::Number, nullptr, 10},
+    {"Width", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Height", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Size", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Top", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Left", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Right", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Bottom", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Padding", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Margin", FieldKind::Number, nullptr, kMostOfArrows},
+    {"ScrollStart", FieldKind::Number, nullptr, kMostOfArrows},
+    {"LayerSpeed", FieldKind::Number, nullptr, kMostOfArrows},
+    {"Time", FieldKind::Number, nullptr, kMostOfArrows},
+    {"FadeSteps", FieldKind::Number, nullptr, kMostOfArrows},
+    {"FadeMsec", FieldKind::Number, nullptr, kMostOfArrows},
+    {"TableBorder", FieldKind::Number, nullptr, kMostOfArrows},
+    {"m_Border", FieldKind::Number, nullptr, kMostOfArrows},
+};
+
+class CFieldLister : public CParameterExchange {
+public:
+    void Fields(const char*, std::initializer_list<CParameterField> fields) override {
+        for (const CParameterField& field : fields) {
+            if (field.m_pText)
+                Add(field, true);
+        }
+    }
+    void Text(const char*, CParameterField field) override { Add(field, false); }
+    void Unstored(CParameterField field) override { Add(field, false); }
+
+    std::vector<CNamedField> m_Fields;
+
+protected:
+    void DoItems(const char*, const CParameterColumn& column) override {
+        m_Fields.push_back({column.m_pName, true, column.m_bFileName, false, column.m_Items});
+    }
+
+private:
+    void Add(const CParameterField& field, bool bInCommaList) {
+        m_Fields.push_back({field.m_pName, false, field.m_bFileName, bInCommaList, {field.m_pText}});
+    }
+};
+
+class CListSizer : public CParameterExchange {
+public:
+    explicit CListSizer(CStringArray::Index nItems) : m_nItems(nItems) {}
+    void Fields(const char*, std::initializer_list<CParameterField>) override {}
+    void Text(const char*, CParameterField) override {}
+
+protected:
+    CStringArray::Index CountFor(CStringArray::Index) const override { return m_nItems; }
+    void DoItems(const char*, const CParameterColumn&) override {}
+
+private:
+    CStringArray::Index m_nItems;
+};
+
+bool IsColour(std::string_view text) {
+    return text.size() == 6 && text.find_first_not_of("0123456789abcdefABCDEF") == text.npos;
+}
+
+CString ColourOf(const CNamedField& field, std::string_view value) {
+    if (value.starts_with('#'))
+        value.remove_prefix(1);
+    if (!value.empty() && !IsColour(value))
+        throw CRefusal(std::string(field.m_Name.View()) + " is a colour: six hexadecimal digits, such as ff8000");
+    return value;
+}
+
+} // namespace
+
+CFieldType TypeOfField(const std::vector<CNamedField>& fields, const CNamedField& field) {
+    if (field.m_bFileName)
+        return {FieldKind::File, {}, 0, 0};
+    if (FindField(fields, field.m_Name + "Width") && FindField(fields, field.m_Name + "Style"))
+        return {FieldKind::Border, {}, 0, 0};
+    for (const CNameEnding& ending : kEndings) {
+        if (!field.m_Name.View().ends_with(ending.m_Ending))
+            continue;
+        CFieldType type{ending.m_Kind, {}, 0, ending.m_nMost};
+        if (ending.m_pChoices) {
+            for (const CChoice& choice : *ending.m_pChoices)
+                type.m_Choices.emplace_back(choice.m_pValue);
+        }
+        return type;
+    }
+    return {};
+}
+
+const char* NameOf(FieldKind kind) {
+    constexpr const char* kNames[] = {"text", "number", "colour", "choice", "file", "directory", "border"};
+    return kNames[static_cast<size_t>(kind)];
+}
+
+std::vector<CNamedField> ListFields(CDhtmlGadget& gadget) {
+    CFieldLister lister;
+    gadget.ExchangeParameters(lister);
+    return std::move(lister.m_Fields);
+}
+
+const CNamedField* FindField(const std::vector<CNamedField>& fields, std::string_view name) {
+    const auto found = std::find_if(fields.begin(), fields.end(), [&](const CNamedField& field) {
+        return field.m_Name == name || field.m_Name.View().substr(2) == name;
+    });
+    return found == fields.end() ? nullptr : &*found;
+}
+
+void ResizeLists(CDhtmlGadget& gadget, CStringArray::Index nItems) {
+    CListSizer sizer(nItems);
+    gadget.ExchangeParameters(sizer);
+}
+
+CString AsDialogStores(const CNamedField& field, FieldKind kind, const CString& value) {
+    switch (kind) {
+    case FieldKind::Colour: return ColourOf(field, value);
+    case FieldKind::Directory: return RemoteDirectory(value);
+    default: return value;
+    }
+}
+
+void UpdateBorder(const std::vector<CNamedField>& fields, const CNamedField& part) {
+    for (std::string_view ending : {"Width", "Style", "Color"}) {
+        if (!part.m_Name.View().ends_with("Border" + std::string(ending)))
+            continue;
+        const CString whole = part.m_Name.Left(part.m_Name.GetLength() - static_cast<CString::Position>(ending.size()));
+        const CNamedField* pWhole = FindField(fields, whole);
+        const CNamedField* pWidth = FindField(fields, whole + "Width");
+        const CNamedField* pStyle = FindField(fields, whole + "Style");
+        const CNamedField* pColor = FindField(fields, whole + "Color");
+        if (pWhole && pWidth && pStyle && pColor)
+            *pWhole->m_Values[0] = WholeBorder(*pWidth->m_Values[0], *pStyle->m_Values[0], *pColor->m_Values[0]);
+    }
+}
+
+} // namespace orrelix

@@ -1,0 +1,379 @@
+#include "core/inspector.h"
+
+#include "core/config_format.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/module.h"
+#include "platform/wide_text.h"
+#include "resources/texts.h"
+#include "toolkit/desktop.h"
+#include "toolkit/desktop_loader.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+namespace orrelix {
+
+namespace {
+
+CItems ItemsOf(const std::vector<CString>& texts) {
+    CItems items;
+    for (const CString& text : texts)
+        items.m_Items.Add(text);
+    return items;
+}
+
+CString ValueOf(const CMapStringToString& map, const CString& key) {
+    const CString* pValue = map.Find(key);
+    return pValue ? *pValue : CString();
+}
+
+// Null for an index outside of the list.
+template <class TList>
+auto ItemAt(TList& list, int nIndex) {
+    return nIndex >= 0 && nIndex < std::distance(list.begin(), list.end()) ? &*std::next(list.begin(), nIndex) : nullptr;
+}
+
+const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString& name, bool bList) {
+    const CNamedField* pField = FindField(fields, name);
+    if (!pField)
+        throw CRefusal("the effect has no field " + std::string(name.View()));
+    if (pField->m_bList != bList)
+        throw CRefusal(std::string(pField->m_Name.View()) + (bList ? " is one text and no list" : " is a list"));
+    return *pField;
+}
+
+// The system's form of a path of the effect's, which may be empty.
+CString ShownValue(const CNamedField& field, const CString& value) {
+    return field.m_bFileName ? CString(SystemSpelling(value)) : value;
+}
+
+CString TakenValue(const CNamedField& field, FieldKind kind, const CString& value) {
+    if (!field.m_bFileName || value.IsEmpty())
+        return AsDialogStores(field, kind, value);
+    return FullPath(value);
+}
+
+} // namespace
+
+CInspector::CInspector(COrrelix& orrelix) : m_Orrelix(orrelix) {
+    m_Orrelix.m_bKeepForm = true;
+}
+
+CItems CInspector::GetEffectNames() const {
+    CItems names;
+    for (const CEffect& effect : kEffects)
+        names.m_Items.Add(effect.m_pName);
+    return names;
+}
+
+CItems CInspector::GetEffectDescriptions() const {
+    CItems descriptions;
+    for (const CEffect& effect : kEffects)
+        descriptions.m_Items.Add(effect.m_pDescription);
+    return descriptions;
+}
+
+CString CInspector::GetEffect() const {
+    const CEffect* pEffect = FindEffect(m_Orrelix.m_Type);
+    return pEffect ? pEffect->m_pName : "";
+}
+
+void CInspector::SetEffect(const CString& name) {
+    const CEffect* pEffect = FindEffectNamed(name);
+    if (!pEffect)
+        throw CRefusal("there is no effect \"" + std::string(name.View()) + "\"");
+    m_Orrelix.SelectType(orrelix::TypeOf(*pEffect));
+}
+
+CItems CInspector::GetFieldNames() {
+    CItems names;
+    for (const CNamedField& field : ListFields(Gadget()))
+        names.m_Items.Add(field.m_Name);
+    return names;
+}
+
+CFieldType CInspector::TypeOf(const CString& name) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    return TypeOfField(fields, FieldOf(fields, name, IsFieldList(name)));
+}
+
+CString CInspector::GetFieldKind(const CString& field) {
+    return NameOf(TypeOf(field).m_Kind);
+}
+
+bool CInspector::IsFieldList(const CString& field) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField* pField = FindField(fields, field);
+    return pField && pField->m_bList;
+}
+
+CItems CInspector::GetFieldChoices(const CString& field) {
+    return ItemsOf(TypeOf(field).m_Choices);
+}
+
+int CInspector::GetFieldMinimum(const CString& field) {
+    return TypeOf(field).m_nLeast;
+}
+
+int CInspector::GetFieldMaximum(const CString& field) {
+    return TypeOf(field).m_nMost;
+}
+
+CString CInspector::GetField(const CString& name) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField& field = FieldOf(fields, name, false);
+    return ShownValue(field, *field.m_Values[0]);
+}
+
+CItems CInspector::GetFieldItems(const CString& name) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField& field = FieldOf(fields, name, true);
+    CItems items;
+    for (const CString* pValue : field.m_Values)
+        items.m_Items.Add(ShownValue(field, *pValue));
+    return items;
+}
+
+CString CInspector::SetField(const CString& name, const CString& value) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField& field = FieldOf(fields, name, false);
+    *field.m_Values[0] = TakenValue(field, TypeOfField(fields, field).m_Kind, value);
+    UpdateBorder(fields, field);
+    return RemarkOn(name);
+}
+
+CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
+    std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField* pField = &FieldOf(fields, name, true);
+    const FieldKind kind = TypeOfField(fields, *pField).m_Kind;
+    std::vector<CString> values; // all of them are good before one is set
+    for (CStringArray::Index nItem = 0; nItem < items.m_Items.GetSize(); ++nItem)
+        values.push_back(TakenValue(*pField, kind, items.m_Items[nItem]));
+    const CNamedField* pTexts = FindField(fields, "m_Texts");
+    const bool bAtLeastTexts = pTexts && pTexts != pField;
+    ResizeLists(Gadget(), static_cast<CStringArray::Index>(
+                              std::max(values.size(), bAtLeastTexts ? pTexts->m_Values.size() : 0)));
+    fields = ListFields(Gadget());
+    pField = FindField(fields, name);
+    for (size_t nItem = 0; nItem < std::min(values.size(), pField->m_Values.size()); ++nItem)
+        *pField->m_Values[nItem] = std::move(values[nItem]);
+    return values.size() > pField->m_Values.size() ? pField->m_Name + " has fewer items than that" : RemarkOn(name);
+}
+
+// What a file would bring back is seen by writing one's parameters and reading them into a new object.
+CString CInspector::RemarkOn(const CString& name) {
+    CVignelConfig file;
+    CParameterWriter writer(file);
+    Gadget().ExchangeParameters(writer);
+    const auto pReader = std::make_unique<COrrelix>();
+    pReader->SelectType(m_Orrelix.m_Type);
+    CParameterReader reader(file);
+    pReader->m_pGadget->ExchangeParameters(reader);
+    const std::vector<CNamedField> fields = ListFields(Gadget()), readFields = ListFields(*pReader->m_pGadget);
+    const CNamedField* pField = FindField(fields, name);
+    const CNamedField* pRead = FindField(readFields, name);
+    for (size_t nValue = 0; nValue < pField->m_Values.size(); ++nValue) {
+        CString expected = *pField->m_Values[nValue];
+        if (pField->m_bFileName)
+            expected = FileNameOfPath(expected);
+        if (nValue >= pRead->m_Values.size())
+            return pField->m_Name + ": a file brings back only " + ToText(std::ssize(pRead->m_Values)) + " items";
+        CString read = *pRead->m_Values[nValue];
+        read.Replace("<br>", "\r\n"); // what stands for a line break is one
+        expected.Replace("<br>", "\r\n");
+        if (read != expected)
+            return pField->m_Name + ": a file brings it back as \"" + *pRead->m_Values[nValue] + "\"";
+    }
+    return {};
+}
+
+CItems CInspector::GetDescriptionKeys() {
+    return ItemsOf(Form().m_DescriptionKeys);
+}
+
+CString CInspector::GetDescriptionValue(const CString& key) {
+    return ValueOf(m_Orrelix.m_Config.m_DescriptionMap, key);
+}
+
+CItems CInspector::GetParameterKeys() {
+    return ItemsOf(Form().m_ParameterKeys);
+}
+
+CString CInspector::GetParameterValue(const CString& key) {
+    return ValueOf(m_Orrelix.m_Config.m_ParameterMap, key);
+}
+
+CItems CInspector::GetStoredResource(int nIndex) {
+    const VignelResource* pResource = ItemAt(m_Orrelix.m_Config.m_Resources, nIndex);
+    return pResource ? CItems{{pResource->m_Name, pResource->m_LocalPath, pResource->m_WebPath}} : CItems();
+}
+
+CString CInspector::GetSegmentPosition(int nIndex) {
+    const VignelSegment* pSegment = ItemAt(m_Orrelix.m_Config.m_Segments, nIndex);
+    return pSegment ? pSegment->m_Position : CString();
+}
+
+CString CInspector::GetSegmentBody(int nIndex) {
+    const VignelSegment* pSegment = ItemAt(m_Orrelix.m_Config.m_Segments, nIndex);
+    return pSegment ? pSegment->m_Body : CString();
+}
+
+void CInspector::CountRecords(CItems& damage, const char* pNoun, long nPromised, long nThere) {
+    const auto counted = [pNoun](long nCount) {
+        return ToText(nCount) + " " + pNoun + (nCount == 1 ? "" : "s");
+    };
+    if (nPromised != nThere)
+        damage.m_Items.Add(CString("is damaged: its count promises ") + counted(nPromised) + ", and " +
+                           ToText(std::max(nThere, 0L)) + " can be found");
+}
+
+CItems CInspector::GetDamage() {
+    CItems damage;
+    const size_t nMarkers = Form().m_nMarkers;
+    if (nMarkers == 0) {
+        damage.m_Items.Add(CString("is no configuration file: it has no line \"") + kMarkers[0] + "\"");
+    } else if (nMarkers < std::size(kMarkers)) {
+        damage.m_Items.Add(CString("is damaged: the line \"") + kMarkers[nMarkers] +
+                           "\" is missing, and what should stand behind it with it");
+    } else {
+        // One of the resource lines is the count itself.
+        CountRecords(damage, "resource", GetStoredResourceNumber(), Form().m_nResourceLines - 1);
+        CountRecords(damage, "segment", GetSegmentNumber(), Form().m_nSegmentEnds);
+    }
+    return damage;
+}
+
+CString CInspector::GetFileError() {
+    const std::error_code error = m_Orrelix.m_WriteError ? m_Orrelix.m_WriteError : Form().m_Error;
+    return error ? CString(error.message()) : CString();
+}
+
+int CInspector::GetPageFileNumber() {
+    m_PageFiles = FindPageFiles(m_Orrelix);
+    return static_cast<int>(m_PageFiles.m_Files.size());
+}
+
+CPath CInspector::GetPageFileSource(int nIndex) {
+    const CPageFile* pFile = ItemAt(m_PageFiles.m_Files, nIndex);
+    return pFile ? CPath(pFile->m_Source) : CPath();
+}
+
+CString CInspector::GetPageFileWebPath(int nIndex) {
+    const CPageFile* pFile = ItemAt(m_PageFiles.m_Files, nIndex);
+    return pFile ? pFile->m_WebPath : CString();
+}
+
+CItems CInspector::GetPageFileNames(int nIndex) {
+    const CPageFile* pFile = ItemAt(m_PageFiles.m_Files, nIndex);
+    return pFile ? ItemsOf(pFile->m_Names) : CItems();
+}
+
+CItems CInspector::GetLostFiles() {
+    return ItemsOf(m_PageFiles.m_Lost);
+}
+
+bool CInspector::NeedsCompatibilityScript() {
+    return std::none_of(m_PageFiles.m_Files.begin(), m_PageFiles.m_Files.end(), [](const CPageFile& file) {
+        return EqualsNoCase(file.m_Names.front().Right(3), ".js");
+    });
+}
+
+CPath CInspector::GetScriptFolder() const {
+    return GetModuleDirectory();
+}
+
+void CInspector::SetScriptFolder(const CPath& folder) {
+    SetModuleDirectory(folder);
+}
+
+int CInspector::GetCodePageNumber() const {
+    return GetCodePage();
+}
+
+void CInspector::SetCodePageNumber(int nCodePage) {
+    if (!SetCodePage(nCodePage))
+        throw CRefusal("code page " + std::to_string(nCodePage) + " isn't known");
+}
+
+bool CInspector::GetRawTexts() const {
+    return HasRawTexts();
+}
+
+void CInspector::SetRawTexts(short bRaw) {
+    orrelix::SetRawTexts(bRaw != 0);
+}
+
+bool CInspector::CanShowDialogs() const {
+    return FindDesktop() != nullptr;
+}
+
+CString CInspector::GetOwnerWindow() const {
+    return orrelix::GetOwnerWindow();
+}
+
+void CInspector::SetOwnerWindow(const CString& window) {
+    orrelix::SetOwnerWindow(window);
+}
+
+CString CInspector::GetText(int nInstance, int nId) const {
+    const auto text = std::find_if(std::begin(kTexts), std::end(kTexts),
+                                   [nId](const CIdentifiedText& candidate) { return candidate.m_nId == nId; });
+    return nInstance == GetModuleInstance() && text != std::end(kTexts) ? text->m_pText : "";
+}
+
+// The pictures lie beside the library, as the scripts do.
+CPath CInspector::GetIconFile(int nInstance, int nId, int nSize) const {
+    if (nInstance != GetModuleInstance() || nId != kIconId)
+        return {};
+    const CString path = GetModuleDirectory() + "\\orrelix" + (nSize > 0 ? "-" + ToText(nSize) + ".png" : ".svg");
+    return FileExists(path) ? CPath(path) : CPath();
+}
+
+std::span<const CMember> GetInspectorMembers() {
+    using I = CInspector;
+    static constexpr CMember kMembers[] = {
+        Property<&I::GetEffect, &I::SetEffect>("Effect"),
+        Method<&I::GetEffectNames>("GetEffectNames"),
+        Method<&I::GetEffectDescriptions>("GetEffectDescriptions"),
+        Method<&I::GetEffectType>("GetEffectType"),
+        Method<&I::GetFieldNames>("GetFieldNames"),
+        Method<&I::GetFieldKind>("GetFieldKind"),
+        Method<&I::IsFieldList>("IsFieldList"),
+        Method<&I::GetFieldChoices>("GetFieldChoices"),
+        Method<&I::GetFieldMinimum>("GetFieldMinimum"),
+        Method<&I::GetFieldMaximum>("GetFieldMaximum"),
+        Method<&I::GetField>("GetField"),
+        Method<&I::GetFieldItems>("GetFieldItems"),
+        Method<&I::SetField>("SetField"),
+        Method<&I::SetFieldItems>("SetFieldItems"),
+        Method<&I::GetDescriptionKeys>("GetDescriptionKeys"),
+        Method<&I::GetDescriptionValue>("GetDescriptionValue"),
+        Method<&I::GetParameterKeys>("GetParameterKeys"),
+        Method<&I::GetParameterValue>("GetParameterValue"),
+        Method<&I::GetStoredResourceNumber>("GetStoredResourceNumber"),
+        Method<&I::GetStoredResource>("GetStoredResource"),
+        Method<&I::GetSegmentNumber>("GetSegmentNumber"),
+        Method<&I::GetSegmentPosition>("GetSegmentPosition"),
+        Method<&I::GetSegmentBody>("GetSegmentBody"),
+        Method<&I::GetDamage>("GetDamage"),
+        Method<&I::GetFileError>("GetFileError"),
+        Method<&I::GetPageFileNumber>("GetPageFileNumber"),
+        Method<&I::GetPageFileSource>("GetPageFileSource"),
+        Method<&I::GetPageFileWebPath>("GetPageFileWebPath"),
+        Method<&I::GetPageFileNames>("GetPageFileNames"),
+        Method<&I::GetLostFiles>("GetLostFiles"),
+        Method<&I::NeedsCompatibilityScript>("NeedsCompatibilityScript"),
+        Property<&I::GetScriptFolder, &I::SetScriptFolder>("ScriptFolder"),
+        Property<&I::GetCodePageNumber, &I::SetCodePageNumber>("CodePage"),
+        Property<&I::GetRawTexts, &I::SetRawTexts>("RawTexts"),
+        Method<&I::CanShowDialogs>("CanShowDialogs"),
+        Property<&I::GetOwnerWindow, &I::SetOwnerWindow>("OwnerWindow"),
+        Method<&I::GetText>("GetText"),
+        Method<&I::GetIconFile>("GetIconFile"),
+    };
+    return kMembers;
+}
+
+} // namespace orrelix
