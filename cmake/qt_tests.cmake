@@ -23,7 +23,7 @@ set_target_properties(qt_test_keyboard PROPERTIES AUTOMOC ON LIBRARY_OUTPUT_DIRE
 orrelix_test_program(qt orrelix_qt_objects Qt6::Test)
 target_sources(qt_tests PRIVATE tests/qt/make_person.cpp tests/qt/qt_person.cpp)
 # The dialogs' tests once more, with the person before real windows.
-target_link_libraries(qt_test PRIVATE dialogs_tests)
+target_link_libraries(qt_test PRIVATE dialogs_tests orrelix_qt_objects)
 target_compile_definitions(qt_tests PRIVATE
     ORRELIX_TEST_PLUGINS="${test_plugins}"
     ORRELIX_TEST_GUEST="$<TARGET_FILE:qt_test_guest>"

@@ -6,8 +6,8 @@
 namespace orrelix {
 
 int RowOfLinkTarget(const CString& word) {
-    const auto found =
-        std::find_if(std::begin(kLinkTargetWords), std::end(kLinkTargetWords), [&](const char* pWord) { return word == pWord; });
+    const auto found = std::find_if(std::begin(kLinkTargetWords), std::end(kLinkTargetWords),
+                                    [&](const char* pWord) { return word == pWord; });
     return found == std::end(kLinkTargetWords) ? -1 : static_cast<int>(found - std::begin(kLinkTargetWords));
 }
 

@@ -187,8 +187,8 @@ HRESULT CDispatch::GetIDsOfNames(REFIID iid, OLECHAR** ppNames, UINT nNames, LCI
     return pIds[0] == DISPID_UNKNOWN || nNames > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-HRESULT CDispatch::Invoke(DISPID nMember, REFIID iid, LCID, WORD flags, DISPPARAMS* pArguments, VARIANT* pResult,
-                          EXCEPINFO* pException, UINT* pnWrongArgument) {
+HRESULT CDispatch::Invoke(DISPID nMember, REFIID iid, LCID, WORD flags, DISPPARAMS* pArguments,
+                          VARIANT* pResult, EXCEPINFO* pException, UINT* pnWrongArgument) {
     if (!(iid == IID_NULL))
         return DISP_E_UNKNOWNINTERFACE;
     if (!pArguments || (pArguments->cArgs > 0 && !pArguments->rgvarg) ||
@@ -226,7 +226,8 @@ HRESULT CDispatch::Call(DISPID nMember, WORD flags, const DISPPARAMS& given, VAR
         return DISP_E_MEMBERNOTFOUND;
     if (given.cNamedArgs > 0)
         return DISP_E_NONAMEDARGS;
-    return given.cArgs == member.m_nArguments ? member.m_pCall(m_pTarget, arguments, result) : DISP_E_BADPARAMCOUNT;
+    return given.cArgs == member.m_nArguments ? member.m_pCall(m_pTarget, arguments, result)
+                                              : DISP_E_BADPARAMCOUNT;
 }
 
 } // namespace orrelix

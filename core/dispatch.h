@@ -73,9 +73,9 @@ using CallFunction = HRESULT (*)(void* pObject, const CArguments& arguments, VAR
 
 struct CMember {
     const char* m_pName;
-    UINT m_nArguments;     // of the method; a property has none to get and one to put
-    CallFunction m_pCall;  // the method, or what gets the property
-    CallFunction m_pPut;   // null for a method
+    UINT m_nArguments;    // of the method; a property has none to get and one to put
+    CallFunction m_pCall; // the method, or what gets the property
+    CallFunction m_pPut;  // null for a method
 };
 
 template <auto pFunction>
@@ -137,8 +137,9 @@ public:
     HRESULT ORRELIX_STDCALL GetTypeInfo(UINT nInfo, LCID nLocale, ITypeInfo** ppInfo) override;
     HRESULT ORRELIX_STDCALL GetIDsOfNames(REFIID iid, OLECHAR** ppNames, UINT nNames, LCID nLocale,
                                           DISPID* pIds) override;
-    HRESULT ORRELIX_STDCALL Invoke(DISPID nMember, REFIID iid, LCID nLocale, WORD flags, DISPPARAMS* pArguments,
-                                   VARIANT* pResult, EXCEPINFO* pException, UINT* pnWrongArgument) override;
+    HRESULT ORRELIX_STDCALL Invoke(DISPID nMember, REFIID iid, LCID nLocale, WORD flags,
+                                   DISPPARAMS* pArguments, VARIANT* pResult, EXCEPINFO* pException,
+                                   UINT* pnWrongArgument) override;
 
 private:
     HRESULT Call(DISPID nMember, WORD flags, const DISPPARAMS& given, VARIANT& result, UINT* pnWrong);

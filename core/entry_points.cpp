@@ -19,7 +19,8 @@ HRESULT Guarded(TAct act) noexcept {
 
 extern "C" {
 
-__attribute__((visibility("default"))) HRESULT DllGetClassObject(REFCLSID clsid, REFIID iid, void** ppFactory);
+__attribute__((visibility("default"))) HRESULT DllGetClassObject(REFCLSID clsid, REFIID iid,
+                                                                 void** ppFactory);
 __attribute__((visibility("default"))) HRESULT DllCanUnloadNow();
 __attribute__((visibility("default"))) HRESULT DllRegisterServer();
 __attribute__((visibility("default"))) HRESULT DllUnregisterServer();

@@ -105,7 +105,8 @@ CString ColourOf(const CNamedField& field, std::string_view value) {
     if (value.starts_with('#'))
         value.remove_prefix(1);
     if (!value.empty() && !IsColour(value))
-        throw CRefusal(std::string(field.m_Name.View()) + " is a colour: six hexadecimal digits, such as ff8000");
+        throw CRefusal(std::string(field.m_Name.View()) +
+                       " is a colour: six hexadecimal digits, such as ff8000");
     return value;
 }
 
@@ -154,9 +155,12 @@ void ResizeLists(CDhtmlGadget& gadget, CStringArray::Index nItems) {
 
 CString AsDialogStores(const CNamedField& field, FieldKind kind, const CString& value) {
     switch (kind) {
-    case FieldKind::Colour: return ColourOf(field, value);
-    case FieldKind::Directory: return RemoteDirectory(value);
-    default: return value;
+    case FieldKind::Colour:
+        return ColourOf(field, value);
+    case FieldKind::Directory:
+        return RemoteDirectory(value);
+    default:
+        return value;
     }
 }
 
@@ -164,13 +168,15 @@ void UpdateBorder(const std::vector<CNamedField>& fields, const CNamedField& par
     for (std::string_view ending : {"Width", "Style", "Color"}) {
         if (!part.m_Name.View().ends_with("Border" + std::string(ending)))
             continue;
-        const CString whole = part.m_Name.Left(part.m_Name.GetLength() - static_cast<CString::Position>(ending.size()));
+        const CString whole =
+            part.m_Name.Left(part.m_Name.GetLength() - static_cast<CString::Position>(ending.size()));
         const CNamedField* pWhole = FindField(fields, whole);
         const CNamedField* pWidth = FindField(fields, whole + "Width");
         const CNamedField* pStyle = FindField(fields, whole + "Style");
         const CNamedField* pColor = FindField(fields, whole + "Color");
         if (pWhole && pWidth && pStyle && pColor)
-            *pWhole->m_Values[0] = WholeBorder(*pWidth->m_Values[0], *pStyle->m_Values[0], *pColor->m_Values[0]);
+            *pWhole->m_Values[0] =
+                WholeBorder(*pWidth->m_Values[0], *pStyle->m_Values[0], *pColor->m_Values[0]);
     }
 }
 

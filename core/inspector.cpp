@@ -32,7 +32,8 @@ CString ValueOf(const CMapStringToString& map, const CString& key) {
 // Null for an index outside of the list.
 template <class TList>
 auto ItemAt(TList& list, int nIndex) {
-    return nIndex >= 0 && nIndex < std::distance(list.begin(), list.end()) ? &*std::next(list.begin(), nIndex) : nullptr;
+    return nIndex >= 0 && nIndex < std::distance(list.begin(), list.end()) ? &*std::next(list.begin(), nIndex)
+                                                                           : nullptr;
 }
 
 const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString& name, bool bList) {
@@ -40,7 +41,8 @@ const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString
     if (!pField)
         throw CRefusal("the effect has no field " + std::string(name.View()));
     if (pField->m_bList != bList)
-        throw CRefusal(std::string(pField->m_Name.View()) + (bList ? " is one text and no list" : " is a list"));
+        throw CRefusal(std::string(pField->m_Name.View()) +
+                       (bList ? " is one text and no list" : " is a list"));
     return *pField;
 }
 
@@ -159,7 +161,8 @@ CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
     pField = FindField(fields, name);
     for (size_t nItem = 0; nItem < std::min(values.size(), pField->m_Values.size()); ++nItem)
         *pField->m_Values[nItem] = std::move(values[nItem]);
-    return values.size() > pField->m_Values.size() ? pField->m_Name + " has fewer items than that" : RemarkOn(name);
+    return values.size() > pField->m_Values.size() ? pField->m_Name + " has fewer items than that"
+                                                   : RemarkOn(name);
 }
 
 // What a file would bring back is seen by writing one's parameters and reading them into a new object.
@@ -171,7 +174,8 @@ CString CInspector::RemarkOn(const CString& name) {
     pReader->SelectType(m_Orrelix.m_Type);
     CParameterReader reader(file);
     pReader->m_pGadget->ExchangeParameters(reader);
-    const std::vector<CNamedField> fields = ListFields(Gadget()), readFields = ListFields(*pReader->m_pGadget);
+    const std::vector<CNamedField> fields = ListFields(Gadget()),
+                                   readFields = ListFields(*pReader->m_pGadget);
     const CNamedField* pField = FindField(fields, name);
     const CNamedField* pRead = FindField(readFields, name);
     for (size_t nValue = 0; nValue < pField->m_Values.size(); ++nValue) {
@@ -179,7 +183,8 @@ CString CInspector::RemarkOn(const CString& name) {
         if (pField->m_bFileName)
             expected = FileNameOfPath(expected);
         if (nValue >= pRead->m_Values.size())
-            return pField->m_Name + ": a file brings back only " + ToText(std::ssize(pRead->m_Values)) + " items";
+            return pField->m_Name + ": a file brings back only " + ToText(std::ssize(pRead->m_Values)) +
+                   " items";
         CString read = *pRead->m_Values[nValue];
         read.Replace("<br>", "\r\n"); // what stands for a line break is one
         expected.Replace("<br>", "\r\n");
@@ -318,8 +323,9 @@ void CInspector::SetOwnerWindow(const CString& window) {
 }
 
 CString CInspector::GetText(int nInstance, int nId) const {
-    const auto text = std::find_if(std::begin(kTexts), std::end(kTexts),
-                                   [nId](const CIdentifiedText& candidate) { return candidate.m_nId == nId; });
+    const auto text =
+        std::find_if(std::begin(kTexts), std::end(kTexts),
+                     [nId](const CIdentifiedText& candidate) { return candidate.m_nId == nId; });
     return nInstance == GetModuleInstance() && text != std::end(kTexts) ? text->m_pText : "";
 }
 
@@ -327,7 +333,8 @@ CString CInspector::GetText(int nInstance, int nId) const {
 CPath CInspector::GetIconFile(int nInstance, int nId, int nSize) const {
     if (nInstance != GetModuleInstance() || nId != kIconId)
         return {};
-    const CString path = GetModuleDirectory() + "\\orrelix" + (nSize > 0 ? "-" + ToText(nSize) + ".png" : ".svg");
+    const CString path =
+        GetModuleDirectory() + "\\orrelix" + (nSize > 0 ? "-" + ToText(nSize) + ".png" : ".svg");
     return FileExists(path) ? CPath(path) : CPath();
 }
 

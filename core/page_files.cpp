@@ -53,7 +53,8 @@ CPageFiles FindPageFiles(COrrelix& orrelix) {
         const CString name = orrelix.GetResourceName(nIndex);
         const CString source = orrelix.GetResourceLocalPath(nIndex) + name;
         if (seen.insert(source).second)
-            found.m_Files.push_back({source, orrelix.GetResourceWebPath(nIndex), Spellings(name, references)});
+            found.m_Files.push_back(
+                {source, orrelix.GetResourceWebPath(nIndex), Spellings(name, references)});
     }
     for (const CString& reference : references) {
         if (std::none_of(found.m_Files.begin(), found.m_Files.end(), [&](const CPageFile& file) {

@@ -25,7 +25,8 @@ HRESULT RegisterServer() {
         keys.CreateKey(kClassKey + "\\Implemented Categories\\" + kCategory);
         return keys.SetValue(kProgID, "@", kProgID) &&
                keys.SetValue(std::string(kProgID) + "\\CLSID", "@", kClass) &&
-               keys.SetValue(kClassKey, "@", kProgID) && keys.SetValue(kClassKey + "\\ProgID", "@", kProgID) &&
+               keys.SetValue(kClassKey, "@", kProgID) &&
+               keys.SetValue(kClassKey + "\\ProgID", "@", kProgID) &&
                keys.SetValue(kClassKey + "\\InProcServer32", "@", library) &&
                keys.SetValue("Component Categories\\" + kCategory, kCategoryLocale, kCategoryName);
     });

@@ -130,11 +130,11 @@ struct VignelClassFactory : VignelUnknown {
 struct VignelDispatch : VignelUnknown {
     virtual VignelResult GetTypeInfoCount(uint32_t* pnCount) = 0;
     virtual VignelResult GetTypeInfo(uint32_t nInfo, uint32_t nLocale, void** ppInfo) = 0;
-    virtual VignelResult GetIDsOfNames(VignelGuidRef iid, VignelChar** ppNames, uint32_t nNames, uint32_t nLocale,
-                                       int32_t* pIds) = 0;
+    virtual VignelResult GetIDsOfNames(VignelGuidRef iid, VignelChar** ppNames, uint32_t nNames,
+                                       uint32_t nLocale, int32_t* pIds) = 0;
     virtual VignelResult Invoke(int32_t nMember, VignelGuidRef iid, uint32_t nLocale, uint16_t flags,
-                                VignelArguments* pArguments, VignelVariant* pResult, VignelException* pException,
-                                uint32_t* pnWrongArgument) = 0;
+                                VignelArguments* pArguments, VignelVariant* pResult,
+                                VignelException* pException, uint32_t* pnWrongArgument) = 0;
 };
 
 extern "C" {
@@ -144,9 +144,9 @@ typedef struct VignelUnknown VignelUnknown;
 typedef struct VignelClassFactory VignelClassFactory;
 typedef struct VignelDispatch VignelDispatch;
 
-#define VIGNEL_UNKNOWN_MEMBERS(Self)                                           \
-    VignelResult (*QueryInterface)(Self*, VignelGuidRef iid, void** ppObject); \
-    uint32_t (*AddRef)(Self*);                                                 \
+#define VIGNEL_UNKNOWN_MEMBERS(Self)                                                                         \
+    VignelResult (*QueryInterface)(Self*, VignelGuidRef iid, void** ppObject);                               \
+    uint32_t (*AddRef)(Self*);                                                                               \
     uint32_t (*Release)(Self*);
 
 typedef struct VignelUnknownVtbl {
@@ -158,7 +158,8 @@ struct VignelUnknown {
 
 typedef struct VignelClassFactoryVtbl {
     VIGNEL_UNKNOWN_MEMBERS(VignelClassFactory)
-    VignelResult (*CreateInstance)(VignelClassFactory*, VignelUnknown* pOuter, VignelGuidRef iid, void** ppObject);
+    VignelResult (*CreateInstance)(VignelClassFactory*, VignelUnknown* pOuter, VignelGuidRef iid,
+                                   void** ppObject);
     VignelResult (*LockServer)(VignelClassFactory*, int32_t bLock);
 } VignelClassFactoryVtbl;
 struct VignelClassFactory {
@@ -171,9 +172,9 @@ typedef struct VignelDispatchVtbl {
     VignelResult (*GetTypeInfo)(VignelDispatch*, uint32_t nInfo, uint32_t nLocale, void** ppInfo);
     VignelResult (*GetIDsOfNames)(VignelDispatch*, VignelGuidRef iid, VignelChar** ppNames, uint32_t nNames,
                                   uint32_t nLocale, int32_t* pIds);
-    VignelResult (*Invoke)(VignelDispatch*, int32_t nMember, VignelGuidRef iid, uint32_t nLocale, uint16_t flags,
-                           VignelArguments* pArguments, VignelVariant* pResult, VignelException* pException,
-                           uint32_t* pnWrongArgument);
+    VignelResult (*Invoke)(VignelDispatch*, int32_t nMember, VignelGuidRef iid, uint32_t nLocale,
+                           uint16_t flags, VignelArguments* pArguments, VignelVariant* pResult,
+                           VignelException* pException, uint32_t* pnWrongArgument);
 } VignelDispatchVtbl;
 struct VignelDispatch {
     const VignelDispatchVtbl* lpVtbl;
@@ -187,7 +188,8 @@ struct VignelDispatch {
 /* The four entry points of a component's library. */
 typedef VignelResult(VIGNEL_CALL* VignelGetClassObjectFunction)(VignelGuidRef clsid, VignelGuidRef iid,
                                                                 void** ppFactory);
-typedef VignelResult(VIGNEL_CALL* VignelPlainFunction)(void); /* DllCanUnloadNow and the two of registration */
+typedef VignelResult(VIGNEL_CALL* VignelPlainFunction)(
+    void); /* DllCanUnloadNow and the two of registration */
 
 /* Kinds of a variant. */
 enum {
@@ -294,9 +296,15 @@ static inline void VignelClearVariant(VignelVariant* pVariant) {
 static inline VignelString VignelAllocString(const VignelChar* pText, size_t nCount) {
     return SysAllocStringLen(pText, (UINT)nCount);
 }
-static inline size_t VignelStringLength(const VignelChar* text) { return SysStringLen((BSTR)text); }
-static inline void VignelFreeString(VignelString text) { SysFreeString(text); }
-static inline void VignelClearVariant(VignelVariant* pVariant) { VariantClear(pVariant); }
+static inline size_t VignelStringLength(const VignelChar* text) {
+    return SysStringLen((BSTR)text);
+}
+static inline void VignelFreeString(VignelString text) {
+    SysFreeString(text);
+}
+static inline void VignelClearVariant(VignelVariant* pVariant) {
+    VariantClear(pVariant);
+}
 #endif
 
 /* One character of UTF-8 at the start of nLeft bytes, at least one; its length goes to *pnLength. A byte that begins
@@ -305,7 +313,12 @@ static inline void VignelClearVariant(VignelVariant* pVariant) { VariantClear(pV
 static inline uint32_t VignelDecodeUtf8(const char* pBytes, size_t nLeft, size_t* pnLength) {
     static const uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     const unsigned char* p = (const unsigned char*)pBytes;
-    const size_t nLength = p[0] < 0x80 ? 1 : p[0] < 0xC0 ? 0 : p[0] < 0xE0 ? 2 : p[0] < 0xF0 ? 3 : p[0] < 0xF8 ? 4 : 0;
+    const size_t nLength = p[0] < 0x80   ? 1
+                           : p[0] < 0xC0 ? 0
+                           : p[0] < 0xE0 ? 2
+                           : p[0] < 0xF0 ? 3
+                           : p[0] < 0xF8 ? 4
+                                         : 0;
     uint32_t character;
     size_t nIndex;
     *pnLength = 1;
@@ -395,8 +408,8 @@ static inline char* VignelToUtf8(const VignelChar* text, size_t* pnBytes) {
  * be null, is the caller's to clear. A sentence about a failure goes to *pMessage, if both are there; free it with
  * VignelFreeString. */
 static inline VignelResult VignelCall(VignelDispatch* pObject, const char* pName, uint16_t flags,
-                                      const VignelVariant* pArguments, uint32_t nArguments, VignelVariant* pResult,
-                                      VignelString* pMessage) {
+                                      const VignelVariant* pArguments, uint32_t nArguments,
+                                      VignelVariant* pResult, VignelString* pMessage) {
     enum { MOST = 8 };
     VignelVariant reversed[MOST];
     VignelArguments call;
@@ -420,8 +433,8 @@ static inline VignelResult VignelCall(VignelDispatch* pObject, const char* pName
     call.cNamedArgs = flags & VIGNEL_PUT ? 1 : 0;
     call.rgdispidNamedArgs = flags & VIGNEL_PUT ? &nNameOfPut : NULL;
     memset(&exception, 0, sizeof exception);
-    result = VIGNEL_CALL_OF(pObject, Invoke, nMember, VIGNEL_REF(VignelIidNull), 0, flags, &call, pResult, &exception,
-                            NULL);
+    result = VIGNEL_CALL_OF(pObject, Invoke, nMember, VIGNEL_REF(VignelIidNull), 0, flags, &call, pResult,
+                            &exception, NULL);
     VignelFreeString(exception.bstrSource);
     VignelFreeString(exception.bstrHelpFile);
     if (pMessage)
@@ -475,7 +488,8 @@ static inline int VignelIsRegistryFile(const struct dirent* pEntry) {
 }
 
 /* Of one configuration folder, its files in the order of their names. */
-static inline int VignelVisitRegistryFolder(const char* pFolder, VignelRegistryVisitor visit, void* pContext) {
+static inline int VignelVisitRegistryFolder(const char* pFolder, VignelRegistryVisitor visit,
+                                            void* pContext) {
     char path[VIGNEL_PATH_SIZE];
     struct dirent** ppEntries;
     int nEntries, nAt, bStopped = 0;
@@ -579,8 +593,8 @@ static inline int VignelFindInCategory(const char* pCategory, unsigned nIndex, c
 static inline int VignelParseGuid(const char* pText, VignelGuid* pGuid) {
     unsigned v[11];
     int nAt, nEnd = 0;
-    if (sscanf(pText, "{%8x-%4x-%4x-%2x%2x-%2x%2x%2x%2x%2x%2x}%n", v, v + 1, v + 2, v + 3, v + 4, v + 5, v + 6, v + 7,
-               v + 8, v + 9, v + 10, &nEnd) != 11 ||
+    if (sscanf(pText, "{%8x-%4x-%4x-%2x%2x-%2x%2x%2x%2x%2x%2x}%n", v, v + 1, v + 2, v + 3, v + 4, v + 5,
+               v + 6, v + 7, v + 8, v + 9, v + 10, &nEnd) != 11 ||
         nEnd != 38)
         return 0;
     pGuid->Data1 = v[0];
@@ -621,8 +635,8 @@ static inline VignelResult VignelCreate(void* pLibrary, const VignelGuid* pClsid
     result = getClassObject(VIGNEL_REF(*pClsid), VIGNEL_REF(VignelIidClassFactory), &pFactory);
     if (result < 0)
         return result;
-    result = VIGNEL_CALL_OF((VignelClassFactory*)pFactory, CreateInstance, NULL, VIGNEL_REF(VignelIidDispatch),
-                            &pObject);
+    result = VIGNEL_CALL_OF((VignelClassFactory*)pFactory, CreateInstance, NULL,
+                            VIGNEL_REF(VignelIidDispatch), &pObject);
     VIGNEL_RELEASE((VignelClassFactory*)pFactory);
     if (result >= 0)
         *ppObject = (VignelDispatch*)pObject;

@@ -49,17 +49,30 @@ bool EqualsWord(std::string_view text, std::string_view word) {
 
 HRESULT ToNumber(const VARIANT& source, double& number) {
     switch (source.vt) {
-    case VT_EMPTY: number = 0; return S_OK;
-    case VT_I2: number = source.iVal; return S_OK;
-    case VT_I4: number = source.lVal; return S_OK;
-    case VT_BOOL: number = source.boolVal; return S_OK;
-    case VT_R8: number = source.dblVal; return S_OK;
-    case VT_DATE: number = source.date; return S_OK;
+    case VT_EMPTY:
+        number = 0;
+        return S_OK;
+    case VT_I2:
+        number = source.iVal;
+        return S_OK;
+    case VT_I4:
+        number = source.lVal;
+        return S_OK;
+    case VT_BOOL:
+        number = source.boolVal;
+        return S_OK;
+    case VT_R8:
+        number = source.dblVal;
+        return S_OK;
+    case VT_DATE:
+        number = source.date;
+        return S_OK;
     case VT_BSTR: {
         const auto text = ToAscii(ViewOf(source.bstrVal));
         return text ? ParseNumber(*text, number) : DISP_E_TYPEMISMATCH;
     }
-    default: return DISP_E_TYPEMISMATCH;
+    default:
+        return DISP_E_TYPEMISMATCH;
     }
 }
 
@@ -124,14 +137,29 @@ HRESULT Follow(const VARIANT& source, VARIANT& value) {
         if (source.pvarVal->vt == (VT_BYREF | VT_VARIANT))
             return DISP_E_TYPEMISMATCH; // or it could go in a circle
         return Follow(*source.pvarVal, value);
-    case VT_I2: value.iVal = *source.piVal; return S_OK;
-    case VT_I4: value.lVal = *source.plVal; return S_OK;
-    case VT_R8: value.dblVal = *source.pdblVal; return S_OK;
-    case VT_DATE: value.date = *source.pdate; return S_OK;
-    case VT_BOOL: value.boolVal = *source.pboolVal; return S_OK;
-    case VT_ERROR: value.scode = *source.pscode; return S_OK;
-    case VT_BSTR: value.bstrVal = *source.pbstrVal; return S_OK;
-    default: return DISP_E_TYPEMISMATCH;
+    case VT_I2:
+        value.iVal = *source.piVal;
+        return S_OK;
+    case VT_I4:
+        value.lVal = *source.plVal;
+        return S_OK;
+    case VT_R8:
+        value.dblVal = *source.pdblVal;
+        return S_OK;
+    case VT_DATE:
+        value.date = *source.pdate;
+        return S_OK;
+    case VT_BOOL:
+        value.boolVal = *source.pboolVal;
+        return S_OK;
+    case VT_ERROR:
+        value.scode = *source.pscode;
+        return S_OK;
+    case VT_BSTR:
+        value.bstrVal = *source.pbstrVal;
+        return S_OK;
+    default:
+        return DISP_E_TYPEMISMATCH;
     }
 }
 
@@ -141,14 +169,22 @@ HRESULT Convert(const VARIANT& source, VARTYPE type, VARIANT& value) {
         return source.vt == type ? S_OK : DISP_E_TYPEMISMATCH;
     }
     switch (type) {
-    case VT_EMPTY: return source.vt == VT_EMPTY ? S_OK : DISP_E_TYPEMISMATCH;
-    case VT_I2: return ToWhole(source, value.iVal);
-    case VT_I4: return ToWhole(source, value.lVal);
-    case VT_R8: return ToNumber(source, value.dblVal);
-    case VT_DATE: return ToNumber(source, value.date);
-    case VT_BOOL: return ToBool(source, value.boolVal);
-    case VT_BSTR: return ToBstr(source, value.bstrVal);
-    default: return DISP_E_TYPEMISMATCH;
+    case VT_EMPTY:
+        return source.vt == VT_EMPTY ? S_OK : DISP_E_TYPEMISMATCH;
+    case VT_I2:
+        return ToWhole(source, value.iVal);
+    case VT_I4:
+        return ToWhole(source, value.lVal);
+    case VT_R8:
+        return ToNumber(source, value.dblVal);
+    case VT_DATE:
+        return ToNumber(source, value.date);
+    case VT_BOOL:
+        return ToBool(source, value.boolVal);
+    case VT_BSTR:
+        return ToBstr(source, value.bstrVal);
+    default:
+        return DISP_E_TYPEMISMATCH;
     }
 }
 

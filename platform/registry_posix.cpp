@@ -1,8 +1,7 @@
-#include "platform/registry.h"
-
 #include "include/vignel_server.h"
 #include "platform/file_lock.h"
 #include "platform/files.h"
+#include "platform/registry.h"
 #include "platform/user_folder.h"
 
 #include <algorithm>
@@ -50,7 +49,8 @@ bool CRegistryKeys::SetValue(const std::string& key, const std::string& name, co
     if (value.find_first_of("\r\n") != std::string::npos)
         return false;
     std::vector<std::string>& lines = Find(key, true)->m_Lines;
-    std::erase_if(lines, [&](std::string_view line) { return EqualsNoCase(line.substr(0, line.find('=')), name); });
+    std::erase_if(lines,
+                  [&](std::string_view line) { return EqualsNoCase(line.substr(0, line.find('=')), name); });
     lines.push_back(name + "=" + value);
     return true;
 }

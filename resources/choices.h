@@ -9,8 +9,8 @@ namespace orrelix {
 
 inline const std::vector<CChoice> kBorderStyles = {"none",   "dotted", "dashed", "solid", "double",
                                                    "groove", "ridge",  "inset",  "outset"};
-inline const std::vector<CChoice> kFontWeights = {"normal",    "lighter", "light",      "demi-light", "medium",
-                                                  "demi-bold", "bold",    "extra-bold", "bolder"};
+inline const std::vector<CChoice> kFontWeights = {
+    "normal", "lighter", "light", "demi-light", "medium", "demi-bold", "bold", "extra-bold", "bolder"};
 inline const std::vector<CChoice> kFontStyles = {"italic", "oblique", "normal"};
 inline const std::vector<CChoice> kAligns = {"left", "center", "right"};
 // "lineth-rough" as files and pages know it.

@@ -2,10 +2,9 @@
 // lists what a page needs of it and writes it anew. Where there is a screen and no file, its user makes an effect.
 //
 //     g++ -std=c++17 host.cpp $(pkg-config --cflags VignelOrrelix)
-#include <orrelix.hpp>
-
 #include <cstdio>
 #include <exception>
+#include <orrelix.hpp>
 
 namespace {
 
