@@ -59,10 +59,6 @@ CString TakenValue(const CNamedField& field, FieldKind kind, const CString& valu
 
 } // namespace
 
-CInspector::CInspector(COrrelix& orrelix) : m_Orrelix(orrelix) {
-    m_Orrelix.m_bKeepForm = true;
-}
-
 CItems CInspector::GetEffectNames() const {
     CItems names;
     for (const CEffect& effect : kEffects)
@@ -251,7 +247,7 @@ CItems CInspector::GetDamage() {
 }
 
 CString CInspector::GetFileError() {
-    const std::error_code error = m_Orrelix.m_WriteError ? m_Orrelix.m_WriteError : Form().m_Error;
+    const std::error_code error = m_Orrelix.m_FileError;
     return error ? CString(error.message()) : CString();
 }
 

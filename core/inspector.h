@@ -14,8 +14,7 @@ namespace orrelix {
 
 class CInspector {
 public:
-    // The object keeps the form of the files that it reads from now on, for this one.
-    explicit CInspector(COrrelix& orrelix);
+    explicit CInspector(COrrelix& orrelix) : m_Orrelix(orrelix) {}
 
     // The effects, by name, in the order of their types. The effect of the object: empty when none is chosen or the
     // file named another. Setting it chooses it as the first dialog does; letters of either case will do.
@@ -44,7 +43,7 @@ public:
     // that aren't m_Texts, no fewer than there are texts.
     CString SetFieldItems(const CString& field, const CItems& items);
 
-    // The file that was read last: its keys in the order of the file, its records as they were read, and what is wrong
+    // The file that was read last, since a host asked for this interface: its keys in the order of the file, its records as they were read, and what is wrong
     // with its form, a sentence's rest each. What a file doesn't have is empty.
     CItems GetDescriptionKeys();
     CString GetDescriptionValue(const CString& key);

@@ -56,13 +56,15 @@ bool COrrelix::Config() {
 }
 
 bool COrrelix::WriteConfigFileEx(const CPath& path, short force) {
-    m_WriteError = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
+    m_FileError = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
     return SucceedsIn([&] { return Write(path, force); });
 }
 
 bool COrrelix::Read(const CString& path) {
     m_Form = {};
-    if (!m_Config.ReadFile(path, m_bKeepForm ? &m_Form : nullptr))
+    const bool bRead = m_Config.ReadFile(path, m_bKeepForm ? &m_Form : nullptr);
+    m_FileError = m_Form.m_Error;
+    if (!bRead)
         return false;
     if (m_Config.GetProgID() != kProgID)
         return true;
@@ -110,8 +112,8 @@ bool COrrelix::Write(const CString& path, short force) {
         m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
     m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
     m_bResourcesRegistered = true;
-    m_WriteError = m_Config.WriteFile(path);
-    return !m_WriteError;
+    m_FileError = m_Config.WriteFile(path);
+    return !m_FileError;
 }
 
 } // namespace orrelix

@@ -22,13 +22,14 @@ HRESULT RegisterServer() {
         return E_FAIL;
     const bool bStored = ChangeRegistry([&](CRegistryKeys& keys) {
         keys.DeleteKey(kClassKey); // a line of an older one must not stay
+        const bool bSet = keys.SetValue(kProgID, "@", kProgID) &&
+                          keys.SetValue(std::string(kProgID) + "\\CLSID", "@", kClass) &&
+                          keys.SetValue(kClassKey, "@", kProgID) &&
+                          keys.SetValue(kClassKey + "\\ProgID", "@", kProgID) &&
+                          keys.SetValue(kClassKey + "\\InProcServer32", "@", library) &&
+                          keys.SetValue("Component Categories\\" + kCategory, kCategoryLocale, kCategoryName);
         keys.CreateKey(kClassKey + "\\Implemented Categories\\" + kCategory);
-        return keys.SetValue(kProgID, "@", kProgID) &&
-               keys.SetValue(std::string(kProgID) + "\\CLSID", "@", kClass) &&
-               keys.SetValue(kClassKey, "@", kProgID) &&
-               keys.SetValue(kClassKey + "\\ProgID", "@", kProgID) &&
-               keys.SetValue(kClassKey + "\\InProcServer32", "@", library) &&
-               keys.SetValue("Component Categories\\" + kCategory, kCategoryLocale, kCategoryName);
+        return bSet;
     });
     return bStored ? S_OK : E_FAIL;
 }

@@ -34,7 +34,7 @@ public:
         else if (iid == IID_IDispatch || iid == VignelIidOrrelix)
             *ppObject = static_cast<IDispatch*>(&m_Automation);
         else if (iid == VignelIidInspector)
-            *ppObject = static_cast<IDispatch*>(&m_Inspection);
+            *ppObject = GetInspection();
         else
             *ppObject = nullptr;
         if (!*ppObject)
@@ -54,6 +54,12 @@ public:
 
 private:
     ~CServerObject() = default;
+
+    // Only for it the object keeps what files look like.
+    IDispatch* GetInspection() {
+        m_Orrelix.m_bKeepForm = true;
+        return &m_Inspection;
+    }
 
     CServerLock m_Lock;
     std::atomic<ULONG> m_nReferences = 1;

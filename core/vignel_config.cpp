@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <iterator>
 #include <optional>
+#include <string>
+#include <unordered_set>
 
 namespace orrelix {
 
@@ -83,8 +85,14 @@ bool SkipTo(CConfigLines& lines, std::string_view marker) {
     return false;
 }
 
+// Leaves each key where it stood first.
+void KeepFirst(std::vector<CString>& keys) {
+    std::unordered_set<std::string> seen;
+    std::erase_if(keys, [&](const CString& key) { return !seen.emplace(key.View()).second; });
+}
+
 void ReadKeys(CConfigLines& lines, const CPartMarkers& markers, CMapStringToString& map,
-              std::vector<CString> CConfigForm::*pAdded) {
+              std::vector<CString> CConfigForm::*pKeys) {
     if (!SkipTo(lines, markers.m_Begin))
         return;
     // A pair is stored after the next line has been parsed: meanwhile the part of the map's index that it needs
@@ -93,8 +101,8 @@ void ReadKeys(CConfigLines& lines, const CPartMarkers& markers, CMapStringToStri
     const auto store = [&] {
         if (!waiting)
             return;
-        if (lines.m_pForm && !map.Find(waiting->first))
-            (lines.m_pForm->*pAdded).push_back(waiting->first);
+        if (lines.m_pForm)
+            (lines.m_pForm->*pKeys).push_back(waiting->first);
         map.SetAt(std::move(waiting->first), std::move(waiting->second));
     };
     while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
@@ -105,6 +113,8 @@ void ReadKeys(CConfigLines& lines, const CPartMarkers& markers, CMapStringToStri
         }
     }
     store();
+    if (lines.m_pForm)
+        KeepFirst(lines.m_pForm->*pKeys);
 }
 
 // The next line with the given key; its value.

@@ -30,7 +30,7 @@ struct VignelSegment {
 
 // What a file has and the store doesn't keep, for those who look into files.
 struct CConfigForm {
-    // The keys that reading has added to the store, in the order of the file.
+    // The keys of the file, each where it stands first.
     std::vector<CString> m_DescriptionKeys;
     std::vector<CString> m_ParameterKeys;
 

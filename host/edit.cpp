@@ -150,7 +150,7 @@ void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
         return;
     orrelix.SetLastUpdateTime(Now());
     if (!orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
-        return report.Error(options.m_File.string(), "can't be written: " + orrelix.m_WriteError.message());
+        return report.Error(options.m_File.string(), "can't be written: " + orrelix.m_FileError.message());
     CheckCopies(orrelix, directory, report);
     std::cout << options.m_File.string() << '\n';
 }

@@ -1,0 +1,183 @@
+// The component as hosts in other languages meet it.
+#include "core/registration.h"
+#include "core/server.h"
+#include "platform/code_page.h"
+#include "platform/module.h"
+#include "platform/wide_text.h"
+#include "tests/support/code_page_in_force.h"
+#include "tests/support/late_caller.h"
+#include "tests/support/session.h"
+#include "tests/support/user_settings.h"
+
+#include <fstream>
+#include <random>
+
+namespace orrelix {
+
+namespace {
+
+const std::filesystem::path kCalls = std::filesystem::path(ORRELIX_SOURCE_DIR) / "tests/core/calls";
+
+IClassFactory* GetFactory() {
+    void* pFactory = nullptr;
+    EXPECT_EQ(GetClassObject(VignelClsidOrrelix, IID_IClassFactory, &pFactory), S_OK);
+    return static_cast<IClassFactory*>(pFactory);
+}
+
+IDispatch* CreateObject() {
+    IClassFactory* pFactory = GetFactory();
+    void* pObject = nullptr;
+    EXPECT_EQ(pFactory->CreateInstance(nullptr, IID_IDispatch, &pObject), S_OK);
+    pFactory->Release();
+    return static_cast<IDispatch*>(pObject);
+}
+
+class Calls : public testing::TestWithParam<const char*> {
+protected:
+    Calls() { std::filesystem::current_path(m_Folder.File("")); }
+    ~Calls() override {
+        m_pObject->Release();
+        SetRawTexts(false);
+        std::filesystem::current_path(m_OldFolder);
+    }
+
+    const std::filesystem::path m_OldFolder = std::filesystem::current_path();
+    const CTemporaryDirectory m_Folder;
+    const CCodePageInForce m_CodePage{kUtf8CodePage};
+    IDispatch* m_pObject = CreateObject();
+};
+
+} // namespace
+
+TEST_P(Calls, HaveTheseAnswers) {
+    const CLateCaller caller(*m_pObject);
+    EXPECT_TRUE(GoesAsItStands(kCalls / (std::string(GetParam()) + ".txt"),
+                               [&](const std::string& question) { return caller.Answer(question); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Calls,
+                         testing::Values("members", "conversions", "wrong_calls", "texts", "fields"),
+                         [](const auto& calls) { return calls.param; });
+
+TEST(Server, IsThereAsLongAsAnybodyNeedsIt) {
+    EXPECT_TRUE(CanUnload());
+    IClassFactory* pFactory = GetFactory();
+    EXPECT_FALSE(CanUnload());
+    pFactory->LockServer(true);
+    pFactory->Release();
+    EXPECT_FALSE(CanUnload());
+    pFactory->LockServer(false);
+    EXPECT_TRUE(CanUnload());
+    IDispatch* pObject = CreateObject();
+    EXPECT_FALSE(CanUnload());
+    EXPECT_EQ(pObject->Release(), 0u);
+    EXPECT_TRUE(CanUnload());
+}
+
+TEST(Server, GivesEachInterfaceOfOneObject) {
+    IDispatch* pObject = CreateObject();
+    void *pUnknown = nullptr, *pSame = nullptr, *pInspector = nullptr, *pNone = pObject;
+    EXPECT_EQ(pObject->QueryInterface(VignelIidOrrelix, &pSame), S_OK);
+    EXPECT_EQ(pSame, pObject);
+    EXPECT_EQ(pObject->QueryInterface(VignelIidInspector, &pInspector), S_OK);
+    EXPECT_EQ(static_cast<IDispatch*>(pInspector)->QueryInterface(IID_IUnknown, &pUnknown), S_OK);
+    EXPECT_EQ(pObject->QueryInterface(IID_IUnknown, &pSame), S_OK);
+    EXPECT_EQ(pSame, pUnknown) << "the object's identity";
+    EXPECT_EQ(pObject->QueryInterface(IID_IClassFactory, &pNone), E_NOINTERFACE);
+    EXPECT_EQ(pNone, nullptr);
+    EXPECT_EQ(pObject->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+    for (int nLeft = 4; nLeft >= 0; --nLeft)
+        EXPECT_EQ(pObject->Release(), static_cast<ULONG>(nLeft));
+}
+
+TEST(Server, RefusesWhatItIsNot) {
+    IClassFactory* pFactory = GetFactory();
+    void* pObject = pFactory;
+    EXPECT_EQ(GetClassObject(IID_IDispatch, IID_IClassFactory, &pObject), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(pObject, nullptr);
+    EXPECT_EQ(GetClassObject(VignelClsidOrrelix, IID_IDispatch, &pObject), E_NOINTERFACE);
+    EXPECT_EQ(GetClassObject(VignelClsidOrrelix, IID_IClassFactory, nullptr), E_POINTER);
+    EXPECT_EQ(pFactory->CreateInstance(pFactory, IID_IUnknown, &pObject), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(pFactory->CreateInstance(nullptr, IID_IClassFactory, &pObject), E_NOINTERFACE);
+    EXPECT_EQ(pFactory->CreateInstance(nullptr, IID_IDispatch, nullptr), E_POINTER);
+    pFactory->Release();
+    EXPECT_TRUE(CanUnload());
+}
+
+TEST(Server, IsFoundByNameAndCategoryUntilItIsUnregistered) {
+    const CUserSettings user;
+    setenv("XDG_CONFIG_DIRS", user.Root().c_str(), 1); // nothing but the user's
+    const auto file = user.Root() / "vignel/registry.ini";
+    char text[VIGNEL_PATH_SIZE];
+    EXPECT_EQ(UnregisterServer(), REGDB_E_CLASSNOTREG);
+    EXPECT_EQ(VignelFindLibrary("VignelServer.Orrelix", text, sizeof text), 0);
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << "; mine\n[Other.Server]\n@=kept\n[VignelServer.Orrelix\\clsid]\n@=old\n";
+    EXPECT_EQ(RegisterServer(), S_OK);
+    EXPECT_EQ(RegisterServer(), S_OK) << "again";
+    CString registered = FileContent(file);
+    registered.Replace(SystemSpelling(GetModuleFile()), "(the library)");
+    EXPECT_TRUE(EqualsExpected(kCalls / "registry.ini", registered));
+    EXPECT_TRUE(VignelFindLibrary("VIGNELSERVER.orrelix", text, sizeof text));
+    EXPECT_EQ(std::filesystem::path(text), std::filesystem::read_symlink("/proc/self/exe"));
+    EXPECT_TRUE(VignelFindInCategory(VIGNEL_CATEGORY, 0, text, sizeof text));
+    EXPECT_STREQ(text, "VignelServer.Orrelix");
+    EXPECT_EQ(UnregisterServer(), S_OK);
+    EXPECT_EQ(FileContent(file), "; mine\n\n[Other.Server]\n@=kept\n\n[Component Categories\\" VIGNEL_CATEGORY
+                                 "]\n409=Brindlefen Vignels\n");
+    EXPECT_EQ(VignelFindInCategory(VIGNEL_CATEGORY, 0, text, sizeof text), 0);
+    unsetenv("XDG_CONFIG_DIRS");
+}
+
+// Under a sanitizer this tells more.
+TEST(Server, TakesAnyCall) {
+    IDispatch* pObject = CreateObject();
+    void* pInspector = nullptr;
+    pObject->QueryInterface(VignelIidInspector, &pInspector);
+    std::mt19937 random(20261123);
+    const auto below = [&](unsigned nLimit) { return static_cast<int>(random() % nLimit); };
+    BSTR texts[] = {nullptr, AllocText(""), AllocText("m_Texts"), AllocText("Scroll Text"),
+                    AllocText("a/b\\c")};
+    constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_NULL, VT_BSTR, VT_I2,    VT_I4,
+                                  VT_BOOL,  VT_R8,   VT_DATE, VT_ERROR, 77};
+    int nSucceeded = 0;
+    for (int nCall = 0; nCall < 10000; ++nCall) {
+        VARIANT values[4] = {}, result{};
+        for (VARIANT& value : values) {
+            value.vt = kTypes[below(std::size(kTypes))];
+            value.dblVal = below(2) ? -1.5e300 : below(5) - 2;
+            if (value.vt == VT_BSTR)
+                value.bstrVal = texts[below(std::size(texts))];
+            if (value.vt == VT_I2 || value.vt == VT_I4 || value.vt == VT_BOOL)
+                value.lVal = below(2) ? below(6) - 2 : -32768;
+            if (value.vt == VT_EMPTY && below(3) == 0)
+                value.vt =
+                    static_cast<VARTYPE>(VT_BYREF | (below(2) ? VT_I4 : VT_VARIANT)); // a null reference
+            if (value.vt & VT_BYREF)
+                value.pvarVal = nullptr;
+        }
+        const WORD flags = static_cast<WORD>(below(4) ? DISPATCH_METHOD | DISPATCH_PROPERTYGET : below(16));
+        DISPID nName = below(9) ? DISPID_PROPERTYPUT : below(3);
+        DISPPARAMS arguments{below(20) ? values : nullptr, below(20) ? &nName : nullptr,
+                             static_cast<UINT>(below(2) ? 0 : below(std::size(values) + 1)),
+                             static_cast<UINT>((flags & DISPATCH_PROPERTYPUT) != 0)};
+        EXCEPINFO exception{};
+        UINT nWrong = 0;
+        auto* pTarget = below(2) ? pObject : static_cast<IDispatch*>(pInspector);
+        const HRESULT code = pTarget->Invoke(below(45) - 2, IID_NULL, 0, flags,
+                                             below(50) ? &arguments : nullptr, below(3) ? &result : nullptr,
+                                             below(3) ? &exception : nullptr, below(2) ? &nWrong : nullptr);
+        nSucceeded += !FAILED(code);
+        SysFreeString(exception.bstrDescription);
+        VariantClear(&result);
+    }
+    EXPECT_GT(nSucceeded, 500);
+    SetCodePage(kUtf8CodePage);
+    SetRawTexts(false);
+    static_cast<IDispatch*>(pInspector)->Release();
+    pObject->Release();
+    for (BSTR text : texts)
+        SysFreeString(text);
+}
+
+} // namespace orrelix
