@@ -16,7 +16,7 @@ using Size = CCoolLinkImage;
 constexpr CItemColumn<Table, Dlg> kColumns[] = {
     {"Item Text", 90, &Dlg::m_ItemText, OfItem<&Table::m_Texts>},
     {"Item Link", 90, &Dlg::m_Link, OfItem<&Table::m_Links>},
-    {"Image File", 50, &Dlg::m_ImageFile, OfItem<&Table::m_Images>},
+    {"Image File", 50, &Dlg::m_ImageFile, OfItem<&Table::m_Images>, STYLE_PATH},
     {"Image Width", 30, &Dlg::m_ImageWidth, OfItem<&Table::m_ImageSizes, &Size::m_Width>},
     {"Image Height", 30, &Dlg::m_ImageHeight, OfItem<&Table::m_ImageSizes, &Size::m_Height>},
     {"Image Border", 30, &Dlg::m_ImageBorder, OfItem<&Table::m_ImageSizes, &Size::m_Border>},

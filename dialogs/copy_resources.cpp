@@ -26,7 +26,7 @@ void CCopyResourcesDlg::OnInitDialog() {
     Item<CControl>(CopyResourcesId::Destination).SetWindowText("Destination Directory: " + m_Destination);
     CListCtrl& list = Item<CListCtrl>(CopyResourcesId::Clashes);
     list.InsertColumn(0, "Destination File Name", 0);
-    list.InsertColumn(1, "Resource File", 140);
+    list.InsertColumn(1, "Resource File", 140, STYLE_PATH);
     m_Clashes.ForEach([&list](const CString& source, const std::vector<CString*>&) {
         const int nRow = list.InsertItem(list.GetItemCount(), FileNameOfPath(source));
         list.SetItemText(nRow, 1, source);

@@ -18,7 +18,7 @@ constexpr CItemColumn<Box, Dlg> kColumns[] = {
     {"Item Text", 90, &Dlg::m_Text, OfItem<&Box::m_Texts>},
     {"Item Link", 90, &Dlg::m_Url, OfItem<&Box::m_Links>},
     {"Item ToolTip", 90, &Dlg::m_ToolTip, OfItem<&Box::m_ToolTips>},
-    {"Image File", 50, &Dlg::m_Image, OfItem<&Box::m_Images>},
+    {"Image File", 50, &Dlg::m_Image, OfItem<&Box::m_Images>, STYLE_PATH},
     {"Image Width", 10, &Dlg::m_ImageWidth, OfItem<&Box::m_ImageSizes, &Size::m_Width>},
     {"Image Height", 10, &Dlg::m_ImageHeight, OfItem<&Box::m_ImageSizes, &Size::m_Height>},
     {"Image Border", 10, &Dlg::m_ImageBorder, OfItem<&Box::m_ImageSizes, &Size::m_Border>},

@@ -20,6 +20,7 @@ struct CItemColumn {
     int m_nExtraWidth;
     CString TItemDlg::*m_pField;
     CString& (*m_pOf)(TGadget& gadget, CStringArray::Index nItem);
+    unsigned m_nStyle = STYLE_NONE; // of the list's column
 };
 
 // The text of an item in a list of the effect, or that member of it.
@@ -58,7 +59,7 @@ protected:
         EnableMoves({false, false});
         for (size_t nColumn = 0; nColumn < m_Columns.size(); ++nColumn)
             Items().InsertColumn(static_cast<int>(nColumn), m_Columns[nColumn].m_pHeading,
-                                 m_Columns[nColumn].m_nExtraWidth);
+                                 m_Columns[nColumn].m_nExtraWidth, m_Columns[nColumn].m_nStyle);
         SetItemCount(this->m_Copy.m_Texts.GetSize());
         for (CStringArray::Index nItem = 0; nItem < this->m_Copy.m_Texts.GetSize(); ++nItem)
             InsertRow(Items(), CountRows(),

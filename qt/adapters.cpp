@@ -48,7 +48,7 @@ CAdapterPtr MakeByKind(const CControlDescription& description, CDialog& dialog, 
     case ControlKind::ListBox:
         return MakeListBoxAdapter(dialog.Item<CListBox>(nId), stage, parent);
     case ControlKind::ListCtrl:
-        return MakeListViewAdapter(dialog.Item<CListCtrl>(nId), description, stage, parent);
+        return MakeListViewAdapter(dialog.Item<CListCtrl>(nId), stage, parent);
     case ControlKind::ComboBox:
         return MakeComboBoxAdapter(dialog.Item<CComboBox>(nId), stage, parent);
     case ControlKind::Slider:

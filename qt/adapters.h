@@ -27,8 +27,7 @@ CAdapterPtr MakeButtonAdapter(CButton& button, const CControlDescription& descri
                               std::function<CString()> textBeside, CStage& stage, QWidget& parent);
 CAdapterPtr MakeOwnerDrawnButtonAdapter(COwnerDrawnButton& button, CStage& stage, QWidget& parent);
 CAdapterPtr MakeListBoxAdapter(CListBox& list, CStage& stage, QWidget& parent);
-CAdapterPtr MakeListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage,
-                                QWidget& parent);
+CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent);
 CAdapterPtr MakeComboBoxAdapter(CComboBox& combo, CStage& stage, QWidget& parent);
 CAdapterPtr MakeSliderAdapter(CSliderCtrl& slider, const CControlDescription& description, CStage& stage,
                               QWidget& parent);

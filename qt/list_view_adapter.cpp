@@ -16,7 +16,7 @@ namespace {
 
 class CListCtrlRows : public CRowsModel {
 public:
-    CListCtrlRows(const CListCtrl& list, bool bPaths) : m_List(list), m_bPaths(bPaths) {}
+    explicit CListCtrlRows(const CListCtrl& list) : m_List(list) {}
 
     QVariant data(const QModelIndex& index, int nRole) const override {
         if (nRole == Qt::DecorationRole && index.column() == 0)
@@ -43,8 +43,7 @@ private:
     int CountRows() const override { return m_List.GetItemCount(); }
     int CountColumns() const override { return m_List.IsReport() ? m_List.GetColumnCount() : 1; }
     QString TextAt(int nRow, int nColumn) const override {
-        const CString text = m_List.GetItemText(nRow, nColumn);
-        return m_bPaths ? PathToQt(text) : LinesToQt(text);
+        return LinesToQt(m_List.ForPerson(nRow, nColumn));
     }
 
     QVariant IconOf(int nImage) const {
@@ -59,7 +58,6 @@ private:
     }
 
     const CListCtrl& m_List;
-    const bool m_bPaths;
     mutable QHash<QString, QIcon> m_Icons;
 };
 
@@ -111,12 +109,9 @@ public:
     }
 
     void ShowColumns(const CListCtrl& list) {
-        const int nMargin = 2 * (style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header()) + 2);
-        for (int nColumn = 0; nColumn < list.GetColumnCount(); ++nColumn) {
-            const CListCtrl::CColumn& column = list.GetColumn(nColumn);
-            const int nText = header()->fontMetrics().horizontalAdvance(ToQt(column.m_Heading));
-            header()->resizeSection(nColumn, nText + nMargin + column.m_nExtraWidth);
-        }
+        for (int nColumn = 0; nColumn < list.GetColumnCount(); ++nColumn)
+            header()->resizeSection(nColumn, header()->sectionSizeHint(nColumn) +
+                                                 list.GetColumn(nColumn).m_nExtraWidth);
     }
 
 private:
@@ -144,9 +139,9 @@ public:
 template <class TView>
 class CListViewAdapter : public CControlAdapter {
 public:
-    CListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage, QWidget& parent)
-        : CControlAdapter(list, stage), m_List(list), m_Rows(list, description.Has(STYLE_PATH)),
-          m_pView(new TView(&parent)), m_pDelegate(new CLabelDelegate(m_pView)) {
+    CListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent)
+        : CControlAdapter(list, stage), m_List(list), m_Rows(list), m_pView(new TView(&parent)),
+          m_pDelegate(new CLabelDelegate(m_pView)) {
         ListenToView();
         ListenToLabels();
         m_pView->setModel(&m_Rows);
@@ -261,11 +256,10 @@ private:
 
 } // namespace
 
-CAdapterPtr MakeListViewAdapter(CListCtrl& list, const CControlDescription& description, CStage& stage,
-                                QWidget& parent) {
+CAdapterPtr MakeListViewAdapter(CListCtrl& list, CStage& stage, QWidget& parent) {
     if (list.IsReport())
-        return std::make_unique<CListViewAdapter<CReportView>>(list, description, stage, parent);
-    return std::make_unique<CListViewAdapter<CFileView>>(list, description, stage, parent);
+        return std::make_unique<CListViewAdapter<CReportView>>(list, stage, parent);
+    return std::make_unique<CListViewAdapter<CFileView>>(list, stage, parent);
 }
 
 } // namespace orrelix

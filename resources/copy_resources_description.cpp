@@ -9,8 +9,7 @@ const CDialogDescription& CopyResourcesDescription() {
         "Copy Resources",
         Column(
             {Text(Id::Destination, "", STYLE_SUNKEN | STYLE_PATH, "Destination"),
-             ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS | STYLE_PATH,
-                      "Files with clashing names"),
+             ListView(Id::Clashes, "", STYLE_REPORT | STYLE_EDIT_LABELS, "Files with clashing names"),
              Text(Id::Explanation,
                   "These files' names have already been used in the destination directory. If you don't "
                   "rename the destination file's name, the files with same name will be overwritten."),

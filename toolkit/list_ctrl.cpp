@@ -1,6 +1,6 @@
 #include "toolkit/list_ctrl.h"
 
-#include "toolkit/dialog_description.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 
@@ -33,9 +33,9 @@ void CListCtrl::OnCreate(const CControlDescription& description) {
     m_bEditLabels = description.Has(STYLE_EDIT_LABELS);
 }
 
-void CListCtrl::InsertColumn(int nColumn, const CString& heading, int nExtraWidth) {
+void CListCtrl::InsertColumn(int nColumn, const CString& heading, int nExtraWidth, unsigned nStyle) {
     const int nPlace = std::clamp(nColumn, 0, GetColumnCount());
-    m_Columns.insert(m_Columns.begin() + nPlace, {heading, nExtraWidth});
+    m_Columns.insert(m_Columns.begin() + nPlace, {heading, nExtraWidth, nStyle});
     TellObserver(ControlChange::Columns);
 }
 
@@ -53,6 +53,12 @@ void CListCtrl::SetItemText(int nRow, int nColumn, const CString& text) {
         texts.resize(static_cast<size_t>(nColumn) + 1);
     texts[static_cast<size_t>(nColumn)] = text;
     TellObserver(ControlChange::RowsChanged, nRow, 1);
+}
+
+CString CListCtrl::ForPerson(int nRow, int nColumn) const {
+    const CString text = GetItemText(nRow, nColumn);
+    const bool bPath = nColumn < GetColumnCount() && (GetColumn(nColumn).m_nStyle & STYLE_PATH) != 0;
+    return bPath ? CString(SystemSpelling(text)) : text;
 }
 
 int CListCtrl::InsertItem(int nRow, const CString& text, int nImage) {

@@ -8,6 +8,7 @@
 
 #include "platform/array.h"
 #include "toolkit/control.h"
+#include "toolkit/dialog_description.h"
 
 #include <vector>
 
@@ -18,6 +19,7 @@ public:
     struct CColumn {
         CString m_Heading;
         int m_nExtraWidth; // the column is as wide as its heading's text and this many pixels
+        unsigned m_nStyle; // STYLE_NONE or STYLE_PATH
     };
 
     // How the editing of a label ended.
@@ -33,11 +35,13 @@ public:
 
     int GetColumnCount() const { return static_cast<int>(m_Columns.size()); }
     const CColumn& GetColumn(int nColumn) const { return m_Columns[static_cast<size_t>(nColumn)]; }
-    void InsertColumn(int nColumn, const CString& heading, int nExtraWidth);
+    void InsertColumn(int nColumn, const CString& heading, int nExtraWidth, unsigned nStyle = STYLE_NONE);
 
     int GetItemCount() const { return static_cast<int>(m_Rows.size()); }
     CString GetItemText(int nRow, int nColumn) const;
     void SetItemText(int nRow, int nColumn, const CString& text);
+    // What a desktop shows as that text: in a column of paths the system's spelling.
+    CString ForPerson(int nRow, int nColumn) const;
     // Puts a row at nRow, 0 to GetItemCount(), with the text in column 0, and gives the row where it went: a
     // sorted list finds the place itself. nImage is an index into the image list, -1 for none.
     int InsertItem(int nRow, const CString& text, int nImage = -1);

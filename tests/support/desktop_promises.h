@@ -39,7 +39,7 @@ TEST_P(DesktopPromises, TheDialogComesUpAsTheProgramSetItUpAndNobodyIsNotified) 
         .ShowsSelected("Fixed:", {1})
         .ShowsRows("List:", {"row 0", "row 1", "row 2"})
         .ShowsSelected("List:", {})
-        .ShowsRows("View:", {"item 0 | link 0", "item 1 | link 1", "item 2 | link 2"})
+        .ShowsRows("View:", {"item 0 | files/0", "item 1 | files/1", "item 2 | files/2"})
         .ShowsPosition("Level", 300)
         .Shows("Status", "ready")
         .Clicks("OK");
@@ -164,7 +164,7 @@ TEST_P(DesktopPromises, SeveralRowsOfAListViewAreSelected) {
             dialog.Item<CListCtrl>(promises::Id::View).DeleteItem(0);
             dialog.Item<CListCtrl>(promises::Id::View).InsertItem(0, "top");
         })
-        .ShowsRows("View:", {"top | ", "item 1 | link 1", "item 2 | link 2"})
+        .ShowsRows("View:", {"top | ", "item 1 | files/1", "item 2 | files/2"})
         .ShowsSelected("View:", {2})
         .ShowsHotRow("View:", -1)
         .Then([](CDialog& dialog) { dialog.Item<CListCtrl>(promises::Id::View).SetHotItem(1); })
@@ -178,11 +178,11 @@ TEST_P(DesktopPromises, TheProgramAsksForALabelToBeEditedAndThePersonDoesOrDoesN
     m_Person.In("Everything")
         .Clicks("Add")
         .Renames("View:", "other.gif")
-        .ShowsRows("View:", {"item 0 | link 0", "other.gif | link 1", "item 2 | link 2"})
+        .ShowsRows("View:", {"item 0 | files/0", "other.gif | files/1", "item 2 | files/2"})
         .Then([this](CDialog&) { m_Dialog.Enable(promises::Id::Add, true); })
         .Clicks("Add")
         .CancelsRenaming("View:")
-        .ShowsRows("View:", {"item 0 | link 0", "other.gif | link 1", "item 2 | link 2"})
+        .ShowsRows("View:", {"item 0 | files/0", "other.gif | files/1", "item 2 | files/2"})
         .Clicks("OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Log, "label edited label kept ");

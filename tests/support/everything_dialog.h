@@ -150,11 +150,11 @@ protected:
     void OnInitDialog() override {
         CListCtrl& view = Item<CListCtrl>(Id::View);
         view.InsertColumn(0, "Name", 90);
-        view.InsertColumn(1, "Link", 40);
+        view.InsertColumn(1, "File", 40, STYLE_PATH);
         for (int nRow = 0; nRow < m_nRows; ++nRow) {
             Item<CListBox>(Id::List).AddString("row " + ToText(nRow));
             view.InsertItem(nRow, "item " + ToText(nRow));
-            view.SetItemText(nRow, 1, "link " + ToText(nRow));
+            view.SetItemText(nRow, 1, "files\\" + ToText(nRow));
         }
         Item<CSliderCtrl>(Id::Level).SetPos(300);
         UpdateData(false);

@@ -20,14 +20,10 @@ TControl* As(const CTarget& target) {
 }
 
 CString JoinedCells(const CListCtrl& list, int nRow) {
-    CString cells = list.GetItemText(nRow, 0);
+    CString cells = list.ForPerson(nRow, 0);
     for (int nColumn = 1; nColumn < list.GetColumnCount(); ++nColumn)
-        cells += CString(" | ") + list.GetItemText(nRow, nColumn);
+        cells += CString(" | ") + list.ForPerson(nRow, nColumn);
     return cells;
-}
-
-CString Seen(const CTarget& target, const CString& text) {
-    return target.m_Description.Has(STYLE_PATH) ? CString(SystemSpelling(text)) : text;
 }
 
 CString ShownRow(const CComboBox& box, int nRow) {
@@ -149,7 +145,8 @@ CString CScriptedPerson::TextOf(const CTarget& target) {
     const auto* pBox = As<CComboBox>(target);
     if (pBox && !pBox->HasEditPart() && pBox->GetCurSel() >= 0)
         return ShownRow(*pBox, pBox->GetCurSel());
-    return Seen(target, target.m_Control.GetWindowText());
+    const CString& text = target.m_Control.GetWindowText();
+    return target.m_Description.Has(STYLE_PATH) ? CString(SystemSpelling(text)) : text;
 }
 
 CString CScriptedPerson::TextBeside(const CTarget& target) {
@@ -167,7 +164,7 @@ std::vector<CString> CScriptedPerson::RowsOf(const CTarget& target) {
             rows.push_back(ShownRow(*pBox, nRow));
     } else if (auto* pList = As<CListCtrl>(target)) {
         for (int nRow = 0; nRow < pList->GetItemCount(); ++nRow)
-            rows.push_back(Seen(target, JoinedCells(*pList, nRow)));
+            rows.push_back(JoinedCells(*pList, nRow));
     } else {
         for (int nRow = 0; nRow < As<CListBox>(target)->GetCount(); ++nRow)
             rows.push_back(As<CListBox>(target)->GetText(nRow));
