@@ -10,20 +10,26 @@ namespace orrelix {
 
 namespace {
 
+// How many characters a text beside a button makes its window wide for, and how many it leaves it at least.
+constexpr int kMostBeside = 40;
+constexpr int kLeastBeside = 8;
+
 // One line, of which what doesn't fit is left out; a tip tells it then.
 class CElidedLabel : public QLabel {
 public:
     explicit CElidedLabel(QWidget* pParent) : QLabel(pParent) { setTextFormat(Qt::PlainText); }
 
     QSize sizeHint() const override {
-        return {fontMetrics().averageCharWidth() * 20, QLabel::sizeHint().height()};
+        const int nWhole = fontMetrics().horizontalAdvance(m_Whole) + 1; // eliding takes what fits exactly
+        return {qBound(WidthOf(kLeastBeside), nWhole, WidthOf(kMostBeside)), QLabel::sizeHint().height()};
     }
     QSize minimumSizeHint() const override {
-        return {fontMetrics().averageCharWidth() * 8, QLabel::minimumSizeHint().height()};
+        return {WidthOf(kLeastBeside), QLabel::minimumSizeHint().height()};
     }
 
     void ShowWhole(const QString& text) {
         m_Whole = text;
+        updateGeometry();
         Elide();
     }
 
@@ -34,6 +40,8 @@ protected:
     }
 
 private:
+    int WidthOf(int nCharacters) const { return fontMetrics().averageCharWidth() * nCharacters; }
+
     void Elide() {
         setText(fontMetrics().elidedText(m_Whole, Qt::ElideRight, contentsRect().width()));
         setToolTip(text() == m_Whole ? QString() : PlainTip(m_Whole));

@@ -39,10 +39,15 @@ bool IsClosingRow(const CDialogItem& item) {
                        [](const CDialogItem& button) { return button.m_Control.m_nId == IDOK; });
 }
 
+// A box of one line in a place as tall as one of several lines.
+bool IsLevel(const CDialogItem& item) {
+    return IsControl(item, ControlKind::Edit) && item.m_Control.Has(STYLE_LEVEL);
+}
+
 // Whether the item has use for more height than it needs.
 bool GrowsDown(const CDialogItem& item) {
-    const bool bGrows =
-        IsList(item) || (IsControl(item, ControlKind::Edit) && item.m_Control.Has(STYLE_MULTI_LINE));
+    const bool bGrows = IsList(item) || IsLevel(item) ||
+                        (IsControl(item, ControlKind::Edit) && item.m_Control.Has(STYLE_MULTI_LINE));
     return bGrows || std::any_of(item.m_Items.begin(), item.m_Items.end(), GrowsDown);
 }
 
@@ -179,9 +184,12 @@ private:
                                     nEnd - nColumn);
             return;
         }
-        const bool bLeft = IsControl(field.First(), ControlKind::Button) && !grid.m_bButtons;
-        grid.m_Layout.addWidget(Place(field.First(), grid.m_Parent, pLabel), nRow, nColumn, 1, nEnd - nColumn,
-                                bLeft ? Qt::AlignLeft : Qt::Alignment());
+        QWidget* pPlaced = Place(field.First(), grid.m_Parent, pLabel);
+        const bool bLeft = qobject_cast<QPushButton*>(pPlaced) && !grid.m_bButtons;
+        grid.m_Layout.addWidget(pPlaced, nRow, nColumn, 1, nEnd - nColumn,
+                                bLeft                    ? Qt::AlignLeft
+                                : IsLevel(field.First()) ? Qt::AlignTop
+                                                         : Qt::Alignment());
     }
 
     QHBoxLayout* BoxAndMore(const CField& field, QWidget& parent, QLabel* pLabel) {

@@ -14,7 +14,7 @@ namespace orrelix {
 
 namespace {
 
-constexpr int kWindowFrame = 48; // roughly what title bar and edges take
+constexpr QSize kWindowFrame(16, 48); // roughly what title bar and edges take
 constexpr int kGapBeforeBar = 4;
 
 } // namespace
@@ -54,14 +54,15 @@ void CDialogWindow::LayOut() {
     if (pClosing)
         pLayout->addWidget(pClosing);
     const QSize around = pLayout->totalMinimumSize() + QSize(0, pClosing ? pLayout->spacing() : 0);
-    const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
+    const QSize room = screen()->availableSize() - kWindowFrame;
     const QSize least = m_pBody->minimumSizeHint();
     const QMargins margins = pLayout->contentsMargins();
     const int nAcross = room.width() - margins.left() - margins.right();
     const bool bFits = least.width() <= nAcross && least.height() <= room.height() - around.height();
     pLayout->insertWidget(0, bFits ? m_pBody : Scrolling(nAcross), 1);
-    if (!bFits)
-        resize(sizeHint().boundedTo(room));
+    const int nWidth = qMin(sizeHint().width(), room.width());
+    const int nHeight = pLayout->hasHeightForWidth() ? pLayout->totalHeightForWidth(nWidth) : 0;
+    resize(nWidth, qMin(qMax(sizeHint().height(), nHeight), room.height()));
 }
 
 // The body in an area that scrolls, and never across while it fits `nRoom` beside the upright bar.

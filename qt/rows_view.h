@@ -59,6 +59,12 @@ protected:
         return Within([&] { return TView::event(pEvent); });
     }
 
+    // Some styles grey the rows of a list that lacks the focus.
+    void initViewItemOption(QStyleOptionViewItem* pOption) const override {
+        TView::initViewItemOption(pOption);
+        pOption->state.setFlag(QStyle::State_Active, this->isActiveWindow());
+    }
+
     // Where nothing is selected, the first key selects a row. Space on the selected row is the
     // double click of those who have no mouse.
     void keyPressEvent(QKeyEvent* pEvent) override {

@@ -19,7 +19,7 @@ CDialogItem Texts() {
 
 CDialogItem Urls() {
     return Group("Text Url",
-                 {Edit(Id::EditUrl, "", STYLE_NONE, "Url"), ListBox(Id::Urls, "", STYLE_NONE, "Urls"),
+                 {Edit(Id::EditUrl, "", STYLE_LEVEL, "Url"), ListBox(Id::Urls, "", STYLE_NONE, "Urls"),
                   Row({Button(Id::UrlUp, "Move U&p", "", "Move Up the url"),
                        Button(Id::UrlDown, "Move Dow&n", "", "Move Down the url"),
                        Button(Id::ModifyUrl, "Modif&y", "", "Modify the url")})});

@@ -51,6 +51,7 @@ enum ControlStyle : unsigned {
     STYLE_EDIT_LABELS = 256,        // a list view whose labels the person may edit
     STYLE_COLOUR = 512,             // an edit box for six hexadecimal digits
     STYLE_PATH = 1024,              // holds the component's own paths; the person sees and types the system's
+    STYLE_LEVEL = 2048,             // an edit box of one line that stands level with one of several lines
 };
 
 // One row of a combo box: the value that the program reads, and, where that isn't fit to be read by a person,
