@@ -32,6 +32,12 @@ public:
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon); // not to the longest of all rows
         static_cast<QListView*>(view())->setUniformItemSizes(true);
     }
+
+    // Its text can be cut where the screen is small.
+    QSize minimumSizeHint() const override {
+        const QSize least = CQuietWheel::minimumSizeHint();
+        return {qMin(least.width(), fontMetrics().averageCharWidth() * 20), least.height()};
+    }
 };
 
 class CComboBoxAdapter : public CControlAdapter {

@@ -139,6 +139,16 @@ private:
             AddRow(grid, column.m_Items[nRow], rows[nRow]);
         if (!GrowsDown(column))
             pLayout->setRowStretch(pLayout->rowCount(), 1);
+        if (grid.m_bButtons)
+            MakeEquallyWide(parent.findChildren<QPushButton*>());
+    }
+
+    static void MakeEquallyWide(const QList<QPushButton*>& buttons) {
+        int nWidest = 0;
+        for (const QPushButton* pButton : buttons)
+            nWidest = qMax(nWidest, pButton->sizeHint().width());
+        for (QPushButton* pButton : buttons)
+            pButton->setMinimumWidth(nWidest);
     }
 
     static bool IsFormRow(const std::vector<CField>& fields) {

@@ -21,6 +21,7 @@ constexpr int kGapBeforeBar = 4;
 
 CDialogWindow::CDialogWindow(CDialog& dialog, CPersonKey key, QWidget* pParent)
     : QDialog(pParent), m_Dialog(dialog), m_Key(key), m_pBody(new QWidget(this)) {
+    setLayoutDirection(Qt::LeftToRight); // as the texts in it, whatever the host's language
     setWindowTitle(ToQt(dialog.GetDescription().m_pTitle));
     LayOut();
     RestorePlace(*this, windowTitle());
@@ -47,22 +48,26 @@ QWidget* CDialogWindow::PlacePicture(const CDialogItem& picture, QWidget& parent
     return new CMovingPicture(*pList, picture.m_Pictures, &parent);
 }
 
-// Where the screen is too small for the body, or the font too large, it scrolls. The closing buttons stay.
+// As large as the layout wants it, which Qt would not let a window become that it sizes itself. Where the screen
+// is too small for the body, or the font too large, the body scrolls. The closing buttons stay.
 void CDialogWindow::LayOut() {
     auto* pLayout = new QVBoxLayout(this);
     QWidget* pClosing = LayOutDialog(m_Dialog.GetDescription(), *m_pBody, *this, *this);
+    pLayout->addWidget(m_pBody, 1);
     if (pClosing)
         pLayout->addWidget(pClosing);
-    const QSize around = pLayout->totalMinimumSize() + QSize(0, pClosing ? pLayout->spacing() : 0);
     const QSize room = screen()->availableSize() - kWindowFrame;
-    const QSize least = m_pBody->minimumSizeHint();
-    const QMargins margins = pLayout->contentsMargins();
-    const int nAcross = room.width() - margins.left() - margins.right();
-    const bool bFits = least.width() <= nAcross && least.height() <= room.height() - around.height();
-    pLayout->insertWidget(0, bFits ? m_pBody : Scrolling(nAcross), 1);
-    const int nWidth = qMin(sizeHint().width(), room.width());
-    const int nHeight = pLayout->hasHeightForWidth() ? pLayout->totalHeightForWidth(nWidth) : 0;
-    resize(nWidth, qMin(qMax(sizeHint().height(), nHeight), room.height()));
+    QSize wanted = pLayout->totalSizeHint().boundedTo(room);
+    if (pLayout->hasHeightForWidth())
+        wanted.setHeight(
+            qBound(wanted.height(), pLayout->totalHeightForWidth(wanted.width()), room.height()));
+    const QSize least = pLayout->totalMinimumSize();
+    if (least.width() > room.width() || least.height() > room.height()) {
+        const QMargins margins = pLayout->contentsMargins();
+        pLayout->removeWidget(m_pBody);
+        pLayout->insertWidget(0, Scrolling(room.width() - margins.left() - margins.right()), 1);
+    }
+    resize(wanted);
 }
 
 // The body in an area that scrolls, and never across while it fits `nRoom` beside the upright bar.

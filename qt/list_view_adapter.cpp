@@ -101,7 +101,7 @@ public:
     }
 
     QSize sizeHint() const override {
-        const int nColumns = qMin(header()->length(), fontMetrics().averageCharWidth() * 90);
+        const int nColumns = qMin(header()->length(), fontMetrics().averageCharWidth() * 140);
         return {nColumns + 2 * frameWidth(), header()->sizeHint().height() + HeightOfRows(6)};
     }
     QSize minimumSizeHint() const override {
