@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QListView>
 #include <QScrollArea>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -145,6 +146,19 @@ TEST_P(EveryWindow, FitsALaptopsScreenWithoutScrollingWhateverStandsInIt) {
             EXPECT_TRUE(window.screen()->geometry().contains(window.geometry()));
         });
     }
+}
+
+TEST_P(EveryWindow, OpensAsLargeAsItWantsToBeWithListsSideBySideLevel) {
+    Open("text", [](CDialog&) {
+        const QDialog& window = CQtPerson::Window();
+        EXPECT_EQ(window.size().expandedTo(window.sizeHint()), window.size());
+        std::set<int> tops;
+        for (const auto* pList : window.findChildren<QListView*>()) {
+            if (pList->isVisible())
+                tops.insert(pList->mapTo(&window, QPoint(0, 0)).y());
+        }
+        EXPECT_LE(tops.size(), 1u);
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EveryWindow, testing::ValuesIn(AllDialogs()),
