@@ -1,3 +1,4 @@
+#include "platform/files.h"
 #include "qt/adapters.h"
 #include "qt/box_mark.h"
 #include "qt/text.h"
@@ -56,7 +57,8 @@ class CLineAdapter : public CControlAdapter {
 public:
     CLineAdapter(CEdit& edit, const CControlDescription& description, CStage& stage, QWidget& parent)
         : CControlAdapter(edit, stage), m_Edit(edit), m_pBox(new CLineBox(&parent, description)),
-          m_Mark(*m_pBox, *m_pBox), m_bColour(description.Has(STYLE_COLOUR)) {
+          m_Mark(*m_pBox, *m_pBox), m_bColour(description.Has(STYLE_COLOUR)),
+          m_bPath(description.Has(STYLE_PATH)) {
         if (description.Has(STYLE_DIGITS))
             m_pBox->setInputMethodHints(Qt::ImhDigitsOnly);
         ListenTo(*m_pBox, [this](const CString& text) {
@@ -74,18 +76,28 @@ public:
     }
 
 private:
-    // Nobody is told of a colour that is still being typed.
     void ShowMark() {
+        if (m_bColour)
+            m_Mark.Show(IsColour() ? "" : "Not a color: a color is six digits from 0 to 9 and a to f");
+        if (m_bPath)
+            m_Mark.Show(IsFile() ? "" : "There is no such file");
+    }
+
+    // Nobody is told of what is still being typed.
+    bool IsColour() const {
         const QString text = m_pBox->text();
-        const bool bFine =
-            text.isEmpty() || IsHexColour(text) || (m_pBox->hasFocus() && MayBecomeHexColour(text));
-        m_Mark.Show(m_bColour && !bFine ? "Not a color: a color is six digits from 0 to 9 and a to f" : "");
+        return text.isEmpty() || IsHexColour(text) || (m_pBox->hasFocus() && MayBecomeHexColour(text));
+    }
+    bool IsFile() const {
+        const CString& path = m_Edit.GetWindowText();
+        return path.IsEmpty() || m_pBox->hasFocus() || FileExists(path);
     }
 
     CEdit& m_Edit;
     CLineBox* m_pBox;
     CBoxMark m_Mark;
     const bool m_bColour;
+    const bool m_bPath;
 };
 
 class CTextArea : public QPlainTextEdit {

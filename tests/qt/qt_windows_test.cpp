@@ -189,16 +189,23 @@ TEST_F(Windows, ATurnedNumberCanBeUndone) {
     });
 }
 
-TEST_F(Windows, WhatIsNoNumberOrColourCarriesAMarkAndSaysSo) {
+TEST_F(Windows, WhatIsNoNumberColourOrFileCarriesAMarkAndSaysSo) {
     Work([](CDialog& dialog) {
         const struct {
             int m_nId;
             const char* m_pText;
             bool m_bMarked;
-        } cases[] = {
-            {Id::Number, "abc", true},     {Id::Number, "90%", false},     {Id::Number, "", false},
-            {Id::Colour, "red", true},     {Id::Colour, "ff00", true},     {Id::Colour, "ff00fg", true},
-            {Id::Colour, "fF0012", false}, {Id::Colour, "#ff0012", false}, {Id::Text, "red", false}};
+        } cases[] = {{Id::Number, "abc", true},
+                     {Id::Number, "90%", false},
+                     {Id::Number, "", false},
+                     {Id::Colour, "red", true},
+                     {Id::Colour, "ff00", true},
+                     {Id::Colour, "ff00fg", true},
+                     {Id::Colour, "fF0012", false},
+                     {Id::Colour, "#ff0012", false},
+                     {Id::Text, "red", false},
+                     {Id::Path, "/no/such.gif", true},
+                     {Id::Path, ORRELIX_SOURCE_DIR "/dev", false}};
         for (const auto& [nId, pText, bMarked] : cases) {
             auto& box = Shown<QWidget>(dialog, nId);
             ReplaceText(box, pText);
