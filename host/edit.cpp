@@ -3,6 +3,7 @@
 #include "core/config_format.h"
 #include "core/orrelix.h"
 #include "host/component_path.h"
+#include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/named_fields.h"
 #include "host/nearest_word.h"
@@ -13,7 +14,6 @@
 #include "resources/effects.h"
 #include "toolkit/desktop_loader.h"
 
-#include <cctype>
 #include <chrono>
 #include <fmt/format.h>
 #include <iostream>
@@ -39,14 +39,6 @@ std::string AllEffects() {
 double Now() {
     using namespace std::chrono;
     return duration<double, days::period>(system_clock::now() - kDayZero).count();
-}
-
-// A title that can stand in names of a page's script: letters, digits and "_", no digit first.
-std::string TitleFrom(const std::string& stem) {
-    std::string title;
-    for (char byte : stem)
-        title += isalnum(static_cast<unsigned char>(byte)) ? byte : '_';
-    return title.empty() || isdigit(static_cast<unsigned char>(title[0])) ? "v" + title : title;
 }
 
 // A text of the command line, which is in UTF-8, as the file has it. Bytes that are no UTF-8 go into a UTF-8
@@ -153,6 +145,7 @@ void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
         return report.Error(options.m_File.string(), "can't be written: " + orrelix.m_FileError.message());
     CheckCopies(orrelix, directory, report);
     std::cout << options.m_File.string() << '\n';
+    WarnOfHarmfulTexts(options.m_File, report);
 }
 
 // Runs the dialogs. False when there is nobody to show them to, or who cancelled.

@@ -5,6 +5,7 @@
 #include "platform/module.h"
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 
 namespace orrelix {
@@ -25,10 +26,6 @@ void CollectReferences(std::string_view text, std::set<CString>& names) {
         const char quote = nMark > 0 ? text[nMark - 1] : '"';
         names.insert(CString(text.substr(nName, text.find(quote, nName) - nName)));
     }
-}
-
-CString ScriptText(COrrelix& orrelix, EHtmlMode mode) {
-    return orrelix.GetHTMLSegmentNumber() == 2 ? orrelix.GetHTMLBody(1, mode) : CString();
 }
 
 std::set<CString> FindReferences(COrrelix& orrelix) {
@@ -115,6 +112,17 @@ CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mod
     if (std::none_of(effect.m_Files.begin(), effect.m_Files.end(), IsScript))
         AddCompatibilityScript(effect);
     return effect;
+}
+
+CString ScriptText(COrrelix& orrelix, EHtmlMode mode) {
+    return orrelix.GetHTMLSegmentNumber() == 2 ? orrelix.GetHTMLBody(1, mode) : CString();
+}
+
+std::string TitleFrom(std::string_view text) {
+    std::string title;
+    for (char byte : text)
+        title += isalnum(static_cast<unsigned char>(byte)) ? byte : '_';
+    return title.empty() || isdigit(static_cast<unsigned char>(title[0])) ? "v" + title : title;
 }
 
 } // namespace orrelix

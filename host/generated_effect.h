@@ -36,4 +36,10 @@ CConfigCheck OpenEffect(const std::filesystem::path& path, COrrelix& orrelix);
 // file.
 CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode);
 
+// The text that belongs into the page's head; empty for effects that have none of their own.
+CString ScriptText(COrrelix& orrelix, EHtmlMode mode);
+
+// A title that can stand in names of a page's script: letters, digits and "_", no digit first.
+std::string TitleFrom(std::string_view text);
+
 } // namespace orrelix

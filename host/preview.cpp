@@ -1,6 +1,7 @@
 #include "host/preview.h"
 
 #include "host/component_path.h"
+#include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/preview_page.h"
 #include "host/site.h"
@@ -55,6 +56,7 @@ private:
         m_Copies.Plan(effect, page, file.string());
         CPreviewPage preview{name, file.string(), effect};
         WarnOfInvalidText(preview);
+        WarnOfHarmfulTexts(file, m_Report);
         Write(name, EffectPage(preview));
         m_Pages.push_back(std::move(preview));
     }

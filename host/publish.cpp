@@ -1,6 +1,7 @@
 #include "host/publish.h"
 
 #include "host/component_path.h"
+#include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/marked_page.h"
 #include "host/site.h"
@@ -62,6 +63,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
     if (!after)
         return report.Error(pageName, problem + ". Nothing has been written");
     WarnOfCharacters(page, pageName, report);
+    WarnOfHarmfulTexts(options.m_File, report);
 
     // The files first: a page never refers to what isn't there yet.
     const fs::path pagePath =

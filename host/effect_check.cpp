@@ -1,0 +1,298 @@
+#include "host/effect_check.h"
+
+#include "host/generated_effect.h"
+#include "host/html_outline.h"
+#include "host/named_fields.h"
+#include "host/script_syntax.h"
+#include "host/text_encoding.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <vector>
+
+namespace orrelix {
+
+namespace {
+
+// A warning each; who has that many mistakes makes them everywhere.
+constexpr int kMostWarnings = 10;
+
+// The HTML parser takes long over elements in elements in elements, and the stack.
+constexpr std::ptrdiff_t kMostTags = 20'000;
+
+// What a text breaks, as ways of writing characters follow from it.
+enum class EDamage { kNone, kScript, kMarkup };
+
+bool IsLetter(char byte) {
+    return isalpha(static_cast<unsigned char>(byte)) || static_cast<unsigned char>(byte) >= 0x80;
+}
+
+bool IsSpecial(char byte) {
+    return !IsLetter(byte) && !isdigit(static_cast<unsigned char>(byte));
+}
+
+// The characters of a text that are neither letters nor digits, each once, in the order in which they come.
+std::vector<char> SpecialCharacters(const CString& text) {
+    std::vector<std::pair<CString::Position, char>> found;
+    for (char character = 1; character > 0 && character < 0x7F; ++character) {
+        const auto nFound = IsSpecial(character) ? text.Find(character) : -1;
+        if (nFound >= 0)
+            found.emplace_back(nFound, character);
+    }
+    std::sort(found.begin(), found.end());
+    std::vector<char> characters;
+    for (const auto& [nFound, character] : found)
+        characters.push_back(character);
+    return characters;
+}
+
+std::string Quoted(const std::string& text) {
+    const char quote = text.find('"') == std::string::npos ? '"' : '\'';
+    return quote + text + quote;
+}
+
+CString With(CString text, char character, const std::string& writing) {
+    text.Replace({&character, 1}, writing);
+    return text;
+}
+
+// A text of the same shape that breaks nothing wherever it stands: a number or a word.
+CString HarmlessText(const CString& text) {
+    if (text.IsEmpty())
+        return text;
+    if (!IsLetter(text[0]))
+        return "1";
+    CString harmless = text;
+    for (char character : SpecialCharacters(text))
+        harmless = With(harmless, character, "x");
+    return harmless;
+}
+
+// How a character may be written so that a browser shows the same one: what suits the damage first.
+std::vector<std::string> WritingsOf(char character, EDamage damage) {
+    const auto code = static_cast<unsigned char>(character);
+    const bool bQuote = character == '\'' || character == '"' || character == '\\';
+    std::vector<std::string> scripts = {fmt::format("\\x{:02X}", code)};
+    if (bQuote)
+        scripts.insert(scripts.begin(), std::string("\\") + character);
+    const std::string name = character == '"'   ? "quot"
+                             : character == '&' ? "amp"
+                             : character == '<' ? "lt"
+                             : character == '>' ? "gt"
+                                                : fmt::format("#{}", code);
+    std::vector<std::string> markups = {fmt::format("&{};", name), fmt::format("&amp;{};", name)};
+    auto& first = damage == EDamage::kScript ? scripts : markups;
+    const auto& second = damage == EDamage::kScript ? markups : scripts;
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+// One text of the author's: the title, a field, or a list's item.
+struct CAuthorText {
+    std::string m_Field; // empty for the title
+    size_t m_nItem;      // from 1; 0 for no item
+    bool m_bFileName;
+    CString m_Text;
+    CString m_Harmless;
+
+    std::string GetName() const {
+        return m_Field.empty() ? "the title"
+               : m_nItem == 0  ? m_Field
+                               : fmt::format("{} (item {})", m_Field, m_nItem);
+    }
+};
+
+// Tries texts out: the effect is generated with some of them as they are and harmless ones for the others, and
+// compared with that of harmless texts alone. So a text is told by what it does, wherever it stands.
+class CEffectCheck {
+public:
+    CEffectCheck(const std::filesystem::path& path, CReport& report)
+        : m_Name(path.string()), m_Report(report) {
+        OpenEffect(path, m_Orrelix);
+        const CString title = m_Orrelix.GetTitle();
+        m_Texts.push_back({"", 0, false, title, TitleFrom(title.View())});
+        for (const CNamedField& field : ListFields(*m_Orrelix.m_pGadget)) {
+            for (size_t i = 0; i < field.m_Values.size(); ++i)
+                m_Texts.push_back({field.m_Name, field.m_bList ? i + 1 : 0, field.m_bFileName,
+                                   field.m_Values[i], HarmlessText(field.m_Values[i])});
+        }
+    }
+
+    void Run() {
+        if (CountTags() > kMostTags)
+            return;
+        m_Whole = Generate(Harmless());
+        const EDamage damage = Judge(Range(0, m_Texts.size()));
+        if (damage == EDamage::kNone)
+            return;
+        FillHarmfulGaps();
+        WarnWithin(0, m_Texts.size());
+        if (m_nWarnings == 0)
+            Warn("its texts end what they stand in");
+    }
+
+private:
+    using CTexts = std::vector<CString>; // as m_Texts
+
+    std::ptrdiff_t CountTags() const {
+        std::ptrdiff_t nTags = 0;
+        for (const CAuthorText& text : m_Texts)
+            nTags += std::count(text.m_Text.View().begin(), text.m_Text.View().end(), '<');
+        return nTags;
+    }
+
+    CTexts Harmless() const { return Range(0, 0); }
+
+    // The author's texts from nBegin to nEnd, harmless ones for the others.
+    CTexts Range(size_t nBegin, size_t nEnd) const {
+        CTexts texts;
+        for (size_t i = 0; i < m_Texts.size(); ++i)
+            texts.push_back(i >= nBegin && i < nEnd ? m_Texts[i].m_Text : m_Texts[i].m_Harmless);
+        return texts;
+    }
+
+    std::vector<CHtmlElement> Generate(const CTexts& texts) {
+        m_Orrelix.SetTitle(texts[0]);
+        CFieldValues values;
+        for (size_t i = 1; i < texts.size(); ++i)
+            values[m_Texts[i].m_Field].push_back(texts[i]);
+        SetFields(*m_Orrelix.m_pGadget, values);
+        const CString html = ScriptText(m_Orrelix, kPublish) + m_Orrelix.GetHTMLBody(0, kPublish);
+        return OutlineOfHtml(ToUtf8(html.View()).m_Text);
+    }
+
+    bool IsDead(const CHtmlElement& element) {
+        return !std::all_of(element.m_Scripts.begin(), element.m_Scripts.end(),
+                            [this](const CHtmlScript& script) {
+                                return script.m_bHandler ? m_Syntax.IsHandler(script.m_Text)
+                                                         : m_Syntax.IsScript(script.m_Text);
+                            });
+    }
+
+    // Every element of the whole effect has to recur where it was, with a script that is one. Elements that the
+    // author's texts bring along lie in between and are his own business.
+    EDamage Judge(const CTexts& texts) {
+        const std::vector<CHtmlElement> elements = Generate(texts);
+        auto element = elements.begin();
+        for (const CHtmlElement& expected : m_Whole) {
+            element = std::find_if(element, elements.end(), [&](const CHtmlElement& other) {
+                return other.m_nKind == expected.m_nKind;
+            });
+            if (element == elements.end())
+                return EDamage::kMarkup;
+            if (IsDead(*element))
+                return EDamage::kScript;
+            ++element;
+        }
+        return EDamage::kNone;
+    }
+
+    EDamage JudgeOne(size_t nText, const CString& text) {
+        CTexts texts = Harmless();
+        texts[nText] = text;
+        return Judge(texts);
+    }
+
+    // A field that is empty where a script wants a number is harmful itself.
+    void FillHarmfulGaps() {
+        std::vector<size_t> gaps;
+        for (size_t i = 1; i < m_Texts.size(); ++i) {
+            if (m_Texts[i].m_Text.IsEmpty() && m_Texts[i].m_nItem == 0)
+                gaps.push_back(i);
+        }
+        if (Judge(Harmless()) != EDamage::kScript)
+            return;
+        for (size_t nGap : gaps)
+            m_Texts[nGap].m_Harmless = "1";
+        for (size_t nGap : gaps) {
+            if (JudgeOne(nGap, "") != EDamage::kScript)
+                m_Texts[nGap].m_Harmless = "";
+        }
+        m_Whole = Generate(Harmless());
+    }
+
+    // Halves the texts until the harmful ones are left.
+    void WarnWithin(size_t nBegin, size_t nEnd) {
+        if (m_nWarnings >= kMostWarnings || Judge(Range(nBegin, nEnd)) == EDamage::kNone)
+            return;
+        if (nEnd - nBegin == 1)
+            return WarnOf(nBegin);
+        const size_t nMiddle = nBegin + (nEnd - nBegin) / 2;
+        WarnWithin(nBegin, nMiddle);
+        WarnWithin(nMiddle, nEnd);
+    }
+
+    void WarnOf(size_t nText) {
+        const CAuthorText& text = m_Texts[nText];
+        const std::vector<char> harmful = HarmfulCharacters(nText);
+        for (char character : harmful)
+            Warn(fmt::format("{} has {} (character {}); {}", text.GetName(), Quoted({character}),
+                             CharactersUpTo(text.m_Text, character), Advice(nText, character, harmful)));
+        if (harmful.empty())
+            Warn(fmt::format("{} is {}; give it another value, such as {}", text.GetName(),
+                             Quoted(ToUtf8(text.m_Text.View()).m_Text),
+                             Quoted(ToUtf8(text.m_Harmless.View()).m_Text)));
+    }
+
+    void Warn(const std::string& problem) {
+        ++m_nWarnings;
+        m_Report.Warning(m_Name, "the effect breaks in a browser: " + problem);
+    }
+
+    // The one or two characters without which the text is harmless; none when it takes more.
+    std::vector<char> HarmfulCharacters(size_t nText) {
+        const CString& text = m_Texts[nText].m_Text;
+        const std::vector<char> characters = SpecialCharacters(text);
+        for (size_t nApart = 0; nApart < characters.size(); ++nApart) {
+            for (size_t i = 0; i + nApart < characters.size(); ++i) {
+                const char first = characters[i], second = characters[i + nApart];
+                if (JudgeOne(nText, With(With(text, first, "x"), second, "x")) != EDamage::kNone)
+                    continue;
+                return nApart == 0 ? std::vector{first} : std::vector{first, second};
+            }
+        }
+        return {};
+    }
+
+    std::string Advice(size_t nText, char character, const std::vector<char>& harmful) {
+        const CAuthorText& text = m_Texts[nText];
+        CString others = text.m_Text;
+        for (char other : harmful) {
+            if (other != character)
+                others = With(others, other, "x");
+        }
+        if (text.m_Field.empty())
+            return "titles are of letters, digits and \"_\"";
+        if (text.m_bFileName)
+            return "give the file a name without it";
+        for (const std::string& writing : WritingsOf(character, JudgeOne(nText, others))) {
+            if (JudgeOne(nText, With(others, character, writing)) == EDamage::kNone)
+                return fmt::format("write {} in its place", Quoted(writing));
+        }
+        return "leave it out";
+    }
+
+    // How far the first of a character is from the text's begin, counted from 1.
+    static size_t CharactersUpTo(const CString& text, char character) {
+        const std::string upTo = ToUtf8(text.Left(text.Find(character) + 1).View()).m_Text;
+        return static_cast<size_t>(std::count_if(upTo.begin(), upTo.end(), [](char byte) {
+            return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+        }));
+    }
+
+    const std::string m_Name;
+    CReport& m_Report;
+    COrrelix m_Orrelix;
+    CScriptSyntax m_Syntax;
+    std::vector<CAuthorText> m_Texts;
+    std::vector<CHtmlElement> m_Whole; // the effect of harmless texts
+    int m_nWarnings = 0;
+};
+
+} // namespace
+
+void WarnOfHarmfulTexts(const std::filesystem::path& path, CReport& report) {
+    CEffectCheck(path, report).Run();
+}
+
+} // namespace orrelix

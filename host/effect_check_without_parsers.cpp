@@ -1,0 +1,8 @@
+// Stands in for effect_check.cpp where the libraries are missing that parse HTML and scripts.
+#include "host/effect_check.h"
+
+namespace orrelix {
+
+void WarnOfHarmfulTexts(const std::filesystem::path&, CReport&) {}
+
+} // namespace orrelix
