@@ -81,8 +81,10 @@ std::vector<std::string> WritingsOf(char character, EDamage damage) {
                              : character == '>' ? "gt"
                                                 : fmt::format("#{}", code);
     std::vector<std::string> markups = {fmt::format("&{};", name), fmt::format("&amp;{};", name)};
-    auto& first = damage == EDamage::kScript ? scripts : markups;
-    const auto& second = damage == EDamage::kScript ? markups : scripts;
+    // A tag in a script's string is for HTML that the script writes.
+    const bool bScript = damage == EDamage::kScript && character != '<';
+    auto& first = bScript ? scripts : markups;
+    const auto& second = bScript ? markups : scripts;
     first.insert(first.end(), second.begin(), second.end());
     return first;
 }
@@ -227,11 +229,25 @@ private:
         const std::vector<char> harmful = HarmfulCharacters(nText);
         for (char character : harmful)
             Warn(fmt::format("{} has {} (character {}); {}", text.GetName(), Quoted({character}),
-                             CharactersUpTo(text.m_Text, character), Advice(nText, character, harmful)));
+                             CharactersUpTo(text.m_Text, HarmfulPosition(nText, character, harmful)),
+                             Advice(nText, character, harmful)));
         if (harmful.empty())
             Warn(fmt::format("{} is {}; give it another value, such as {}", text.GetName(),
                              Quoted(ToUtf8(text.m_Text.View()).m_Text),
-                             Quoted(ToUtf8(text.m_Harmless.View()).m_Text)));
+                             Quoted(ToUtf8(WorkingValue(nText).View()).m_Text)));
+    }
+
+    // What a new effect has in the field, if that works here.
+    CString WorkingValue(size_t nText) {
+        const CAuthorText& text = m_Texts[nText];
+        COrrelix fresh;
+        fresh.SelectType(m_Orrelix.m_Type);
+        for (const CNamedField& field : ListFields(*fresh.m_pGadget)) {
+            if (field.m_Name == text.m_Field && !field.m_bList &&
+                JudgeOne(nText, field.m_Values[0]) == EDamage::kNone)
+                return field.m_Values[0];
+        }
+        return text.m_Harmless;
     }
 
     void Warn(const std::string& problem) {
@@ -254,27 +270,43 @@ private:
         return {};
     }
 
-    std::string Advice(size_t nText, char character, const std::vector<char>& harmful) {
-        const CAuthorText& text = m_Texts[nText];
-        CString others = text.m_Text;
+    // The text with harmless letters for the harmful characters but one.
+    CString WithOthersHarmless(size_t nText, char character, const std::vector<char>& harmful) const {
+        CString text = m_Texts[nText].m_Text;
         for (char other : harmful) {
             if (other != character)
-                others = With(others, other, "x");
+                text = With(text, other, "x");
         }
-        if (text.m_Field.empty())
+        return text;
+    }
+
+    // The place of the character that does the harm alone, or else its first.
+    CString::Position HarmfulPosition(size_t nText, char character, const std::vector<char>& harmful) {
+        const CString text = WithOthersHarmless(nText, character, harmful);
+        const auto nFirst = text.Find(character);
+        for (auto nPlace = nFirst; nPlace >= 0; nPlace = text.Find(character, nPlace + 1)) {
+            if (JudgeOne(nText, text.Left(nPlace) + "x" + text.Mid(nPlace + 1)) == EDamage::kNone)
+                return nPlace;
+        }
+        return nFirst;
+    }
+
+    std::string Advice(size_t nText, char character, const std::vector<char>& harmful) {
+        if (m_Texts[nText].m_Field.empty())
             return "titles are of letters, digits and \"_\"";
-        if (text.m_bFileName)
+        if (m_Texts[nText].m_bFileName)
             return "give the file a name without it";
-        for (const std::string& writing : WritingsOf(character, JudgeOne(nText, others))) {
-            if (JudgeOne(nText, With(others, character, writing)) == EDamage::kNone)
+        const CString text = WithOthersHarmless(nText, character, harmful);
+        for (const std::string& writing : WritingsOf(character, JudgeOne(nText, text))) {
+            if (JudgeOne(nText, With(text, character, writing)) == EDamage::kNone)
                 return fmt::format("write {} in its place", Quoted(writing));
         }
         return "leave it out";
     }
 
-    // How far the first of a character is from the text's begin, counted from 1.
-    static size_t CharactersUpTo(const CString& text, char character) {
-        const std::string upTo = ToUtf8(text.Left(text.Find(character) + 1).View()).m_Text;
+    // How far a position of a text is from its begin, counted from 1.
+    static size_t CharactersUpTo(const CString& text, CString::Position nPosition) {
+        const std::string upTo = ToUtf8(text.Left(nPosition + 1).View()).m_Text;
         return static_cast<size_t>(std::count_if(upTo.begin(), upTo.end(), [](char byte) {
             return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
         }));

@@ -147,4 +147,18 @@ std::string_view FindAttribute(std::string_view attributes, std::string_view nam
     return {};
 }
 
+std::vector<std::string_view> TextsOfElements(std::string_view html, std::string_view name) {
+    std::vector<std::string_view> texts;
+    CHtmlScanner scanner(html);
+    CHtmlPiece piece;
+    while (scanner.Next(piece)) {
+        if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != name)
+            continue;
+        const size_t nBegin = piece.m_nEnd;
+        const size_t nEnd = scanner.Next(piece) ? piece.m_nBegin : html.size();
+        texts.push_back(html.substr(nBegin, nEnd - nBegin));
+    }
+    return texts;
+}
+
 } // namespace orrelix

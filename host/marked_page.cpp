@@ -21,6 +21,7 @@ struct CPlaces {
     std::vector<CRange> m_Marks;
     std::vector<CRange> m_Scripts; // what an earlier time put in, with its comments
     std::vector<CRange> m_Cursors;
+    std::vector<COtherEffect> m_Others;
     std::vector<std::string> m_OtherTitles; // of marks that aren't for this one
     std::optional<size_t> m_HeadBegin;
     std::optional<size_t> m_HeadEnd;
@@ -112,12 +113,13 @@ private:
                                          m_Title);
         const size_t nUnit = m_Text.GetUnitSize();
         CRange range{piece.m_nBegin * nUnit, piece.m_nEnd * nUnit};
+        const std::string title(
+            text.substr(comment->m_Title.m_nBegin, comment->m_Title.m_nEnd - comment->m_Title.m_nBegin));
         if (comment->m_Word == "vignel") {
             if (bOurs)
                 places.m_Marks.push_back(range);
             else
-                places.m_OtherTitles.emplace_back(text.substr(
-                    comment->m_Title.m_nBegin, comment->m_Title.m_nEnd - comment->m_Title.m_nBegin));
+                places.m_OtherTitles.push_back(title);
             return true;
         }
         // What stands between two comments of ours may hold anything and is passed over.
@@ -131,9 +133,12 @@ private:
         }
         range.m_nEnd = *end;
         m_Scanner.ContinueAt(*end / nUnit);
+        const bool bScript = comment->m_Word.View().starts_with("vignel script");
         if (bOurs)
-            (comment->m_Word.View().starts_with("vignel script") ? places.m_Scripts : places.m_Cursors)
-                .push_back(range);
+            (bScript ? places.m_Scripts : places.m_Cursors).push_back(range);
+        else if (!bScript)
+            places.m_Others.push_back(
+                {title, std::string(m_Outline.substr(piece.m_nEnd, *end / nUnit - piece.m_nEnd))});
         return true;
     }
 
@@ -222,6 +227,7 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
         problem = "has no head for the effect's script; put \"<head></head>\" at its beginning";
         return std::nullopt;
     }
+    m_Others = places.m_Others;
     const size_t nCursor = places.m_Marks.front().m_nEnd;
     std::vector<CEdit> edits = {{{nCursor, nCursor}, Enclose("cursor", title, cursor)}};
     for (const CRange& old : places.m_Cursors)
@@ -243,6 +249,8 @@ std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title
     const CConvertedText inPage = m_Text.ToPage(text);
     m_nUnfit += inPage.m_nUnfit;
     m_nInvalid += inPage.m_nInvalid;
+    for (std::string_view element : TextsOfElements(text, "script"))
+        m_nUnfitInScripts += m_Text.ToPage(element).m_nUnfit;
     for (int nNumber = 1;; ++nNumber) {
         const std::string comment =
             fmt::format("vignel {}{}: {} -->", pPosition, nNumber > 1 ? fmt::format(" {}", nNumber) : "",

@@ -18,8 +18,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orrelix {
+
+// What the page has of another effect at its mark, one byte for each unit of the page's encoding.
+struct COtherEffect {
+    std::string m_Title; // as the page has it
+    std::string m_Cursor;
+};
 
 class CMarkedPage {
 public:
@@ -35,13 +42,22 @@ public:
     const std::string& GetEncoding() const { return m_Text.GetEncoding(); }
     size_t GetUnfitCount() const { return m_nUnfit; }
     size_t GetInvalidCount() const { return m_nInvalid; }
+    // Those of the first number that stand in a script.
+    size_t GetUnfitInScriptsCount() const { return m_nUnfitInScripts; }
+
+    // The other effects that Place found.
+    const std::vector<COtherEffect>& GetOthers() const { return m_Others; }
+
+    const std::string& GetOutline() const { return m_Text.GetOutline(); }
 
 private:
     std::string Enclose(const char* pPosition, const std::string& title, std::string_view text);
 
     CPageText m_Text;
     size_t m_nUnfit = 0;
+    size_t m_nUnfitInScripts = 0;
     size_t m_nInvalid = 0;
+    std::vector<COtherEffect> m_Others;
 };
 
 } // namespace orrelix

@@ -4,6 +4,7 @@
 #include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/marked_page.h"
+#include "host/page_check.h"
 #include "host/site.h"
 #include "platform/files.h"
 
@@ -17,12 +18,38 @@ namespace fs = std::filesystem;
 namespace {
 
 void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CReport& report) {
+    const size_t nInScripts = page.GetUnfitInScriptsCount();
     if (page.GetUnfitCount() > 0)
-        report.Warning(subject,
-                       fmt::format("{} can't be written in the page's encoding, {}, and stand in it as "
-                                   "\"&#N;\"",
-                                   Counted(page.GetUnfitCount(), "character"), page.GetEncoding()));
+        report.Warning(
+            subject,
+            fmt::format("{} can't be written in the page's encoding, {}, and stand in it as \"&#N;\"{}",
+                        Counted(page.GetUnfitCount(), "character"), page.GetEncoding(),
+                        nInScripts == 0
+                            ? ""
+                            : fmt::format(", {} of them in a script, where that may be shown as it "
+                                          "stands; give the page UTF-8",
+                                          nInScripts)));
     report.WarnOfInvalidBytes(subject, page.GetInvalidCount());
+}
+
+void WarnOfSurroundings(const CMarkedPage& page, const CGeneratedEffect& effect, const std::string& subject,
+                        CReport& report) {
+    if (ForbidsInlineScripts(page.GetOutline()))
+        report.Warning(
+            subject, "its Content-Security-Policy forbids inline scripts: of the effect only what stands in "
+                     "the page itself will show; add 'unsafe-inline' to its script-src");
+    for (const COtherEffect& other : page.GetOthers()) {
+        const auto styles = DisputedStyles(effect.m_Cursor, other.m_Cursor);
+        if (styles.empty())
+            continue;
+        const bool bByTitle = styles[0].find(CString(effect.m_Title).MakeLower().View()) != std::string::npos;
+        report.Warning(subject,
+                       fmt::format("this effect and \"{}\" each say how {} looks, and the one further "
+                                   "down wins; {}",
+                                   other.m_Title, fmt::join(styles, ", "),
+                                   bByTitle ? "give one of them another title"
+                                            : "choose the same fonts and colours for both"));
+    }
 }
 
 // The page as it was when it was read is `before`.
@@ -63,6 +90,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
     if (!after)
         return report.Error(pageName, problem + ". Nothing has been written");
     WarnOfCharacters(page, pageName, report);
+    WarnOfSurroundings(page, effect, pageName, report);
     WarnOfHarmfulTexts(options.m_File, report);
 
     // The files first: a page never refers to what isn't there yet.
