@@ -1,12 +1,15 @@
-// Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs. A question is what a
+// Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs and after the one on which
+// desktops are tried. A question is what a
 // person does, the answer what changes on the screen then; "$ in" says in which dialog the person is from then on,
 // and the other verbs are in kVerbs. A walk begins with "$ edits", behind which stand parameters that the effect has
 // read ("DanceTextPara=,,,,,,0") and fields that aren't as they are at first ("m_Width=50%|m_Left="). Its last answer
 // is what the fields have become, and what of an effect its parameters give back otherwise. That Cancel in the place
-// of an effect's OK changes nothing is tried beside.
+// of an effect's OK changes nothing is tried beside. Those of tests/qt/walks are by keyboard, before windows alone: they
+// also say what has the keyboard, and what marks boxes have.
 #include "controls/hex_colour.h"
 #include "platform/paths.h"
 #include "tests/support/all_dialogs.h"
+#include "tests/support/everything_dialog.h"
 #include "tests/support/person_test.h"
 #include "tests/support/session.h"
 #include "tests/support/temporary_directory.h"
@@ -25,7 +28,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path kWalks = ORRELIX_SOURCE_DIR "/tests/dialogs/walks";
+const fs::path kTests = ORRELIX_SOURCE_DIR "/tests";
+
+struct CWalk {
+    fs::path m_File;
+    CTestedDialog m_Dialog;
+    bool m_bByKeys;
+};
 
 using CTexts = std::map<std::string, std::string>;
 
@@ -87,8 +96,10 @@ const struct {
     {"mixes", [](auto& person, auto& name, auto&) { person.MixesColour(ParseHexColour(name).value()); }},
     {"mixes nothing", [](auto& person, auto&, auto&) { person.CancelsColour(); }},
     {"key", [](auto& person, auto& name, auto&) { PressKey(person, name); }},
-    {"presses Enter", [](auto& person, auto&, auto&) { person.PressesEnter(); }},
-    {"presses Escape", [](auto& person, auto&, auto&) { person.PressesEscape(); }},
+    {"keeps the label of", [](auto& person, auto& name, auto&) { person.CancelsRenaming(name); }},
+    {"presses", [](auto& person, auto& name, auto&) { person.Presses(name); }},
+    {"goes to", [](auto& person, auto& name, auto&) { person.Focuses(name); }},
+    {"writes", [](auto& person, auto& name, auto&) { person.Writes(name); }},
     {"reads and closes", [](auto& person, auto& name, auto&) { person.Answers(name); }},
     {"refuses", [](auto& person, auto& name, auto&) { person.Answers(name, IDCANCEL); }},
     {"chooses file",
@@ -99,8 +110,10 @@ const struct {
     {"in", [](auto& person, auto& name, auto&) { person.In(name); }},
 };
 
-class Walk : public PersonTest, public testing::WithParamInterface<CTestedDialog> {
+class Walk : public PersonTest, public testing::WithParamInterface<CWalk> {
 protected:
+    const CTestedDialog& m_Dialog = GetParam().m_Dialog;
+
     // Puts the act into the script.
     void Add(const std::string& question) {
         const auto verb = std::find_if(std::rbegin(kVerbs), std::rend(kVerbs),
@@ -116,7 +129,7 @@ protected:
     // Runs the walk of these questions; each gets its answer.
     void Run(std::span<const std::string> questions, std::span<std::string> answers) {
         m_Person.m_OnStep = [this](CDialog& dialog, CPersonHands& hands) { Look(dialog, hands); };
-        m_Person.In(GetParam().m_pDescription().m_pTitle);
+        m_Person.In(m_Dialog.m_pDescription().m_pTitle);
         m_StepOf.clear();
         for (size_t i = 1; i < questions.size(); ++i) {
             Add(questions[i]);
@@ -132,7 +145,7 @@ protected:
         if (nResult != IDOK || !pEditing->Effect())
             return;
         answers.back() += ReadAgain(*pEditing->Effect(), after);
-        m_Person.In(GetParam().m_pDescription().m_pTitle);
+        m_Person.In(m_Dialog.m_pDescription().m_pTitle);
         for (size_t i = 1; i < questions.size(); ++i)
             Add(i + 1 < questions.size() ? questions[i] : "clicks Cancel");
         const std::unique_ptr<CEditing> pCancelled = Prepared(questions[0]);
@@ -145,7 +158,7 @@ protected:
 
 private:
     std::unique_ptr<CEditing> Prepared(const std::string& question) {
-        std::unique_ptr<CEditing> pEditing = GetParam().m_Edit();
+        std::unique_ptr<CEditing> pEditing = m_Dialog.m_Edit();
         CVignelConfig parameters;
         CTexts fields;
         for (const std::string& setting :
@@ -167,7 +180,7 @@ private:
     std::string ReadAgain(CDhtmlGadget& effect, const CTexts& fields) {
         CVignelConfig config;
         effect.WriteParameters(config);
-        const std::unique_ptr<CEditing> pLater = GetParam().m_Edit();
+        const std::unique_ptr<CEditing> pLater = m_Dialog.m_Edit();
         pLater->Effect()->ReadParameters(config, m_Images.Path());
         const std::string changes = Changes(fields, FieldsIn(*pLater));
         return changes.empty() ? "" : "read again:\n" + changes;
@@ -224,8 +237,10 @@ private:
         return Joined(rows);
     }
 
-    static CTexts ScreenOf(CDialog& dialog, CPersonHands& hands) {
+    CTexts ScreenOf(CDialog& dialog, CPersonHands& hands) const {
         CTexts screen;
+        if (GetParam().m_bByKeys)
+            screen["keyboard"] = hands.Focused().GetString();
         ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char* pGroup) {
             const CTarget target{dialog, control, dialog.Item<CControl>(control.m_nId)};
             std::string text;
@@ -244,9 +259,12 @@ private:
                 text = std::to_string(hands.PositionOf(target));
                 break;
             case ControlKind::Edit:
+                if (GetParam().m_bByKeys && !hands.TextBeside(target).IsEmpty())
+                    text = hands.TextBeside(target) + ": ";
+                [[fallthrough]];
             case ControlKind::ComboBox:
             case ControlKind::Static:
-                text = Escaped(hands.TextOf(target));
+                text += Escaped(hands.TextOf(target));
                 break;
             case ControlKind::Button:
                 text = Escaped(hands.TextBeside(target));
@@ -269,19 +287,31 @@ private:
     CString m_InFront;
 };
 
-std::vector<CTestedDialog> DialogsWithWalks() {
+std::vector<CWalk> Walks() {
+    using Everything = everything::CEverythingDlg;
     std::vector<CTestedDialog> dialogs = AllDialogs();
-    std::erase_if(dialogs, [](const CTestedDialog& dialog) {
-        return !fs::exists(kWalks / (std::string(dialog.m_pName) + ".txt"));
-    });
-    return dialogs;
+    dialogs.push_back(
+        {"everything", everything::Description,
+         OfMembers<Everything>(
+             {MEMBER(Everything, m_Text), MEMBER(Everything, m_Lines), MEMBER(Everything, m_Path),
+              MEMBER(Everything, m_Digits), MEMBER(Everything, m_Colour), MEMBER(Everything, m_Number),
+              MEMBER(Everything, m_Kind), MEMBER(Everything, m_Fixed), MEMBER(Everything, m_Log)})});
+    std::vector<CWalk> walks;
+    for (const bool bByKeys : {false, true}) {
+        for (const CTestedDialog& dialog : dialogs) {
+            const fs::path folder = kTests / (bByKeys ? "qt/walks" : "dialogs/walks");
+            const fs::path file = folder / (std::string(dialog.m_pName) + ".txt");
+            if (fs::exists(file) && (!bByKeys || HasKeyboard()))
+                walks.push_back({file, dialog, bByKeys});
+        }
+    }
+    return walks;
 }
 
 } // namespace
 
 TEST_P(Walk, ShowsAndLeavesWhatItSays) {
-    const fs::path file = kWalks / (std::string(GetParam().m_pName) + ".txt");
-    const std::vector<std::string> questions = QuestionsOf(file);
+    const std::vector<std::string> questions = QuestionsOf(GetParam().m_File);
     std::vector<std::string> answers(questions.size());
     for (size_t nBegin = 0, nEnd; nBegin < questions.size(); nBegin = nEnd) {
         nEnd = nBegin + 1;
@@ -290,7 +320,7 @@ TEST_P(Walk, ShowsAndLeavesWhatItSays) {
         Run(std::span(questions).subspan(nBegin, nEnd - nBegin),
             std::span(answers).subspan(nBegin, nEnd - nBegin));
     }
-    EXPECT_TRUE(GoesAsItStands(file, [&, n = size_t(0)](const std::string&) mutable {
+    EXPECT_TRUE(GoesAsItStands(GetParam().m_File, [&, n = size_t(0)](const std::string&) mutable {
         CString answer = answers[n++];
         for (const CString& image : {m_Image, WithSlashes(m_Image)})
             answer.Replace(image, "$IMAGE");
@@ -298,7 +328,8 @@ TEST_P(Walk, ShowsAndLeavesWhatItSays) {
     }));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Walk, testing::ValuesIn(DialogsWithWalks()),
-                         [](const auto& dialog) { return dialog.param.m_pName; });
+INSTANTIATE_TEST_SUITE_P(All, Walk, testing::ValuesIn(Walks()), [](const auto& walk) {
+    return std::string(walk.param.m_Dialog.m_pName) + (walk.param.m_bByKeys ? "_by_keys" : "");
+});
 
 } // namespace orrelix

@@ -7,4 +7,8 @@ std::unique_ptr<CPersonScript> MakePerson() {
     return std::make_unique<CQtPerson>();
 }
 
+bool HasKeyboard() {
+    return true;
+}
+
 } // namespace orrelix

@@ -238,12 +238,17 @@ void CQtPerson::Rename(const CTarget& target, const std::optional<CString>& text
     QTest::keyClick(pEditor, Qt::Key_Return);
 }
 
-void CQtPerson::PressEscape(CDialog&) {
-    QTest::keyClick(Window().focusWidget(), Qt::Key_Escape);
+void CQtPerson::Press(CDialog&, const CString& keys) {
+    const QKeySequence sequence(keys == "Escape" ? "Esc" : keys.GetString());
+    const Qt::KeyboardModifiers modifiers = sequence[0].keyboardModifiers();
+    const QWidget* pPopup = QApplication::activePopupWidget();
+    QTest::keyClick((pPopup ? *pPopup : Window()).focusWidget(), sequence[0].key(), modifiers);
+    if (modifiers & Qt::AltModifier)
+        QTest::qWait(200); // a button is seen to be pressed
 }
 
-void CQtPerson::PressEnter(CDialog&) {
-    QTest::keyClick(Window().focusWidget(), Qt::Key_Return);
+void CQtPerson::Write(const CString& text) {
+    QTest::keyClicks(Window().focusWidget(), ToQt(text));
 }
 
 void CQtPerson::MoveInPopup(CPoint point) {
@@ -267,7 +272,7 @@ CString CQtPerson::TextOf(const CTarget& target) {
     if (const auto* pLine = dynamic_cast<QLineEdit*>(&widget))
         return FromQt(pLine->text());
     if (const auto* pArea = dynamic_cast<QPlainTextEdit*>(&widget))
-        return LinesFromQt(pArea->toPlainText());
+        return LinesFromQt(pArea->document()->toRawText().replace(QChar::ParagraphSeparator, '\n'));
     if (const auto* pNumber = dynamic_cast<QAbstractSpinBox*>(&widget))
         return FromQt(pNumber->text());
     if (const auto* pCombo = dynamic_cast<QComboBox*>(&widget))
@@ -309,8 +314,14 @@ int CQtPerson::HotRowOf(const CTarget& target) {
     return -1;
 }
 
+// Of a box: what its mark says.
 CString CQtPerson::TextBeside(const CTarget& target) {
-    return FromQt(WidgetOf(target).accessibleDescription());
+    const QWidget& widget = WidgetOf(target);
+    const QList<QAction*> signs = widget.findChildren<QAction*>();
+    const bool bMarked = std::any_of(signs.begin(), signs.end(), [](const QAction* pSign) {
+        return pSign->isVisible() && !pSign->icon().isNull();
+    });
+    return FromQt(widget.accessibleDescription()) + (bMarked ? " (marked)" : "");
 }
 
 std::vector<int> CQtPerson::SelectedRowsOf(const CTarget& target) {

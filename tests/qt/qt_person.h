@@ -4,6 +4,7 @@
 
 #include "qt/dialog_window.h"
 #include "qt/qt_desktop.h"
+#include "qt/text.h"
 #include "tests/support/person_script.h"
 
 #include <QAbstractItemView>
@@ -31,8 +32,9 @@ public:
     void CloseList(const CTarget& target) override;
     void Move(const CTarget& target, int nPos) override;
     void Rename(const CTarget& target, const std::optional<CString>& text) override;
-    void PressEscape(CDialog& dialog) override;
-    void PressEnter(CDialog& dialog) override;
+    void Press(CDialog& dialog, const CString& keys) override;
+    void Focus(const CTarget& target) override { WidgetOf(target).setFocus(Qt::TabFocusReason); }
+    void Write(const CString& text) override;
     CPopupWindow* GetPopup() override { return m_pOpenPopup; }
     void MoveInPopup(CPoint point) override;
     void ReleaseInPopup(CPoint point) override;
@@ -44,6 +46,7 @@ public:
     std::vector<int> SelectedRowsOf(const CTarget& target) override;
     int HotRowOf(const CTarget& target) override;
     CString TextBeside(const CTarget& target) override;
+    CString Focused() override { return FromQt(Window().focusWidget()->accessibleName()); }
 
     // The window in front, which must be a dialog's.
     static CDialogWindow& Window();

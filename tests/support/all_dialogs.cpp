@@ -49,40 +49,6 @@ std::unique_ptr<CEditing> OfEffect() {
     return std::make_unique<CEffectEditing>();
 }
 
-#define MEMBER(dialog, member)                                                                               \
-    { #member, &dialog::member }
-
-// A dialog that edits members of its own, which its caller sets and on OK reads back.
-template <class TDialog>
-std::function<std::unique_ptr<CEditing>()>
-OfMembers(std::vector<std::pair<const char*, CString TDialog::*>> members) {
-    struct CMemberEditing : CEditing {
-        std::vector<CNamedText> Fields() override {
-            std::vector<CNamedText> fields;
-            for (size_t i = 0; i < m_Members.size(); ++i)
-                fields.push_back({m_Members[i].first, &m_Texts[i]});
-            return fields;
-        }
-        int Run() override {
-            TDialog dialog;
-            for (size_t i = 0; i < m_Members.size(); ++i)
-                dialog.*m_Members[i].second = m_Texts[i];
-            const int nResult = dialog.DoModal();
-            for (size_t i = 0; nResult == IDOK && i < m_Members.size(); ++i)
-                m_Texts[i] = dialog.*m_Members[i].second;
-            return nResult;
-        }
-        std::vector<std::pair<const char*, CString TDialog::*>> m_Members;
-        std::vector<CString> m_Texts;
-    };
-    return [members] {
-        auto pEditing = std::make_unique<CMemberEditing>();
-        pEditing->m_Members = members;
-        pEditing->m_Texts.resize(members.size());
-        return pEditing;
-    };
-}
-
 } // namespace
 
 const std::vector<CTestedDialog>& AllDialogs() {

@@ -1,4 +1,5 @@
-// A dialog with a control of each kind, a popup and a file dialog, on which desktops are tried.
+// A dialog with a control of each kind and a popup, on which desktops are tried. It writes down what it is told, where
+// all can read it, and a click on "More..." does what the box "Kind:" says: see kMore.
 #pragma once
 
 #include "toolkit/button.h"
@@ -11,9 +12,13 @@
 #include "toolkit/popup_window.h"
 #include "toolkit/slider_ctrl.h"
 
+#include <functional>
+#include <memory>
+#include <new>
+
 namespace orrelix {
 
-namespace promises {
+namespace everything {
 
 struct Id {
     enum : int {
@@ -43,8 +48,7 @@ inline const CDialogDescription& Description() {
                              Edit(Id::Path, "&Path:", STYLE_PATH), Edit(Id::Digits, "&Digits:", STYLE_DIGITS),
                              Number(Id::Number, "&Number:", 0, 50), Colour(Id::Colour, "&Colour:")}),
              ComboBox(Id::Kind, "&Kind:", {"red", "green", "blue"}, STYLE_SORTED),
-             ComboBox(Id::Fixed, "&Fixed:", {"", "one", {"\xd2\xbb", "Chinese \xe4\xb8\x80"}},
-                      STYLE_LIST_ONLY),
+             ComboBox(Id::Fixed, "&Fixed:", {"", "one", {"zh", "Chinese \xe4\xb8\x80"}}, STYLE_LIST_ONLY),
              Row({ListBox(Id::List, "L&ist:", STYLE_NONE),
                   ListView(Id::View, "&View:", STYLE_REPORT | STYLE_MULTIPLE_SELECTION | STYLE_EDIT_LABELS)}),
              Slider(Id::Level, "Level", "Low", "High", 0, 1000, 100),
@@ -53,10 +57,10 @@ inline const CDialogDescription& Description() {
     return description;
 }
 
-// A popup of two cells that gives its result to whoever opened it.
+// A popup of two cells that tells what becomes of it.
 class CPopup : public CPopupWindow {
 public:
-    explicit CPopup(CString& log) : m_Log(log) {}
+    explicit CPopup(std::function<void(const CString&)> log) : m_Log(std::move(log)) {}
 
     const CRect& GetWindowRect() const override { return m_Rect; }
     std::vector<CPopupCell> GetCells() const override {
@@ -66,31 +70,31 @@ public:
     void Draw(CCanvas& canvas) const override { canvas.FillRect({0, 0, 80, 30}, MakeColour(255, 0, 0)); }
     void OnMouseMove(CPersonKey, CPoint point) override {
         m_bRight = point.x >= 40;
-        m_Log += m_bRight ? ">" : "<";
+        m_Log(m_bRight ? "right" : "left");
         Invalidate();
     }
-    void OnLeftButtonUp(CPersonKey, CPoint) override { End("picked "); }
-    void OnKeyDown(CPersonKey, PopupKey key) override { End(key == PopupKey::Escape ? "escaped " : "key "); }
-    void OnDeactivate(CPersonKey) override { End("left "); }
+    void OnLeftButtonUp(CPersonKey, CPoint) override { End("picked"); }
+    void OnKeyDown(CPersonKey, PopupKey key) override { End(key == PopupKey::Escape ? "escaped" : "key"); }
+    void OnDeactivate(CPersonKey) override { End("abandoned"); }
     void OnClosed() override {
-        m_Log += "closed ";
+        m_Log("closed");
         delete this;
     }
 
 private:
     void End(const char* pHow) {
-        m_Log += pHow;
+        m_Log(pHow);
         GetDesktop().ClosePopup(*this);
     }
 
-    CString& m_Log;
+    const std::function<void(const CString&)> m_Log;
     bool m_bRight = false;
     CRect m_Rect = {120, 120, 200, 150};
 };
 
 class CPopupButton : public COwnerDrawnButton {
 public:
-    explicit CPopupButton(CString& log) : m_Log(log) {}
+    explicit CPopupButton(std::function<void(const CString&)> log) : m_Log(std::move(log)) {}
     CSize Measure(CSize size) override { return {size.cx, 20}; }
     void Draw(CCanvas& canvas, const CRect& rect, bool, bool) const override {
         canvas.FillRect(rect, MakeColour(0, 0, 255));
@@ -100,22 +104,33 @@ protected:
     void OnClick() override { GetDesktop().OpenPopup(*new CPopup(m_Log)); }
 
 private:
-    CString& m_Log;
+    const std::function<void(const CString&)> m_Log;
 };
 
-// A dialog with a control of each kind, which writes down what it is told.
+class CPathDialog : public CFileDialog {
+public:
+    CPathDialog() : CFileDialog("start.gif", "Images | *.gif;*.jpg ||") { AddEdit("Web Path:", "old/"); }
+    CString m_WebPath;
+
+protected:
+    void OnAddedEditChanged() override { m_WebPath = GetAddedEdit()->GetWindowText(); }
+};
+
 class CEverythingDlg : public CDialog {
 public:
-    CEverythingDlg() : CDialog(Description()), m_Button(m_Log) {
+    CEverythingDlg() : CDialog(Description()) {
         Attach(PickerOf(Id::Colour), m_Button);
-        ShowBeside(Id::More, [this] { return m_Log; });
+        ShowBeside(Id::More, [this] { return Item<CControl>(Id::Kind).GetWindowText(); });
+        const auto log = [this](int nId, Notification notification, const char* pWord) {
+            SetHandler(nId, notification, [this, pWord] { Log(pWord); });
+        };
+        log(Id::Text, Notification::Changed, "text");
+        log(Id::Number, Notification::Changed, "number");
+        log(Id::Kind, Notification::ListClosed, "list closed");
+        log(Id::List, Notification::SelectionChanged, "selected");
+        log(Id::List, Notification::DoubleClicked, "double");
+        log(Id::View, Notification::Clicked, "view");
         SetHandlers<CEverythingDlg>({
-            {Id::Text, Notification::Changed, &CEverythingDlg::OnText},
-            {Id::Number, Notification::Changed, &CEverythingDlg::OnNumber},
-            {Id::Kind, Notification::ListClosed, &CEverythingDlg::OnListClosed},
-            {Id::List, Notification::SelectionChanged, &CEverythingDlg::OnSelected},
-            {Id::List, Notification::DoubleClicked, &CEverythingDlg::OnDoubleClicked},
-            {Id::View, Notification::Clicked, &CEverythingDlg::OnViewClicked},
             {Id::View, Notification::LabelEditEnded, &CEverythingDlg::OnLabel},
             {Id::Add, Notification::Clicked, &CEverythingDlg::OnAdd},
             {Id::More, Notification::Clicked, &CEverythingDlg::OnMore},
@@ -129,12 +144,19 @@ public:
     CString m_Colour;
     CString m_Number = "12";
     CString m_Kind = "green";
-    int m_nFixed = 1;
+    CString m_Fixed = "one";
     int m_nRows = 3;
     CString m_Log;
-    std::function<void(CEverythingDlg&)> m_OnMore = [](CEverythingDlg&) {};
+    CPathDialog m_Files;
+    std::unique_ptr<CEverythingDlg> m_pInner;
 
     using CDialog::Enable;
+
+    void Log(const CString& word) {
+        m_Log += (m_Log.IsEmpty() ? "" : ", ") + word;
+        if (CControl* pStatus = FindItem(Id::Status)) // not of a popup that outlives the window
+            pStatus->SetWindowText(m_Log);
+    }
 
 protected:
     void DoDataExchange(CDataExchange& exchange) override {
@@ -145,7 +167,7 @@ protected:
         exchange.Text(Id::Colour, m_Colour);
         exchange.Text(Id::Number, m_Number);
         exchange.Text(Id::Kind, m_Kind);
-        exchange.Index(Id::Fixed, m_nFixed);
+        exchange.Text(Id::Fixed, m_Fixed);
     }
     void OnInitDialog() override {
         CListCtrl& view = Item<CListCtrl>(Id::View);
@@ -162,15 +184,9 @@ protected:
     }
 
 private:
-    void OnText() { m_Log += "text "; }
-    void OnNumber() { m_Log += "number "; }
-    void OnListClosed() { m_Log += "list closed "; }
-    void OnSelected() { m_Log += "selected "; }
-    void OnDoubleClicked() { m_Log += "double "; }
-    void OnViewClicked() { m_Log += "view "; }
     void OnLabel() {
         const CListCtrl::CLabelEdit& edit = Item<CListCtrl>(Id::View).GetLabelEdit();
-        m_Log += edit.m_bCancelled ? "label kept " : "label edited ";
+        Log(edit.m_bCancelled ? "label kept" : "label edited");
         if (!edit.m_bCancelled)
             Item<CListCtrl>(Id::View).SetItemText(edit.m_nRow, 0, edit.m_Text);
     }
@@ -178,25 +194,70 @@ private:
         UpdateData(true);
         Item<CListBox>(Id::List).AddString(m_Text);
         Item<CListCtrl>(Id::View).EditLabel(1);
-        Item<CControl>(Id::Status).SetWindowText("added " + m_Text);
+        Log("added " + m_Text);
         m_Text = "";
         UpdateData(false);
         Enable(Id::Add, false);
     }
-    void OnMore() { m_OnMore(*this); }
+    void OnMore();
 
-    CPopupButton m_Button;
+    CPopupButton m_Button{[this](const CString& word) { Log(word); }};
 };
 
-class CPathDialog : public CFileDialog {
-public:
-    CPathDialog() : CFileDialog("start.gif", "Images | *.gif;*.jpg ||") { AddEdit("Web Path:", "old/"); }
-    CString m_WebPath;
+inline void RunAgain(CEverythingDlg& dialog) {
+    if (!dialog.m_pInner)
+        dialog.m_pInner = std::make_unique<CEverythingDlg>();
+    const int nResult = dialog.m_pInner->DoModal();
+    dialog.Log(nResult == IDOK ? dialog.m_pInner->m_Text : "cancelled");
+}
 
-protected:
-    void OnAddedEditChanged() override { m_WebPath = GetAddedEdit()->GetWindowText(); }
+inline void ChooseFile(CEverythingDlg& dialog) {
+    const int nResult = dialog.m_Files.DoModal();
+    dialog.Log(nResult == IDOK ? dialog.m_Files.GetPathName() : "none");
+    dialog.Log(dialog.m_Files.m_WebPath);
+}
+
+inline void MixColour(CEverythingDlg& dialog) {
+    CColour colour = MakeColour(1, 2, 3);
+    const bool bMixed = GetDesktop().RunColourDialog(colour);
+    dialog.Log((bMixed ? "mixed " : "not ") + ToText(static_cast<long long>(colour)));
+}
+
+inline void ReplaceFirstRow(CEverythingDlg& dialog) {
+    dialog.Item<CListCtrl>(Id::View).DeleteItem(0);
+    dialog.Item<CListCtrl>(Id::View).InsertItem(0, "top");
+}
+
+inline const struct {
+    const char* m_pWord;
+    void (*m_pDo)(CEverythingDlg&);
+} kMore[] = {
+    {"again", RunAgain}, // the same inner dialog each time
+    {"file", ChooseFile},
+    {"colour", MixColour},
+    {"top", ReplaceFirstRow},
+    {"ask",
+     [](auto& dialog) {
+         dialog.Log(AfxMessageBox("Delete?", MessageBoxKind::OkCancel) == IDOK ? "yes" : "no");
+     }},
+    {"warn",
+     [](auto& dialog) {
+         dialog.Log(AfxMessageBox("Gone!", MessageBoxKind::Warning) == IDOK ? "yes" : "no");
+     }},
+    {"enable", [](auto& dialog) { dialog.Enable(Id::Add, true); }},
+    {"hot", [](auto& dialog) { dialog.template Item<CListCtrl>(Id::View).SetHotItem(1); }},
+    {"delete", [](auto& dialog) { dialog.template Item<CListBox>(Id::List).DeleteString(1); }},
+    {"throw", [](auto&) { throw std::bad_alloc(); }},
 };
 
-} // namespace promises
+inline void CEverythingDlg::OnMore() {
+    for (const auto& [pWord, pDo] : kMore) {
+        if (Item<CControl>(Id::Kind).GetWindowText() == pWord)
+            return pDo(*this);
+    }
+    Log("more");
+}
+
+} // namespace everything
 
 } // namespace orrelix

@@ -14,6 +14,8 @@ testing::AssertionResult EqualsExpected(const std::filesystem::path& file, std::
         return testing::AssertionSuccess();
 
     const std::filesystem::path newFile = file.string() + ".new";
+    std::error_code ignored; // a folder that can't be made shows as a file that can't be read
+    std::filesystem::create_directories(newFile.parent_path(), ignored);
     std::ofstream(newFile, std::ios::binary) << text;
     const auto parted = std::mismatch(expected.begin(), expected.end(), text.begin(), text.end());
     const auto nPosition = static_cast<size_t>(parted.first - expected.begin());

@@ -8,4 +8,8 @@ std::unique_ptr<CPersonScript> MakePerson() {
     return std::make_unique<CScriptedPerson>();
 }
 
+bool HasKeyboard() {
+    return false;
+}
+
 } // namespace orrelix

@@ -27,6 +27,14 @@ CPoint MiddleOf(const CRect& rect) {
 
 } // namespace
 
+void CPersonHands::Focus(const CTarget& target) {
+    ADD_FAILURE() << "no keyboard can be led to " << AccessibleNameOf(target.m_Description);
+}
+
+void CPersonHands::Write(const CString& text) {
+    ADD_FAILURE() << "there is no keyboard to write " << text;
+}
+
 const CControlDescription* FindByName(const CDialogDescription& description, const CString& name,
                                       const std::vector<ControlKind>& kinds) {
     const CControlDescription* pAlone = nullptr; // what the name means without a group
@@ -106,12 +114,13 @@ CPersonScript& CPersonScript::Picks(const CString& name, const CString& choice) 
                   });
 }
 
-CPersonScript& CPersonScript::PressesEscape() {
-    return AddAct("presses Escape", [](CDialog& dialog, CPersonHands& hands) { hands.PressEscape(dialog); });
+CPersonScript& CPersonScript::Presses(const CString& keys) {
+    return AddAct("presses " + keys,
+                  [keys](CDialog& dialog, CPersonHands& hands) { hands.Press(dialog, keys); });
 }
 
-CPersonScript& CPersonScript::PressesEnter() {
-    return AddAct("presses Enter", [](CDialog& dialog, CPersonHands& hands) { hands.PressEnter(dialog); });
+CPersonScript& CPersonScript::Writes(const CString& text) {
+    return AddAct("writes " + text, [text](CDialog&, CPersonHands& hands) { hands.Write(text); });
 }
 
 CPersonScript& CPersonScript::AddPopupAct(const CString& words,

@@ -48,8 +48,11 @@ public:
     virtual void Move(const CTarget& target, int nPos) = 0;
     // Ends the editing of a label that is under way; no text: cancels it.
     virtual void Rename(const CTarget& target, const std::optional<CString>& text) = 0;
-    virtual void PressEscape(CDialog& dialog) = 0;
-    virtual void PressEnter(CDialog& dialog) = 0;
+    // Keys by name, such as "Escape" and "Enter", which every desktop knows, or "Ctrl+A".
+    virtual void Press(CDialog& dialog, const CString& keys) = 0;
+    // With windows alone: leads the keyboard to the control, and types into what has it.
+    virtual void Focus(const CTarget& target);
+    virtual void Write(const CString& text);
 
     // The popup that is open, or null.
     virtual CPopupWindow* GetPopup() = 0;
@@ -63,8 +66,10 @@ public:
     // Rows of a list or combo box; the cells of a row with columns are joined by " | ".
     virtual std::vector<CString> RowsOf(const CTarget& target) = 0;
     virtual std::vector<int> SelectedRowsOf(const CTarget& target) = 0;
-    virtual int HotRowOf(const CTarget& target) = 0;
+    virtual int HotRowOf(const CTarget& target) = 0; // -1: no row is hot
     virtual CString TextBeside(const CTarget& target) = 0;
+    // The name of what has the keyboard; empty where there are no windows.
+    virtual CString Focused() { return {}; }
 };
 
 class CPersonScript {
@@ -110,8 +115,12 @@ public:
         return Do("cancels the renaming in", name, {ControlKind::ListCtrl}, &CPersonHands::Rename,
                   std::nullopt);
     }
-    CPersonScript& PressesEscape();
-    CPersonScript& PressesEnter();
+    CPersonScript& Presses(const CString& keys);
+    CPersonScript& PressesEscape() { return Presses("Escape"); }
+    CPersonScript& Focuses(const CString& name) {
+        return Do("goes to", name, kFocusable, &CPersonHands::Focus);
+    }
+    CPersonScript& Writes(const CString& text);
 
     // The colour button beside the edit box of this name, and what happens in its popup.
     CPersonScript& OpensColours(const CString& name) {
@@ -132,26 +141,12 @@ public:
     CPersonScript& Shows(const CString& name, const CString& text) {
         return Sees("reads", name, kTexts, &CPersonHands::TextOf, text);
     }
-    CPersonScript& ShowsPosition(const CString& name, int nPos) {
-        return Sees("looks at", name, {ControlKind::Slider}, &CPersonHands::PositionOf, nPos);
-    }
     CPersonScript& ShowsRows(const CString& name, const std::vector<CString>& rows) {
         return Sees("reads the rows of", name, kRows, &CPersonHands::RowsOf, rows);
     }
     CPersonScript& ShowsSelected(const CString& name, const std::vector<int>& rows) {
         return Sees("looks at the selection of", name, kRows, &CPersonHands::SelectedRowsOf, rows);
     }
-    // -1: no row is hot.
-    CPersonScript& ShowsHotRow(const CString& name, int nRow) {
-        return Sees("looks at the hot row of", name, {ControlKind::ListCtrl}, &CPersonHands::HotRowOf, nRow);
-    }
-    CPersonScript& ShowsBeside(const CString& name, const CString& text) {
-        return Sees("reads beside", name, {ControlKind::Button}, &CPersonHands::TextBeside, text);
-    }
-    CPersonScript& ShowsEnabled(const CString& name, bool bEnabled = true) {
-        return Sees("looks at", name, kAll, &CPersonHands::IsEnabled, bEnabled);
-    }
-    CPersonScript& ShowsDisabled(const CString& name) { return ShowsEnabled(name, false); }
 
     // Anything else, done when the steps before have been.
     CPersonScript& Then(std::function<void(CDialog&)> action);
@@ -194,9 +189,9 @@ private:
     static inline const Kinds kRows = {ControlKind::ListBox, ControlKind::ListCtrl, ControlKind::ComboBox};
     static inline const Kinds kTexts = {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static,
                                         ControlKind::Button};
-    static inline const Kinds kAll = {ControlKind::Static,   ControlKind::Edit,    ControlKind::Button,
-                                      ControlKind::ComboBox, ControlKind::ListBox, ControlKind::ListCtrl,
-                                      ControlKind::Slider};
+    static inline const Kinds kFocusable = {ControlKind::Edit,    ControlKind::Button,
+                                            ControlKind::Slider,  ControlKind::ComboBox,
+                                            ControlKind::ListBox, ControlKind::ListCtrl};
 
     using Act = std::function<void(const CTarget&, CPersonHands&)>;
     CPersonScript& Add(CStep step);

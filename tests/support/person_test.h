@@ -16,19 +16,14 @@ namespace orrelix {
 // The script that it makes is played before the desktop of this test program, which is in force until the
 // script goes.
 std::unique_ptr<CPersonScript> MakePerson();
+// Whether that person has windows with a keyboard.
+bool HasKeyboard();
 
 class PersonTest : public testing::Test {
 protected:
     const CColourSettings m_Settings;
     const std::unique_ptr<CPersonScript> m_pPerson = MakePerson();
     CPersonScript& m_Person = *m_pPerson;
-
-    // Which of the buttons "Move Up" and "Move Down" can be pressed: "up", "down", "both" or "none". The prefix
-    // names their group.
-    void ShowsMoves(const std::string& moves, const CString& prefix = "") {
-        m_Person.ShowsEnabled(prefix + "Move Up", moves == "up" || moves == "both");
-        m_Person.ShowsEnabled(prefix + "Move Down", moves == "down" || moves == "both");
-    }
 };
 
 } // namespace orrelix

@@ -8,6 +8,7 @@
 #include "toolkit/list_ctrl.h"
 #include "toolkit/slider_ctrl.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace orrelix {
@@ -100,7 +101,8 @@ void CScriptedPerson::Type(const CTarget& target, const CString& text) {
 }
 
 void CScriptedPerson::Turn(const CTarget& target, int nSteps) {
-    As<CSpinButtonCtrl>(target)->PersonTurns(Person(), nSteps);
+    for (int nStep = 0; nStep < std::abs(nSteps); ++nStep)
+        As<CSpinButtonCtrl>(target)->PersonTurns(Person(), nSteps > 0 ? 1 : -1);
 }
 
 void CScriptedPerson::Click(const CTarget& target) {
@@ -108,10 +110,10 @@ void CScriptedPerson::Click(const CTarget& target) {
 }
 
 void CScriptedPerson::SelectRows(const CTarget& target, const std::vector<int>& rows) {
-    if (auto* pList = As<CListCtrl>(target))
-        pList->PersonSelects(Person(), rows, rows.empty() ? -1 : rows.back());
-    else
-        As<CListBox>(target)->PersonSelects(Person(), rows.at(0));
+    if (auto* pBox = As<CListBox>(target))
+        return pBox->PersonSelects(Person(), rows.at(0));
+    for (size_t nRow = 0; nRow < rows.size(); ++nRow) // one after the other
+        As<CListCtrl>(target)->PersonSelects(Person(), {rows.begin(), rows.begin() + nRow + 1}, rows[nRow]);
 }
 
 void CScriptedPerson::DoubleClick(const CTarget& target, int nRow) {
@@ -134,7 +136,10 @@ void CScriptedPerson::Rename(const CTarget& target, const std::optional<CString>
     As<CListCtrl>(target)->PersonEndsLabelEdit(Person(), text.value_or(""), !text);
 }
 
-void CScriptedPerson::PressEnter(CDialog& dialog) {
+void CScriptedPerson::Press(CDialog& dialog, const CString& keys) {
+    if (keys == "Escape")
+        return dialog.PersonCloses(Person());
+    ASSERT_EQ(keys, "Enter");
     ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
         if (control.Has(STYLE_DEFAULT))
             dialog.Item<CButton>(control.m_nId).PersonClicks(Person());

@@ -41,8 +41,7 @@ public:
     void CloseList(const CTarget& target) override;
     void Move(const CTarget& target, int nPos) override;
     void Rename(const CTarget& target, const std::optional<CString>& text) override;
-    void PressEscape(CDialog& dialog) override { dialog.PersonCloses(Person()); }
-    void PressEnter(CDialog& dialog) override;
+    void Press(CDialog& dialog, const CString& keys) override;
     CPopupWindow* GetPopup() override { return m_pPopup; }
     void MoveInPopup(CPoint point) override { m_pPopup->OnMouseMove(Person(), point); }
     void ReleaseInPopup(CPoint point) override { m_pPopup->OnLeftButtonUp(Person(), point); }

@@ -1,15 +1,10 @@
-// The scripted person keeps the promises of a desktop, and fails a test whose steps don't fit the screen.
-#include "tests/support/desktop_promises.h"
+// The scripted person fails a test whose steps don't fit the screen.
+#include "tests/support/everything_dialog.h"
 #include "tests/support/scripted_person.h"
 
 #include <gtest/gtest-spi.h>
 
 namespace orrelix {
-
-INSTANTIATE_TEST_SUITE_P(ScriptedPerson, DesktopPromises,
-                         testing::Values([]() -> std::unique_ptr<CPersonScript> {
-                             return std::make_unique<CScriptedPerson>();
-                         }));
 
 namespace {
 
@@ -18,8 +13,8 @@ template <class TSteps>
 int RunWith(TSteps steps) {
     CScriptedPerson person;
     steps(person.In("Everything"));
-    promises::CEverythingDlg dialog;
-    dialog.m_OnMore = [](promises::CEverythingDlg&) { AfxMessageBox("boo"); };
+    everything::CEverythingDlg dialog;
+    dialog.m_Kind = "warn";
     return dialog.DoModal();
 }
 
@@ -38,15 +33,15 @@ TEST(ScriptedPerson, AStepThatDoesNotFitTheScreenFailsTheTestAndClosesTheDialog)
 }
 
 TEST(ScriptedPerson, WhatComesUpUnexpectedlyFailsTheTest) {
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Clicks("More...").Clicks("OK"); }), "boo");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Answers("boo").Clicks("OK"); }), "Everything");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Clicks("More...").Clicks("OK"); }), "Gone!");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Answers("Gone!").Clicks("OK"); }), "Everything");
     EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.OpensColours("Colour:").Clicks("OK"); }),
                             "behind the popup");
 }
 
 TEST(Desktop, WhereNobodyIsEveryDialogEndsInCancel) {
     SetDesktop(nullptr);
-    promises::CEverythingDlg dialog;
+    everything::CEverythingDlg dialog;
     CFileDialog files("a.gif", "");
     CColour colour = 7;
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
