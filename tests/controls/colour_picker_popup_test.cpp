@@ -1,49 +1,53 @@
+// The popup of colours, as a session. A question is what surrounds the popup, which comes up then, and what happens in
+// it, with ";" between:
+//
+//     start HEX    edge PIXELS    button LEFT,TOP,RIGHT,BOTTOM    screen LEFT,TOP,RIGHT,BOTTOM
+//     box TEXT     of the box for any colour; without TEXT there is none
+//     at WHAT      the pointer moves to a cell's middle, to "box", to "none", or to X,Y
+//     release WHAT the mouse button there
+//     a key, what becomes of the colour dialog ("mixes HEX", "mixes nothing"), "parent goes"
+//
+// The answer has a line for the window and one for each of these: what is marked then, the messages to the parent, and
+// whether the popup is closed.
 #include "controls/colour_picker_popup.h"
 #include "controls/hex_colour.h"
 #include "tests/support/colour_settings.h"
 #include "tests/support/scripted_person.h"
+#include "tests/support/session.h"
 
-#include <gtest/gtest.h>
+#include <cstdio>
+#include <sstream>
 
 namespace orrelix {
 
 namespace {
 
-constexpr int kNone = CColourPickerPopup::kNone;
 constexpr int kBox = CColourPickerPopup::kCustomBox;
-constexpr CRect kButton{100, 100, 160, 120};
+constexpr int kNone = CColourPickerPopup::kNone;
 
 // A person at a popup; the window goes when the person does, as late as a desktop may let it go.
 class CPersonAtPopup : public CScriptedPerson, private CColourPopupParent {
 public:
-    explicit CPersonAtPopup(const CString& start = "123456", const CString& customText = "More Colors...",
-                            const CRect& button = kButton, int nEdge = 2,
-                            const CRect& screen = {0, 0, 1024, 768})
-        : m_nEdge(nEdge) {
-        m_Screen = screen;
-        m_pPopup = new CColourPickerPopup(*this, button, ParseHexColour(start).value(), customText, "");
-        OpenPopup(*m_pPopup);
-    }
     ~CPersonAtPopup() override {
         m_pPopup->OnDeactivate(Person());
         m_pPopup->OnClosed();
     }
 
-    CPoint MiddleOf(int nSelection) const {
-        if (nSelection == kNone)
-            return {0, 0};
-        const CRect rect = nSelection == kBox
-                               ? m_pPopup->GetCustomRect()
-                               : m_pPopup->GetCells().at(static_cast<size_t>(nSelection)).m_Rect;
-        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-    }
-    void MoveTo(int nSelection) { MoveInPopup(MiddleOf(nSelection)); }
-    void ActAll() {
-        MoveTo(3);
-        for (PopupKey key : {PopupKey::Down, PopupKey::Return, PopupKey::Escape})
-            PressInPopup(key);
-        ReleaseInPopup({-1, -1});
-        m_pPopup->OnDeactivate(Person());
+    std::string Play(const std::string& question) {
+        std::istringstream parts(question);
+        std::string text;
+        for (std::string part; std::getline(parts >> std::ws, part, ';');) {
+            const size_t nBlank = std::min(part.find(' '), part.size());
+            const std::string word = part.substr(0, nBlank);
+            const std::string rest = part.substr(std::min(nBlank + 1, part.size()));
+            if (!m_pPopup && Surround(word, rest))
+                continue;
+            if (!m_pPopup)
+                text += Open();
+            Act(word, rest);
+            text += part + ": " + State() + "\n";
+        }
+        return (m_pPopup ? text : Open()) + Afterwards();
     }
 
     CThemeMetrics GetMetrics() const override { return {{m_nEdge, m_nEdge}, {16, 16}}; }
@@ -51,152 +55,107 @@ public:
         ActAll(); // the popup takes nothing meanwhile
         return CScriptedPerson::RunColourDialog(colour);
     }
-    void ClosePopup(CPopupWindow& popup) override { m_bClosed = m_pPopup == &popup && !m_bClosed; }
-
-    CColourPickerPopup* m_pPopup;
-    bool m_bClosed = false;
-    CString m_Log; // of the messages
-
-private:
-    void OnColourMessage(ColourMessage message, CColour colour) override {
-        m_Log += ToText(message) + " " + HexText(colour) + " ";
+    void ClosePopup(CPopupWindow& popup) override {
+        EXPECT_EQ(&popup, m_pPopup);
+        m_Log += ", closed";
+        m_bClosed = true;
     }
 
-    int m_nEdge;
+private:
+    static CRect RectOf(const std::string& text) {
+        CRect rect;
+        EXPECT_EQ(sscanf(text.c_str(), "%d,%d,%d,%d", &rect.left, &rect.top, &rect.right, &rect.bottom), 4);
+        return rect;
+    }
+
+    bool Surround(const std::string& word, const std::string& rest) {
+        if (word == "start")
+            m_Start = rest;
+        else if (word == "box")
+            m_BoxText = rest;
+        else if (word == "edge")
+            m_nEdge = ToInteger(rest);
+        else if (word == "button")
+            m_Button = RectOf(rest);
+        else if (word == "screen")
+            m_Screen = RectOf(rest);
+        else
+            return false;
+        return true;
+    }
+
+    std::string Open() {
+        m_pPopup = new CColourPickerPopup(*this, m_Button, ParseHexColour(m_Start).value(), m_BoxText, "");
+        OpenPopup(*m_pPopup);
+        const auto [nLeft, nTop, nRight, nBottom] = m_pPopup->GetWindowRect();
+        std::ostringstream text;
+        text << "window " << nLeft << "," << nTop << "," << nRight << "," << nBottom << ", chosen "
+             << Named(m_pPopup->GetChosenSel()) << "\n";
+        return text.str();
+    }
+
+    CPoint PlaceOf(const std::string& what) const {
+        CPoint point{0, 0};
+        if (what == "none" || sscanf(what.c_str(), "%d,%d", &point.x, &point.y) == 2)
+            return point;
+        const CRect rect =
+            what == "box" ? m_pPopup->GetCustomRect() : m_pPopup->GetCells().at(std::stoul(what)).m_Rect;
+        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    }
+
+    void Act(const std::string& word, const std::string& rest) {
+        if (word == "at")
+            MoveInPopup(PlaceOf(rest));
+        else if (word == "release")
+            ReleaseInPopup(PlaceOf(rest));
+        else if (word == "parent")
+            m_pPopup->Abandon();
+        else if (word == "mixes")
+            Does("mixes " + rest);
+        else
+            PressInPopup(PopupKeyNamed(word));
+    }
+
+    void ActAll() {
+        MoveInPopup(PlaceOf("3"));
+        for (PopupKey key : {PopupKey::Down, PopupKey::Return, PopupKey::Escape})
+            PressInPopup(key);
+        ReleaseInPopup({-1, -1});
+        m_pPopup->OnDeactivate(Person());
+    }
+
+    static std::string Named(int nSelection) {
+        return nSelection == kBox ? "box" : nSelection == kNone ? "none" : std::to_string(nSelection);
+    }
+    std::string State() { return Named(m_pPopup->GetCurrentSel()) + std::exchange(m_Log, {}); }
+
+    // Before the window is gone, a popup that is closed takes nothing.
+    std::string Afterwards() {
+        if (!m_bClosed)
+            return "";
+        ActAll();
+        return m_Log.empty() ? "" : "afterwards" + m_Log + "\n";
+    }
+
+    void OnColourMessage(ColourMessage message, CColour colour) override {
+        m_Log += ", " + std::to_string(message) + " " + HexText(colour).GetString();
+    }
+
+    CString m_Start = "123456";
+    CString m_BoxText = "More Colors...";
+    CRect m_Button{100, 100, 160, 120};
+    int m_nEdge = 2;
+    CColourPickerPopup* m_pPopup = nullptr;
+    std::string m_Log;
+    bool m_bClosed = false;
     CColourSettings m_Settings;
 };
 
 } // namespace
 
-TEST(ColourPickerPopup, KeysGoFromCellToCellAndThroughTheBox) {
-    struct CCase {
-        int m_nFrom;
-        PopupKey m_Key;
-        int m_nTo;
-        int m_nToWithoutBox;
-    };
-    for (const CCase& move :
-         {CCase{3, PopupKey::Down, 11, 11}, CCase{31, PopupKey::Down, 39, 39},
-          CCase{32, PopupKey::Down, kBox, 0}, CCase{kBox, PopupKey::Down, 0, 0},
-          CCase{11, PopupKey::Up, 3, 3}, CCase{7, PopupKey::Up, kBox, 39}, CCase{kBox, PopupKey::Up, 39, 39},
-          CCase{3, PopupKey::Right, 4, 4}, CCase{7, PopupKey::Right, 8, 8},
-          CCase{39, PopupKey::Right, kBox, 0}, CCase{kNone, PopupKey::Right, kBox, 0},
-          CCase{kNone, PopupKey::Left, kBox, 39}, CCase{kBox, PopupKey::Right, 0, 0},
-          CCase{4, PopupKey::Left, 3, 3}, CCase{8, PopupKey::Left, 7, 7}, CCase{0, PopupKey::Left, kBox, 39},
-          CCase{kBox, PopupKey::Left, 39, 39}}) {
-        for (const char* pText : {"More Colors...", ""}) {
-            if (move.m_nFrom == kBox && !*pText)
-                continue;
-            CPersonAtPopup person("123456", pText);
-            person.MoveTo(move.m_nFrom);
-            EXPECT_EQ(person.m_pPopup->GetCurrentSel(), move.m_nFrom);
-            person.PressInPopup(move.m_Key);
-            EXPECT_EQ(person.m_pPopup->GetCurrentSel(), *pText ? move.m_nTo : move.m_nToWithoutBox)
-                << "key " << static_cast<int>(move.m_Key) << " on " << move.m_nFrom;
-        }
-    }
-}
-
-TEST(ColourPickerPopup, TheWindowIsSizedByItsContentAndStaysOnTheScreen) {
-    struct CCase {
-        const char* m_pName;
-        CRect m_Button;
-        CString m_Text;
-        int m_nEdge;
-        CRect m_Window;
-        CRect m_Screen = {0, 0, 1024, 768};
-    };
-    const CCase cases[] = {
-        {"below", kButton, "More", 2, {100, 120, 248, 244}},
-        {"without a box", kButton, "", 2, {100, 120, 248, 214}},
-        {"wide text", kButton, "Many, many more colours...", 2, {100, 120, 286, 244}},
-        {"thick edges", kButton, "", 8, {100, 120, 300, 251}},
-        {"at the right", {1000, 100, 1020, 120}, "", 2, {876, 120, 1024, 214}},
-        {"at the left", {-9, 100, 20, 120}, "", 2, {0, 120, 148, 214}},
-        {"at the bottom", {100, 700, 160, 720}, "", 2, {100, 606, 248, 700}},
-        {"just room", {876, 654, 1024, 674}, "", 2, {876, 674, 1024, 768}},
-        {"in the corner", {1000, 740, 1030, 760}, "More", 2, {876, 616, 1024, 740}},
-        {"no room at all", {100, 80, 160, 720}, "", 2, {100, 0, 248, 94}},
-        {"on a screen at the left", {-20, 300, 0, 320}, "", 2, {-148, 206, 0, 300}, {-800, 0, 0, 400}}};
-    for (const CCase& place : cases) {
-        CPersonAtPopup person("123456", place.m_Text, place.m_Button, place.m_nEdge, place.m_Screen);
-        EXPECT_EQ(person.m_pPopup->GetWindowRect(), place.m_Window)
-            << place.m_pName << ": " << person.m_pPopup->GetWindowRect().left << ", "
-            << person.m_pPopup->GetWindowRect().top;
-    }
-}
-
-TEST(ColourPickerPopup, ThePointerMarksWhatItIsOver) {
-    struct CCase {
-        CPoint m_Point;
-        int m_nSelection;
-    };
-    CPersonAtPopup person("123456", "Many, many more colours..."); // wider than the cells
-    const CRect box = person.m_pPopup->GetCustomRect();
-    for (const CCase& place :
-         {CCase{{2, 2}, 0}, CCase{{19, 19}, 0}, CCase{{20, 19}, 1}, CCase{{19, 20}, 8}, CCase{{145, 91}, 39},
-          CCase{{146, 91}, kNone}, CCase{{145, 92}, kNone}, CCase{{1, 20}, kNone}, CCase{{20, -1}, kNone},
-          CCase{{-500, -500}, kNone}, CCase{{500, 500}, kNone}, CCase{{box.left, box.top}, kNone},
-          CCase{{box.left + 2, box.top + 2}, kBox}, CCase{{box.right + 1, box.bottom + 1}, kBox},
-          CCase{{box.right + 2, box.bottom}, kNone}}) {
-        person.MoveTo(17);
-        person.MoveInPopup(place.m_Point);
-        EXPECT_EQ(person.m_pPopup->GetCurrentSel(), place.m_nSelection)
-            << place.m_Point.x << ", " << place.m_Point.y;
-    }
-}
-
-TEST(ColourPickerPopup, EachSelectionEndsWithOneMessageAndAValidColour) {
-    struct CCase {
-        const char* m_pName;
-        std::function<void(CPersonAtPopup&)> m_Act;
-        const char* m_pLog;
-    };
-    const CPoint outside{-1, 30};
-    const CCase cases[] = {
-        {"click", [](auto& p) { p.MoveTo(25), p.ReleaseInPopup(p.MiddleOf(25)); },
-         "2025 ffd700 2028 ffd700 "},
-        {"click in the margin",
-         [](auto& p) {
-             p.MoveTo(25), p.MoveTo(kNone), p.ReleaseInPopup({0, 0});
-         },
-         "2025 ffd700 2028 123456 "},
-        {"click outside", [=](auto& p) { p.MoveTo(25), p.ReleaseInPopup(outside); },
-         "2025 ffd700 2029 123456 "},
-        {"Return at once", [](auto& p) { p.PressInPopup(PopupKey::Return); }, "2028 123456 "},
-        {"Space", [](auto& p) { p.MoveTo(26), p.MoveTo(26), p.PressInPopup(PopupKey::Space); },
-         "2025 ffff00 2028 ffff00 "},
-        {"Escape", [](auto& p) { p.MoveTo(25), p.MoveTo(26), p.PressInPopup(PopupKey::Escape); },
-         "2025 ffd700 2025 ffff00 2029 123456 "},
-        {"Escape on the box", [](auto& p) { p.MoveTo(kBox), p.PressInPopup(PopupKey::Escape); },
-         "2025 123456 2029 123456 "},
-        {"a mixed colour",
-         [](auto& p) { p.MixesColour(0x332211), p.MoveTo(kBox), p.PressInPopup(PopupKey::Return); },
-         "2025 123456 2028 112233 "},
-        {"the colour dialog cancelled",
-         [](auto& p) { p.CancelsColour(), p.MoveTo(kBox), p.ReleaseInPopup(p.MiddleOf(kBox)); },
-         "2025 123456 2029 123456 "},
-        {"the parent goes", [](auto& p) { p.MoveTo(25), p.m_pPopup->Abandon(); }, "2025 ffd700 "}};
-    for (const CCase& end : cases) {
-        CPersonAtPopup person;
-        end.m_Act(person);
-        EXPECT_EQ(person.m_Log, end.m_pLog) << end.m_pName;
-        EXPECT_TRUE(person.m_bClosed) << end.m_pName;
-        person.ActAll(); // before the window is gone
-        EXPECT_EQ(person.m_Log, end.m_pLog) << "again: " << end.m_pName;
-        EXPECT_TRUE(person.m_bClosed) << "closed twice: " << end.m_pName;
-    }
-}
-
-TEST(ColourPickerPopup, TheColourOfTheStartIsChosenAndTheFirstKeyGoesThere) {
-    EXPECT_EQ(CPersonAtPopup("ffd700").m_pPopup->GetChosenSel(), 25);
-    EXPECT_EQ(CPersonAtPopup("ffd701").m_pPopup->GetChosenSel(), kBox);
-    EXPECT_EQ(CPersonAtPopup("ffd701", "").m_pPopup->GetChosenSel(), kNone);
-    CPersonAtPopup person("ffd700");
-    person.PressInPopup(PopupKey::Left);
-    EXPECT_EQ(person.m_pPopup->GetCurrentSel(), 25);
-    person.PressInPopup(PopupKey::Left);
-    EXPECT_EQ(person.m_pPopup->GetCurrentSel(), 24);
+TEST(ColourPickerPopup, GoesAsItsSessionSays) {
+    EXPECT_TRUE(GoesAsItStands(ORRELIX_SOURCE_DIR "/tests/controls/colour_picker_popup.txt",
+                               [](const std::string& question) { return CPersonAtPopup().Play(question); }));
 }
 
 } // namespace orrelix

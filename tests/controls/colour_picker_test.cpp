@@ -53,7 +53,7 @@ TEST(ColourPicker, AHexTextSetsTheColourOrTellsWhatIsWrong) {
         COneColourDlg dialog;
         dialog.m_Picker.SetHexColour("C0c0C0");
         if (*hex.m_pMessage)
-            person.Answers(hex.m_pMessage);
+            person.Does(CString("reads and closes ") + hex.m_pMessage);
         dialog.m_Picker.SetHexColour(hex.m_pText);
         EXPECT_EQ(dialog.m_Picker.GetHexColour(), hex.m_pColour) << hex.m_pText;
     }
@@ -64,20 +64,20 @@ TEST(ColourPicker, AHexTextSetsTheColourOrTellsWhatIsWrong) {
 
 TEST(ColourPicker, TheDialogHearsOfTheSelectionAndIsDisabledMeanwhile) {
     struct CCase {
-        PopupKey m_Last;
+        const char* m_pLast;
         const char* m_pLog;
     };
     CColourSettings settings;
     for (const CCase& end :
-         {CCase{PopupKey::Return, "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
-                                  "2027 0 000000, 2028 0 000000, "},
-          CCase{PopupKey::Escape, "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
-                                  "2027 16777215 ffffff, 2029 16777215 ffffff, "}}) {
+         {CCase{"key Return", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
+                              "2027 0 000000, 2028 0 000000, "},
+          CCase{"key Escape", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
+                              "2027 16777215 ffffff, 2029 16777215 ffffff, "}}) {
         CScriptedPerson person;
         COneColourDlg dialog;
         dialog.m_Picker.SetHexColour("ffffff");
-        person.In("One Colour").OpensColours("Colour:");
-        person.PressesInPopup({PopupKey::Down, PopupKey::Left, end.m_Last}).Clicks("OK");
+        person.In("One Colour").Does("opens Colour");
+        person.Does({"key Down", "key Left", end.m_pLast, "clicks OK"});
         EXPECT_EQ(dialog.DoModal(), IDOK);
         EXPECT_EQ(dialog.m_Log, end.m_pLog);
     }
@@ -88,14 +88,14 @@ TEST(ColourPicker, APopupEndsWhereNobodyIsThereAndWithItsButton) {
     public:
         void OpenPopup(CPopupWindow& popup) override { popup.OnDeactivate(Person()); }
     } nobody;
-    nobody.In("One Colour").OpensColours("Colour:").OpensColours("Colour:").Clicks("OK");
+    nobody.In("One Colour").Does({"opens Colour", "opens Colour", "clicks OK"});
     EXPECT_EQ(COneColourDlg().DoModal(), IDOK) << "the dialog must not stay disabled";
 
     CScriptedPerson person;
     auto pDialog = std::make_unique<COneColourDlg>();
-    person.In("One Colour").OpensColours("Colour:").Then([&](CDialog& dialog) {
+    person.In("One Colour").Does("opens Colour").Then([&](CDialog& dialog) {
         dialog.EnableWindow(true); // a host that takes its windows away
-        person.PressEscape(dialog);
+        person.Press(dialog, "Escape");
     });
     EXPECT_EQ(pDialog->DoModal(), IDCANCEL);
     EXPECT_TRUE(person.GetPopup());

@@ -1,39 +1,28 @@
-// What the walks through the dialogs of borders and fonts don't show.
-#include "controls/border_dlg.h"
+// What the walks through the dialogs of fonts don't show.
 #include "controls/font_dlg.h"
-#include "platform/profile.h"
 #include "tests/support/person_test.h"
 
 namespace orrelix {
 
-using BorderDlg = PersonTest;
 using FontDlg = PersonTest;
 
-TEST_F(BorderDlg, AMixedColourIsRememberedAlsoByACancelledDialogAndACancelledOneIsNot) {
-    const auto stored = [] { return GetProfileString("Specify Color CALANDER", "Name39", "none"); };
-    m_Person.In("Border Properties").Types("Border Color", "123456").OpensColours("Border Color");
-    m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space}).CancelsColour();
-    m_Person.Then([&](CDialog&) { EXPECT_EQ(stored(), "none"); }).OpensColours("Border Color");
-    m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space})
-        .MixesColour(MakeColour(1, 2, 3))
-        .Clicks("Cancel");
-    EXPECT_EQ(CBorderPropertiesDlg().DoModal(), IDCANCEL);
-    EXPECT_EQ(stored(), "010203");
-}
-
 TEST_F(FontDlg, DoubleClicksGrowAFamilyListAndASizeThatIsNoNumberStaysUntilItIsTurned) {
-    const CString list = "Double Click to Insert into above:";
-    m_Person.In("Font Properties").ShowsRows(list, {"Arial", "Courier New", "Verdana"});
-    m_Person.DoubleClicks(list, "Verdana").DoubleClicks(list, "Arial");
-    m_Person.Types("Specify the Font Face:", "Verdana,serif").DoubleClicks(list, "Courier New");
-    m_Person.Shows("Specify the Font Face:", "Verdana,serif,Courier New").Shows("Font Size:", "larger");
-    m_Person.Clicks("OK");
+    const CString face = "Specify the Font Face";
+    const CString insert = "double-clicks Double Click to Insert into above = ";
+    m_Person.In("Font Properties")
+        .ShowsRows("Double Click to Insert into above", {"Arial", "Courier New", "Verdana"});
+    m_Person.Does(insert + "Verdana")
+        .Shows(face, "Verdana")
+        .Does(insert + "Arial")
+        .Shows(face, "Verdana,Arial");
+    m_Person.Does({"types " + face + " = Verdana,serif", insert + "Courier New"});
+    m_Person.Shows("Font Size", "larger").Does("clicks OK");
     CFontPropertiesDlg dialog;
     dialog.m_FontSize = "larger";
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.m_FontFace, "Verdana,serif,Courier New");
     EXPECT_EQ(dialog.m_FontSize, "larger");
-    m_Person.Turns("Font Size:", 3).Shows("Font Size:", "3").Clicks("OK");
+    m_Person.Does("turns Font Size = 3").Shows("Font Size", "3").Does("clicks OK");
     dialog.DoModal();
     EXPECT_EQ(dialog.m_FontSize, "3");
 }
@@ -41,7 +30,7 @@ TEST_F(FontDlg, DoubleClicksGrowAFamilyListAndASizeThatIsNoNumberStaysUntilItIsT
 TEST_F(FontDlg, ChoicesComeInTheirOrder) {
     m_Person.In("Calender Font Style").ShowsRows("Font Style:", {"italic", "normal", "oblique"});
     m_Person.ShowsRows("Text Align:", {"left", "center", "right", "justify"});
-    m_Person.ShowsSelected("Font Weight:", {6}).Clicks("OK");
+    m_Person.ShowsSelected("Font Weight:", {6}).Does("clicks OK");
     CCalanderFontDlg dialog;
     dialog.m_FontWeight = "bold";
     EXPECT_EQ(dialog.DoModal(), IDOK);

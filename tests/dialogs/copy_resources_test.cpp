@@ -40,7 +40,7 @@ TEST_F(CopyResources, OkOverwritesAndPointsEveryTextOfAPathAtTheCopy) {
         EXPECT_EQ(list.GetItemCount(), 2) << "one row for each source path";
         EXPECT_EQ(list.GetColumn(1).m_nExtraWidth, 140);
     });
-    m_Person.Clicks("OK");
+    m_Person.Does("clicks OK");
     m_Dialog.DoModal();
     EXPECT_EQ(InSite("photo.gif"), "new photo");
     EXPECT_EQ(InSite("logo.jpg"), "new logo");
@@ -55,8 +55,11 @@ TEST_F(CopyResources, ARenamedFileLeavesTheOldOneAlone) {
         const CListCtrl& list = dialog.Item<CListCtrl>(CopyResourcesId::Clashes);
         nPhoto = list.GetItemText(0, 0) == "photo.gif" ? 0 : 1;
         // The row is known only now, so the rest of the steps follow from here.
-        m_Person.SelectsRow(m_List, nPhoto).Clicks("Rename").Renames(m_List, "").Clicks("Rename");
-        m_Person.CancelsRenaming(m_List).Clicks("Rename").Renames(m_List, "other.gif").Clicks("OK");
+        m_Person.Does("selects " + m_List + " = " + ToText(nPhoto));
+        for (const CString& end :
+             {"renames " + m_List, "keeps the label of " + m_List, "renames " + m_List + " = other.gif"})
+            m_Person.Does({"clicks Rename", end});
+        m_Person.Does("clicks OK");
     });
     m_Dialog.DoModal();
     EXPECT_EQ(InSite("photo.gif"), "old photo");
@@ -66,15 +69,13 @@ TEST_F(CopyResources, ARenamedFileLeavesTheOldOneAlone) {
 
 TEST_F(CopyResources, RenameNeedsAFocusedRow) {
     m_Person.In("Copy Resources")
-        .Clicks("Rename")
-        .Answers("Please select a file to rename first!")
-        .Clicks("OK");
+        .Does({"clicks Rename", "reads and closes Please select a file to rename first!", "clicks OK"});
     m_Dialog.DoModal();
 }
 
 TEST_F(CopyResources, ClosingItCopiesNothing) {
     const CString before = m_Photo;
-    m_Person.In("Copy Resources").PressesEscape();
+    m_Person.In("Copy Resources").Does("presses Escape");
     m_Dialog.DoModal();
     EXPECT_EQ(m_Photo, before);
     EXPECT_EQ(InSite("photo.gif"), "old photo");
@@ -82,7 +83,7 @@ TEST_F(CopyResources, ClosingItCopiesNothing) {
 
 TEST_F(CopyResources, AFailedCopyStillMovesTheText) {
     std::filesystem::remove(m_Source.File("logo.jpg"));
-    m_Person.In("Copy Resources").Clicks("OK");
+    m_Person.In("Copy Resources").Does("clicks OK");
     m_Dialog.DoModal();
     EXPECT_EQ(m_Logo, m_OldLogo);
     EXPECT_EQ(InSite("logo.jpg"), "old logo");
@@ -91,7 +92,7 @@ TEST_F(CopyResources, AFailedCopyStillMovesTheText) {
 TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {
     m_Site.Write("notes.txt", "");
     m_Site.Write("Anthem.AU", "");
-    m_Person.In("Copy Resources").Clicks("Browse ...");
+    m_Person.In("Copy Resources").Does("clicks Browse ...");
     m_Person.In("Browse Files")
         .ShowsRows("Files Existing in the Destination Directory", {"Anthem.AU", "logo.jpg", "photo.gif"})
         .Then([](CDialog& dialog) {
@@ -99,8 +100,8 @@ TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {
             EXPECT_EQ(list.GetImageList().GetSize(), 3) << "no icon for a pattern without files";
             EXPECT_EQ(list.GetItemImage(0), 2);
         })
-        .PressesEscape();
-    m_Person.In("Copy Resources").Clicks("OK");
+        .Does("presses Escape");
+    m_Person.In("Copy Resources").Does("clicks OK");
     m_Dialog.DoModal();
 }
 
@@ -117,7 +118,7 @@ TEST_F(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
                  {directory.Path(), "", "The directory and file type can not be blank!"},
                  {missing, "*.gif", "Directory " + missing + "\\ does not exist!"}};
     for (const auto& c : cases) {
-        m_Person.Answers(c.m_Message);
+        m_Person.Does("reads and closes " + c.m_Message);
         CBrowseFilesDlg dialog(c.m_Directory, c.m_pTypes);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     }

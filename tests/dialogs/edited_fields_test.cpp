@@ -77,28 +77,25 @@ protected:
     // A way in which a person changes what a control holds.
     struct CChange {
         const char* m_pHow;
-        std::function<void()> m_Act; // takes the steps
+        std::vector<CString> m_Acts;
     };
-    std::vector<CChange> ChangesOf(const CControlDescription& control, const CString& name) {
-        const CChange typed{" typed", [=, this] { m_Person.Types(name, "777777"); }};
+    static std::vector<CChange> ChangesOf(const CControlDescription& control, const CString& name) {
+        const CChange typed{" typed", {"types " + name + " = 777777"}};
         switch (control.m_Kind) {
         case ControlKind::ComboBox: {
-            const CString last = control.m_Choices.back().Shown();
-            const CChange picked{" picked", [=, this] { m_Person.Picks(name, last); }};
+            const CChange picked{" picked", {"picks " + name + " = " + control.m_Choices.back().Shown()}};
             return control.Has(STYLE_LIST_ONLY) ? std::vector{picked} : std::vector{picked, typed};
         }
         case ControlKind::Edit:
             return {typed};
         case ControlKind::Spin:
-            return {{" turned", [=, this] { m_Person.Turns(name, 1); }}};
+            return {{" turned", {"turns " + name + " = 1"}}};
         case ControlKind::Slider:
-            return {{" moved", [=, this, nEnd = control.m_nUpper] { m_Person.Moves(name, nEnd); }}};
+            return {{" moved", {"moves " + name + " = " + ToText(control.m_nUpper)}}};
         case ControlKind::OwnerDrawnButton: // of a colour without a name, the box for any is chosen
-            return {{" mixed", [=, this] {
-                         m_Person.Types(name, "123456").OpensColours(name);
-                         m_Person.PressesInPopup({PopupKey::Up, PopupKey::Space});
-                         m_Person.MixesColour(MakeColour(1, 2, 3));
-                     }}};
+            return {
+                {" mixed",
+                 {"types " + name + " = 123456", "opens " + name, "key Up", "key Space", "mixes 010203"}}};
         default:
             return {};
         }
@@ -108,12 +105,12 @@ protected:
     void Open(const CSubDialog* pSub) {
         m_Person.In(m_Description.m_pTitle);
         if (pSub)
-            m_Person.Clicks(pSub->m_pButton).In(pSub->m_pDescription().m_pTitle);
+            m_Person.Does(CString("clicks ") + pSub->m_pButton).In(pSub->m_pDescription().m_pTitle);
     }
     void Close(const CSubDialog* pSub, const char* pSubButton, const char* pButton) {
         if (pSub)
-            m_Person.Clicks(pSubButton).In(m_Description.m_pTitle);
-        m_Person.Clicks(pButton);
+            m_Person.Does(CString("clicks ") + pSubButton).In(m_Description.m_pTitle);
+        m_Person.Does(CString("clicks ") + pButton);
     }
     const CDialogDescription& Opened(const CSubDialog* pSub) const {
         return pSub ? pSub->m_pDescription() : m_Description;
@@ -152,7 +149,7 @@ std::string EditedFields::BoxesOf(const CSubDialog* pSub) {
     ForEach(Opened(pSub), [&](const CControlDescription& control, const CString& name) {
         for (const CChange& change : ChangesOf(control, name)) {
             Open(pSub);
-            change.m_Act();
+            m_Person.Does(change.m_Acts);
             Close(pSub, "OK", "OK");
             text += indent + name.GetString() + change.m_pHow + ": " + Difference(untouched, Run(IDOK));
             text += TakeSections() + "\n";
@@ -165,7 +162,7 @@ CValues EditedFields::RunWithAllChanged(const CSubDialog* pSub, const char* pSub
     Open(pSub);
     ForEach(Opened(pSub), [&](const CControlDescription& control, const CString& name) {
         for (const CChange& change : ChangesOf(control, name))
-            change.m_Act();
+            m_Person.Does(change.m_Acts);
     });
     Close(pSub, pSubButton, pButton);
     return Run(CString(pButton) == "OK" ? IDOK : IDCANCEL);
@@ -187,7 +184,7 @@ TEST_P(EditedFields, AreThoseOfTheirBoxes) {
 
 TEST_P(EditedFields, StayAsTheyAreWhenADialogIsCancelled) {
     EXPECT_EQ(Difference(m_Starts, RunWithAllChanged(nullptr, "", "Cancel")), "nothing");
-    m_Person.Clicks("OK");
+    m_Person.Does("clicks OK");
     const CValues untouched = Run(IDOK);
     for (const CSubDialog& sub : GetParam().m_SubDialogs) {
         EXPECT_EQ(Difference(m_Starts, RunWithAllChanged(&sub, "OK", "Cancel")), "nothing") << sub.m_pButton;

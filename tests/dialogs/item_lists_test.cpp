@@ -32,7 +32,7 @@ TEST_F(ItemLists, OfFadeSelectHaveEachTextInItsColumnAndAllItemsSelected) {
             "Items",
             {"text | link | tip | image | width | height | border | family | weight | size | style | color",
              "second |  |  |  |  |  |  |  |  |  |  | "})
-        .Clicks("OK");
+        .Does("clicks OK");
     CFadeSelect gadget;
     gadget.m_ToolTips = {"tip"};
     gadget.m_ItemFonts = {{"family", "weight", "style", "size", "color"}};
@@ -44,8 +44,12 @@ TEST_F(ItemLists, OfFadeSelectHaveEachTextInItsColumnAndAllItemsSelected) {
 TEST_F(ItemLists, OfCoolLinkHaveEachTextInItsColumnAndTheLastItemSelected) {
     m_Person.In("Link Select Table").ShowsSelected("Items", {1});
     m_Person.ShowsRows("Items", {"text | link | image | width | height | border", "second |  |  |  |  | "});
-    m_Person.ShowsSelected("Link Target:", {}).Shows("Border Color:", "c0c0c0").Clicks("Modify...");
-    m_Person.In("Item Properties").Shows("Width:", "0").Clicks("OK").In("Link Select Table").Clicks("OK");
+    m_Person.ShowsSelected("Link Target:", {}).Shows("Border Color:", "c0c0c0").Does("clicks Modify...");
+    m_Person.In("Item Properties")
+        .Shows("Width:", "0")
+        .Does("clicks OK")
+        .In("Link Select Table")
+        .Does("clicks OK");
     CCoolLink gadget;
     gadget.m_SelectBorderColor = "";
     gadget.m_Target = "_blank";

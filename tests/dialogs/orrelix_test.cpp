@@ -71,7 +71,7 @@ TEST_F(Orrelix, AsksTheGadgetForItsResourcesOnceAndAgainAfterAnOk) {
     EXPECT_EQ(m_Orrelix.GetResourceWebPathByName("Animate.js"), "s/");
     EXPECT_TRUE(m_Orrelix.SetResourceLocalPath("\\elsewhere\\"));
     for (const bool bOk : {false, true}) {
-        m_Person.In("Animate Text").Clicks(bOk ? "OK" : "Cancel");
+        m_Person.In("Animate Text").Does(bOk ? "clicks OK" : "clicks Cancel");
         EXPECT_EQ(m_Orrelix.Config(), bOk);
         EXPECT_EQ(ScriptPlace(), bOk ? m_Module : CString("\\elsewhere\\"));
     }
@@ -100,24 +100,27 @@ TEST_F(Orrelix, WritesTheFileAnewWithThePreviewForm) {
 }
 
 TEST_F(Orrelix, TheChosenEffectIsEditedAndChosenOnlyOnce) {
-    m_Person.In(kSelect).DoubleClicks("DHTML Scripts", "Slide Text");
-    m_Person.In("Slide Text").Types("Slide Text:", "Hello").Clicks("OK");
+    m_Person.In(kSelect).Does("double-clicks DHTML Scripts = Slide Text");
+    m_Person.In("Slide Text").Does({"types Slide Text = Hello", "clicks OK"});
     EXPECT_TRUE(m_Orrelix.Config());
     EXPECT_EQ(m_Orrelix.m_Type, "2");
     EXPECT_EQ(m_Orrelix.m_pGadget, &m_Orrelix.m_TextShow);
     EXPECT_GE(m_Orrelix.GetHTMLBody(0, 0).Find("Hello"), 0);
-    m_Person.In("Slide Text").Shows("Slide Text:", "Hello").Clicks("Cancel");
+    m_Person.In("Slide Text").Shows("Slide Text:", "Hello").Does("clicks Cancel");
     EXPECT_FALSE(m_Orrelix.Config());
 }
 
 TEST_F(Orrelix, ACancelledChoiceIsAskedAgainAndACancelledEffectStays) {
-    m_Person.In(kSelect).Clicks("Cancel");
+    m_Person.In(kSelect).Does("clicks Cancel");
     EXPECT_FALSE(m_Orrelix.Config());
     EXPECT_EQ(m_Orrelix.m_Type, "0");
-    m_Person.In(kSelect).SelectsRow("DHTML Scripts", 0).Clicks("OK").In("Animate Text").PressesEscape();
+    m_Person.In(kSelect)
+        .Does({"selects DHTML Scripts = 0", "clicks OK"})
+        .In("Animate Text")
+        .Does("presses Escape");
     EXPECT_FALSE(m_Orrelix.Config());
     EXPECT_EQ(m_Orrelix.m_Type, "1");
-    m_Person.In("Animate Text").Clicks("OK");
+    m_Person.In("Animate Text").Does("clicks OK");
     EXPECT_TRUE(m_Orrelix.Config());
 }
 

@@ -30,13 +30,13 @@ TEST_F(TodayCaDlg, TheFirstTitleTellsTheStyleAndTitlesOfNoneStay) {
     };
     for (const auto& c : cases) {
         m_Gadget.m_Titles = {c.m_pFirst, "", "", "", "", "", "last"};
-        m_Steps.ShowsSelected("Title Style:", c.m_Selected).Clicks("OK");
+        m_Steps.ShowsSelected("Title Style:", c.m_Selected).Does("clicks OK");
         EXPECT_EQ(Run(), IDOK);
         ASSERT_EQ(m_Gadget.m_Titles.GetSize(), 7);
         EXPECT_EQ(m_Gadget.m_Titles[6], c.m_pLast) << c.m_pFirst;
     }
     m_Gadget.m_Titles.RemoveAll();
-    m_Steps.ShowsSelected("Title Style:", {}).Picks("Title Style:", "I,II,III...").Clicks("OK");
+    m_Steps.ShowsSelected("Title Style:", {}).Does({"picks Title Style = I,II,III...", "clicks OK"});
     EXPECT_EQ(Run(), IDOK);
     EXPECT_EQ(m_Gadget.m_Titles, CStringArray({"I", "II", "III", "IV", "V", "VI", "VII"}));
 }

@@ -1,12 +1,11 @@
 // Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs and after the one on which
 // desktops are tried. A question is what a
 // person does, the answer what changes on the screen then; "$ in" says in which dialog the person is from then on,
-// and the other verbs are in kVerbs. A walk begins with "$ edits", behind which stand parameters that the effect has
+// and the other verbs are those of tests/support/person_script.cpp. A walk begins with "$ edits", behind which stand parameters that the effect has
 // read ("DanceTextPara=,,,,,,0") and fields that aren't as they are at first ("m_Width=50%|m_Left="). Its last answer
 // is what the fields have become, and what of an effect its parameters give back otherwise. That Cancel in the place
 // of an effect's OK changes nothing is tried beside. Those of tests/qt/walks are by keyboard, before windows alone: they
 // also say what has the keyboard, and what marks boxes have.
-#include "controls/hex_colour.h"
 #include "platform/paths.h"
 #include "tests/support/all_dialogs.h"
 #include "tests/support/everything_dialog.h"
@@ -46,84 +45,20 @@ std::vector<std::string> Pieces(const std::string& text, char separator) {
     return pieces;
 }
 
-std::vector<int> Numbers(const std::string& text) {
-    std::vector<int> numbers;
-    for (const std::string& piece : Pieces(text, ','))
-        numbers.push_back(ToInteger(piece));
-    return numbers;
-}
-
-// Line breaks as walks have them.
+// With line breaks as acts have them.
 CString Escaped(CString text) {
     text.Replace("\r\n", "\\n");
     return text;
 }
-CString Unescaped(CString text) {
-    text.Replace("\\n", "\r\n");
-    return text;
-}
-
-constexpr std::pair<const char*, PopupKey> kKeys[] = {
-    {"Up", PopupKey::Up},       {"Down", PopupKey::Down},     {"Left", PopupKey::Left},
-    {"Right", PopupKey::Right}, {"Escape", PopupKey::Escape}, {"Return", PopupKey::Return},
-    {"Space", PopupKey::Space},
-};
-
-void PressKey(CPersonScript& person, const std::string& name) {
-    for (const auto& [pName, key] : kKeys) {
-        if (name == pName)
-            person.PressesInPopup({key});
-    }
-}
-
-// What stands behind the verb is NAME = VALUE, or either of them.
-const struct {
-    const char* m_pVerb;
-    void (*m_pDo)(CPersonScript& person, const std::string& name, const std::string& value);
-} kVerbs[] = {
-    {"clicks", [](auto& person, auto& name, auto&) { person.Clicks(name); }},
-    {"types", [](auto& person, auto& name, auto& value) { person.Types(name, Unescaped(value)); }},
-    {"turns", [](auto& person, auto& name, auto& value) { person.Turns(name, ToInteger(value)); }},
-    {"moves", [](auto& person, auto& name, auto& value) { person.Moves(name, ToInteger(value)); }},
-    {"picks", [](auto& person, auto& name, auto& value) { person.Picks(name, value); }},
-    {"closes", [](auto& person, auto& name, auto&) { person.ClosesList(name); }},
-    {"selects", [](auto& person, auto& name, auto& value) { person.SelectsRows(name, Numbers(value)); }},
-    {"double-clicks",
-     [](auto& person, auto& name, auto& value) { person.DoubleClicks(name, CString(value)); }},
-    {"renames", [](auto& person, auto& name, auto& value) { person.Renames(name, value); }},
-    {"opens", [](auto& person, auto& name, auto&) { person.OpensColours(name); }},
-    {"takes", [](auto& person, auto& name, auto&) { person.PicksColour(name); }},
-    {"mixes", [](auto& person, auto& name, auto&) { person.MixesColour(ParseHexColour(name).value()); }},
-    {"mixes nothing", [](auto& person, auto&, auto&) { person.CancelsColour(); }},
-    {"key", [](auto& person, auto& name, auto&) { PressKey(person, name); }},
-    {"keeps the label of", [](auto& person, auto& name, auto&) { person.CancelsRenaming(name); }},
-    {"presses", [](auto& person, auto& name, auto&) { person.Presses(name); }},
-    {"goes to", [](auto& person, auto& name, auto&) { person.Focuses(name); }},
-    {"writes", [](auto& person, auto& name, auto&) { person.Writes(name); }},
-    {"reads and closes", [](auto& person, auto& name, auto&) { person.Answers(name); }},
-    {"refuses", [](auto& person, auto& name, auto&) { person.Answers(name, IDCANCEL); }},
-    {"chooses file",
-     [](auto& person, auto& name, auto& value) {
-         person.ChoosesFile(name, value.empty() ? std::optional<CString>() : CString(value));
-     }},
-    {"chooses no file, but types", [](auto& person, auto& name, auto&) { person.CancelsFile(name); }},
-    {"in", [](auto& person, auto& name, auto&) { person.In(name); }},
-};
 
 class Walk : public PersonTest, public testing::WithParamInterface<CWalk> {
 protected:
     const CTestedDialog& m_Dialog = GetParam().m_Dialog;
 
     // Puts the act into the script.
-    void Add(const std::string& question) {
-        const auto verb = std::find_if(std::rbegin(kVerbs), std::rend(kVerbs),
-                                       [&](const auto& row) { return question.starts_with(row.m_pVerb); });
-        ASSERT_NE(verb, std::rend(kVerbs)) << question;
-        CString given = question.substr(std::min(strlen(verb->m_pVerb) + 1, question.size()));
-        given.Replace("$IMAGE", m_Image);
-        const std::string words(given.View());
-        const size_t nEquals = std::min(words.find(" = "), words.size());
-        verb->m_pDo(m_Person, words.substr(0, nEquals), words.substr(std::min(nEquals + 3, words.size())));
+    void Add(CString act) {
+        act.Replace("$IMAGE", m_Image);
+        m_Person.Does(act);
     }
 
     // Runs the walk of these questions; each gets its answer.

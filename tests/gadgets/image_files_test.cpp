@@ -79,7 +79,7 @@ TEST(CopyImages, AsksOnceAboutATakenNameUnlessForced) {
         if (pAnswer) {
             person.In("Copy Resources")
                 .ShowsRows("Files with clashing names", {"taken.gif | " + WithSlashes(taken)});
-            *pAnswer == 'O' ? person.Clicks("OK") : person.PressesEscape();
+            *pAnswer == 'O' ? person.Does("clicks OK") : person.Does("presses Escape");
         }
         CopyImages(images, site.Path("to\\"), nForce);
         EXPECT_EQ(images, CStringArray({site.Path(pTakenPath), site.Path(pFreePath), site.Path(pTakenPath)}));

@@ -67,7 +67,7 @@ class EveryWindow : public testing::TestWithParam<CTestedDialog> {
 protected:
     void Open(const CString& text, const std::function<void(CDialog&)>& look) {
         const CDialogDescription& description = GetParam().m_pDescription();
-        m_Person.In(description.m_pTitle).Then(look).PressesEscape();
+        m_Person.In(description.m_pTitle).Then(look).Does("presses Escape");
         CFilledDlg(description, text).DoModal();
     }
 

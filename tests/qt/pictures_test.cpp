@@ -57,16 +57,16 @@ TEST(Pictures, OfEveryDialog) {
         person.In(tested.m_pDescription().m_pTitle).Then(Take(name));
         for (size_t nSub = 0; nSub < tested.m_SubDialogs.size(); ++nSub) {
             const CSubDialog& sub = tested.m_SubDialogs[nSub];
-            person.Clicks(sub.m_pButton).In(sub.m_pDescription().m_pTitle);
-            person.Then(Take(name + "_" + std::to_string(nSub))).PressesEscape();
+            person.Does(CString("clicks ") + sub.m_pButton).In(sub.m_pDescription().m_pTitle);
+            person.Then(Take(name + "_" + std::to_string(nSub))).Does("presses Escape");
             person.In(tested.m_pDescription().m_pTitle);
         }
-        person.PressesEscape();
+        person.Does("presses Escape");
         tested.m_Edit ? tested.m_Edit()->Run() : CDialog(tested.m_pDescription()).DoModal();
     }
-    person.In("Border Properties").OpensColours("Border Color");
-    person.PressesInPopup({PopupKey::Down, PopupKey::Right}).Then(Take("colours"));
-    person.PressesInPopup({PopupKey::Escape}).PressesEscape();
+    person.In("Border Properties").Does("opens Border Color");
+    person.Does({"key Down", "key Right"}).Then(Take("colours"));
+    person.Does({"key Escape", "presses Escape"});
     CBorderPropertiesDlg().DoModal();
 }
 

@@ -41,7 +41,7 @@ class Windows : public testing::Test {
 protected:
     // Runs the dialog, does this in its window and cancels it.
     void Work(const std::function<void(CDialog&)>& act) {
-        m_Person.In("Everything").Then(act).Clicks("Cancel");
+        m_Person.In("Everything").Then(act).Does("clicks Cancel");
         EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     }
 
@@ -94,7 +94,7 @@ TEST_F(Windows, WhatAnAssistiveToolDoesIsThePersons) {
         auto& kind = Shown<QComboBox>(dialog, Id::Kind);
         QAccessible::queryAccessibleInterface(kind.lineEdit())->setText(QAccessible::Value, "spoken");
     });
-    m_Person.Clicks("OK");
+    m_Person.Does("clicks OK");
     EXPECT_EQ(m_Dialog.DoModal(), IDOK);
     EXPECT_EQ(m_Dialog.m_Text, "said old");
     EXPECT_EQ(m_Dialog.m_Lines, "said first\r\nsecond");
@@ -140,16 +140,16 @@ TEST_F(Windows, WhereTheScreenIsTooSmallTheClosingButtonsStayInSight) {
 
 TEST_F(Windows, APopupThatIsLeftOrThatItsDialogLeavesIsClosed) {
     m_Person.In("Everything")
-        .OpensColours("Colour:")
+        .Does("opens Colour")
         .Then([](CDialog&) { QApplication::activePopupWidget()->hide(); })
-        .OpensColours("Colour:")
+        .Does("opens Colour")
         .Then([](CDialog&) {
             QWidget* pPopup = QApplication::activePopupWidget();
             QTest::mouseClick(pPopup, Qt::RightButton, {}, {200, 5});
             EXPECT_TRUE(pPopup->isVisible());
             QTest::mouseClick(pPopup, Qt::LeftButton, {}, {200, 5});
         })
-        .OpensColours("Colour:")
+        .Does("opens Colour")
         .Then([](CDialog&) { CQtPerson::Window().done(0); });
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(m_Dialog.m_Log, "abandoned, closed, picked, closed, abandoned, closed");
@@ -171,8 +171,8 @@ TEST_F(Windows, TheProgramsRowsComeUpAndGoWithoutAFreshList) {
 }
 
 TEST_F(Windows, WhatAHandlerThrowsComesOutOfDoModal) {
-    m_Person.In("Everything").Types("Kind:", "again").Clicks("More...");
-    m_Person.Types("Kind:", "throw").Clicks("More...");
+    m_Person.In("Everything").Does({"types Kind = again", "clicks More..."});
+    m_Person.Does({"types Kind = throw", "clicks More..."});
     EXPECT_THROW(m_Dialog.DoModal(), std::bad_alloc);
     EXPECT_EQ(m_Dialog.m_Log, "") << "the inner dialog came back";
 }
@@ -237,7 +237,7 @@ TEST(Picture, MovesForAWhileAndNotAtAllForWhoWantsNoMotion) {
                 EXPECT_EQ(picture.IsMoving(), !bCalm);
             }
         });
-        person.PressesEscape();
+        person.Does("presses Escape");
         CSelectScriptDlg().DoModal();
         QApplication::setStyle(usual);
     }
@@ -268,7 +268,7 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
             EXPECT_TRUE(screen.contains(moved));
             EXPECT_FALSE(moved.intersects(corner));
         })
-        .OpensColours("Border Color")
+        .Does("opens Border Color")
         .Then([](CDialog&) {
             QWidget* pPopup = QApplication::activePopupWidget();
             QTest::keyClick(pPopup, Qt::Key_Right);
@@ -280,8 +280,7 @@ TEST(ColourButton, ShowsItsColourAndOpensItsPopupBelowItselfOnTheScreen) {
             QApplication::sendEvent(pPopup, &help);
             EXPECT_EQ(QToolTip::text(), "White");
         })
-        .PressesInPopup({PopupKey::Escape})
-        .Clicks("Cancel");
+        .Does({"key Escape", "clicks Cancel"});
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 

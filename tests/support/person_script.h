@@ -1,8 +1,8 @@
 // CPersonScript: what a person does at the screen, step by step, to be played before any desktop.
 //
-//     script.In("Slide Text").Types("Table / Width:", "300").Clicks("Title Font...");
-//     script.In("Font Properties").Turns("Font Size:", 2).Clicks("OK");
-//     script.In("Slide Text").Shows("Table / Width:", "300").Clicks("OK");
+//     script.In("Slide Text").Does({"types Table / Width = 300", "clicks Title Font..."});
+//     script.In("Font Properties").Does({"turns Font Size = 2", "clicks OK"});
+//     script.In("Slide Text").Shows("Table / Width", "300").Does("clicks OK");
 //
 // Controls go by what a person sees: their label, caption or spoken name, after the title of their group and
 // " / " where the name alone could mean two. A step fails the test when it names what isn't there, is
@@ -17,7 +17,6 @@
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -74,72 +73,20 @@ public:
 
 class CPersonScript {
 public:
-    CPersonScript() = default;
-    CPersonScript(const CPersonScript&) = delete;
-    CPersonScript& operator=(const CPersonScript&) = delete;
     // Fails the test for each step that was never reached.
     virtual ~CPersonScript();
 
     // The steps that follow happen in the dialog with this title.
     CPersonScript& In(const CString& title);
 
-    CPersonScript& Types(const CString& name, const CString& text) {
-        return Do("types into", name, {ControlKind::Edit, ControlKind::ComboBox}, &CPersonHands::Type, text);
-    }
-    CPersonScript& Turns(const CString& name, int nSteps) {
-        return Do("turns", name, {ControlKind::Spin}, &CPersonHands::Turn, nSteps);
-    }
-    CPersonScript& Clicks(const CString& name) {
-        return Do("clicks", name, {ControlKind::Button}, &CPersonHands::Click);
-    }
-    CPersonScript& SelectsRow(const CString& name, int nRow) { return SelectsRows(name, {nRow}); }
-    CPersonScript& SelectsRows(const CString& name, const std::vector<int>& rows) {
-        return Do("selects a row of", name, {ControlKind::ListBox, ControlKind::ListCtrl},
-                  &CPersonHands::SelectRows, rows);
-    }
-    CPersonScript& DoubleClicks(const CString& name, int nRow) {
-        return Do("double-clicks in", name, {ControlKind::ListBox}, &CPersonHands::DoubleClick, nRow);
-    }
-    CPersonScript& DoubleClicks(const CString& name, const CString& row);
-    CPersonScript& Picks(const CString& name, const CString& choice);
-    CPersonScript& ClosesList(const CString& name) {
-        return Do("closes the list of", name, {ControlKind::ComboBox}, &CPersonHands::CloseList);
-    }
-    CPersonScript& Moves(const CString& name, int nPos) {
-        return Do("moves", name, {ControlKind::Slider}, &CPersonHands::Move, nPos);
-    }
-    CPersonScript& Renames(const CString& name, const CString& text) {
-        return Do("renames in", name, {ControlKind::ListCtrl}, &CPersonHands::Rename, text);
-    }
-    CPersonScript& CancelsRenaming(const CString& name) {
-        return Do("cancels the renaming in", name, {ControlKind::ListCtrl}, &CPersonHands::Rename,
-                  std::nullopt);
-    }
-    CPersonScript& Presses(const CString& keys);
-    CPersonScript& PressesEscape() { return Presses("Escape"); }
-    CPersonScript& Focuses(const CString& name) {
-        return Do("goes to", name, kFocusable, &CPersonHands::Focus);
-    }
-    CPersonScript& Writes(const CString& text);
-
-    // The colour button beside the edit box of this name, and what happens in its popup.
-    CPersonScript& OpensColours(const CString& name) {
-        return Do("opens the colours of", name, {ControlKind::OwnerDrawnButton}, &CPersonHands::Click);
-    }
-    CPersonScript& PicksColour(const CString& colourName);
-    CPersonScript& PressesInPopup(std::initializer_list<PopupKey> keys);
-
-    // What comes up by itself: a message box, which is answered; the system's file and colour dialogs.
-    CPersonScript& Answers(const CString& message, int nAnswer = IDOK);
-    // The added box takes the text that is given; otherwise it keeps what it shows.
-    CPersonScript& ChoosesFile(const CString& path, const std::optional<CString>& addedText = {});
-    CPersonScript& CancelsFile(const std::optional<CString>& addedText = {});
-    CPersonScript& MixesColour(CColour colour);
-    CPersonScript& CancelsColour();
+    // What the person does next: a verb of the tables in person_script.cpp, and what it is about.
+    CPersonScript& Does(const CString& act);
+    CPersonScript& Does(const std::vector<CString>& acts);
 
     // What the person sees.
     CPersonScript& Shows(const CString& name, const CString& text) {
-        return Sees("reads", name, kTexts, &CPersonHands::TextOf, text);
+        return Sees("reads", name, {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static},
+                    &CPersonHands::TextOf, text);
     }
     CPersonScript& ShowsRows(const CString& name, const std::vector<CString>& rows) {
         return Sees("reads the rows of", name, kRows, &CPersonHands::RowsOf, rows);
@@ -185,38 +132,26 @@ private:
         std::optional<CColour> m_Colour = {};
     };
 
+    static CStep AnswerOf(const CString& act);
+
     using Kinds = std::vector<ControlKind>;
     static inline const Kinds kRows = {ControlKind::ListBox, ControlKind::ListCtrl, ControlKind::ComboBox};
-    static inline const Kinds kTexts = {ControlKind::Edit, ControlKind::ComboBox, ControlKind::Static,
-                                        ControlKind::Button};
-    static inline const Kinds kFocusable = {ControlKind::Edit,    ControlKind::Button,
-                                            ControlKind::Slider,  ControlKind::ComboBox,
-                                            ControlKind::ListBox, ControlKind::ListCtrl};
 
     using Act = std::function<void(const CTarget&, CPersonHands&)>;
     CPersonScript& Add(CStep step);
     CPersonScript& AddAct(const CString& words, std::function<void(CDialog&, CPersonHands&)> act);
-    // An act upon a control that must be there, of one of these kinds, and enabled.
-    CPersonScript& AddAct(const CString& verb, const CString& name, Kinds kinds, Act act);
-    CPersonScript& AddLook(const CString& verb, const CString& name, Kinds kinds, Act act);
-    // What the hands do, and what is seen, without more.
-    template <class... T>
-    CPersonScript& Do(const char* pVerb, const CString& name, const Kinds& kinds,
-                      void (CPersonHands::*act)(const CTarget&, T...), std::type_identity_t<T>... given) {
-        return AddAct(pVerb, name, kinds,
-                      [act, ... given = std::decay_t<T>(given)](const CTarget& target, CPersonHands& hands) {
-                          (hands.*act)(target, given...);
-                      });
-    }
+    // A look at a control that must be there, of one of these kinds; and an act upon one, which must be enabled.
+    CPersonScript& AddLook(const CString& words, const CString& name, const Kinds& kinds, Act act);
+    CPersonScript& AddControlAct(const CString& words, const CString& name, const Kinds& kinds, Act act);
+    CPersonScript& AddPopupAct(const CString& words, std::function<void(CPopupWindow&, CPersonHands&)> act);
     template <class T>
     CPersonScript& Sees(const char* pVerb, const CString& name, const Kinds& kinds,
                         T (CPersonHands::*look)(const CTarget&), const std::type_identity_t<T>& expected) {
-        return AddLook(pVerb, name, kinds,
+        return AddLook(pVerb + (" " + name), name, kinds,
                        [look, name, expected](const CTarget& target, CPersonHands& hands) {
                            EXPECT_EQ((hands.*look)(target), expected) << name;
                        });
     }
-    CPersonScript& AddPopupAct(const CString& words, std::function<void(CPopupWindow&, CPersonHands&)> act);
     std::optional<CStep> Take(Kind kind, const CString& what);
     void Fail(const CString& message);
 
@@ -225,8 +160,7 @@ private:
     bool m_bLost = false;
 };
 
-// The control of one of these kinds that the name means, or null: see the head of this file.
-const CControlDescription* FindByName(const CDialogDescription& description, const CString& name,
-                                      const std::vector<ControlKind>& kinds);
+// "Up", "Down", "Left", "Right", "Escape", "Return" or "Space".
+PopupKey PopupKeyNamed(const CString& name);
 
 } // namespace orrelix

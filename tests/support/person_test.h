@@ -2,7 +2,7 @@
 // test is linked into says who the person is: a scripted one or, in qt_test, one before real windows.
 //
 //     TEST_F(TextShowDlg, AnOkStoresTheTitle) {
-//         m_Person.In("Slide Text").Types("Text Title:", "news").Clicks("OK");
+//         m_Person.In("Slide Text").Does({"types Text Title = news", "clicks OK"});
 #pragma once
 
 #include "tests/support/colour_settings.h"

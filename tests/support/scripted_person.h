@@ -2,7 +2,7 @@
 // construction to its end.
 //
 //     CScriptedPerson person;
-//     person.In("Padding Style").Types("Left:", "3").Clicks("OK");
+//     person.In("Padding Style").Does({"types Left = 3", "clicks OK"});
 //     CPaddingDlg dialog;
 //     EXPECT_EQ(dialog.DoModal(), IDOK);
 #pragma once

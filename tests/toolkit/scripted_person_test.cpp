@@ -22,20 +22,35 @@ int RunWith(TSteps steps) {
 
 TEST(ScriptedPerson, AStepThatDoesNotFitTheScreenFailsTheTestAndClosesTheDialog) {
     int nResult = 0;
-    EXPECT_NONFATAL_FAILURE(nResult = RunWith([](CPersonScript& p) { p.Clicks("Apply"); }), "no \"Apply\"");
+    EXPECT_NONFATAL_FAILURE(nResult = RunWith([](CPersonScript& p) { p.Does("clicks Apply"); }),
+                            "no \"Apply\"");
     EXPECT_EQ(nResult, IDCANCEL);
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Clicks("Add").Clicks("Add"); }), "disabled");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Shows("Text:", "wrong").Clicks("OK"); }),
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) {
+                                p.Does({"clicks Add", "clicks Add"});
+                            }),
+                            "disabled");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Shows("Text:", "wrong").Does("clicks OK"); }),
                             "wrong");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.In("Other").Clicks("OK"); }), "in front");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Types("Text:", "x"); }), "no step is left");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Clicks("OK").Clicks("OK"); }), "never reached");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.In("Other").Does("clicks OK"); }), "in front");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Does("types Text = x"); }), "no step is left");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) {
+                                p.Does({"clicks OK", "clicks OK"});
+                            }),
+                            "never reached");
 }
 
 TEST(ScriptedPerson, WhatComesUpUnexpectedlyFailsTheTest) {
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Clicks("More...").Clicks("OK"); }), "Gone!");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.Answers("Gone!").Clicks("OK"); }), "Everything");
-    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) { p.OpensColours("Colour:").Clicks("OK"); }),
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) {
+                                p.Does({"clicks More...", "clicks OK"});
+                            }),
+                            "Gone!");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) {
+                                p.Does({"reads and closes Gone!", "clicks OK"});
+                            }),
+                            "Everything");
+    EXPECT_NONFATAL_FAILURE(RunWith([](CPersonScript& p) {
+                                p.Does({"opens Colour", "clicks OK"});
+                            }),
                             "behind the popup");
 }
 
