@@ -3,6 +3,7 @@
 #include "tests/support/code_page_in_force.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace orrelix {
 
@@ -35,12 +36,7 @@ struct CFields {
 } // namespace
 
 TEST(ListItems, AreCountedByTheirCommasAndUnmasked) {
-    const struct {
-        int m_nCodePage;
-        const char* m_pText;
-        int m_nIndex;
-        const char* m_pItem;
-    } cases[] = {
+    const std::tuple<int, const char*, int, const char*> cases[] = {
         {65001, "", 0, ""},
         {65001, "", 3, ""},
         {65001, "a", 0, "a"},
@@ -106,11 +102,8 @@ TEST(Parameters, LeaveFieldsAloneWhereItemsAreEmptyOrMissing) {
 }
 
 TEST(Parameters, BelieveACountUpToTheMostThatAListMayHold) {
-    const struct {
-        const char* m_pCount;
-        int m_nItems;
-    } cases[] = {{"3", 3},         {"-3", 0},        {"x", 0},         {"", 0},
-                 {"65535", 65535}, {"70000", 65535}, {"4294967295", 0}};
+    const std::pair<const char*, int> cases[] = {
+        {"3", 3}, {"-3", 0}, {"x", 0}, {"", 0}, {"65535", 65535}, {"70000", 65535}, {"4294967295", 0}};
     for (const auto& [pCount, nItems] : cases) {
         CVignelConfig config;
         config.SetParameter("Para", CString("1,2,") + pCount);

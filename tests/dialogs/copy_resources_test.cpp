@@ -4,6 +4,8 @@
 #include "tests/support/temporary_directory.h"
 #include "toolkit/list_ctrl.h"
 
+#include <tuple>
+
 namespace orrelix {
 
 namespace {
@@ -110,16 +112,13 @@ using BrowseFiles = PersonTest;
 TEST_F(BrowseFiles, WhatCanNotBeListedIsSaidAndNothingOpens) {
     CTemporaryDirectory directory;
     const CString missing = directory.Path("none");
-    const struct {
-        CString m_Directory;
-        const char* m_pTypes;
-        CString m_Message;
-    } cases[] = {{"", "*.gif", "The directory and file type can not be blank!"},
-                 {directory.Path(), "", "The directory and file type can not be blank!"},
-                 {missing, "*.gif", "Directory " + missing + "\\ does not exist!"}};
-    for (const auto& c : cases) {
-        m_Person.Does("reads and closes " + c.m_Message);
-        CBrowseFilesDlg dialog(c.m_Directory, c.m_pTypes);
+    const std::tuple<CString, const char*, CString> cases[] = {
+        {"", "*.gif", "The directory and file type can not be blank!"},
+        {directory.Path(), "", "The directory and file type can not be blank!"},
+        {missing, "*.gif", "Directory " + missing + "\\ does not exist!"}};
+    for (const auto& [inDirectory, pTypes, message] : cases) {
+        m_Person.Does("reads and closes " + message);
+        CBrowseFilesDlg dialog(inDirectory, pTypes);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     }
 }

@@ -3,6 +3,8 @@
 #include "tests/support/person_test.h"
 #include "tests/support/scripted_person.h"
 
+#include <tuple>
+
 namespace orrelix {
 
 namespace {
@@ -43,11 +45,7 @@ TEST_F(Orrelix, IsNewWithNothingSelected) {
 
 TEST_F(Orrelix, SelectsAGadgetByTheTypeOfAFile) {
     const std::string ours = "VignelServer.Orrelix";
-    const struct {
-        const char* m_pWhat;
-        std::string m_File;
-        const char* m_pType;
-    } cases[] = {
+    const std::tuple<const char*, std::string, const char*> cases[] = {
         {"ours", FileOf(ours, "DhtmlType = 1"), "1"},
         {"a list, of which the first item counts", FileOf(ours, "DhtmlType = 1,2"), "1"},
         {"no type of ours", FileOf(ours, "DhtmlType = 17"), "17"},

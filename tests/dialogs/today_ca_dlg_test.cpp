@@ -1,6 +1,8 @@
 #include "dialogs/today_ca_dlg.h"
 #include "tests/support/person_test.h"
 
+#include <tuple>
+
 namespace orrelix {
 
 namespace {
@@ -20,20 +22,16 @@ protected:
 } // namespace
 
 TEST_F(TodayCaDlg, TheFirstTitleTellsTheStyleAndTitlesOfNoneStay) {
-    const struct {
-        const char* m_pFirst;
-        std::vector<int> m_Selected;
-        const char* m_pLast; // after an untouched OK
-    } cases[] = {
+    const std::tuple<const char*, std::vector<int>, const char*> cases[] = {
         {"M", {0}, "S"},       {",T", {0}, "S"},       {"II", {1}, "VII"}, {"\xc8\xfd", {2}, "\xc8\xd5"},
         {"", {2}, "\xc8\xd5"}, {"\u4e00", {}, "last"},
     };
-    for (const auto& c : cases) {
-        m_Gadget.m_Titles = {c.m_pFirst, "", "", "", "", "", "last"};
-        m_Steps.ShowsSelected("Title Style:", c.m_Selected).Does("clicks OK");
+    for (const auto& [pFirst, selected, pLast] : cases) {
+        m_Gadget.m_Titles = {pFirst, "", "", "", "", "", "last"};
+        m_Steps.ShowsSelected("Title Style:", selected).Does("clicks OK");
         EXPECT_EQ(Run(), IDOK);
         ASSERT_EQ(m_Gadget.m_Titles.GetSize(), 7);
-        EXPECT_EQ(m_Gadget.m_Titles[6], c.m_pLast) << c.m_pFirst;
+        EXPECT_EQ(m_Gadget.m_Titles[6], pLast) << pFirst;
     }
     m_Gadget.m_Titles.RemoveAll();
     m_Steps.ShowsSelected("Title Style:", {}).Does({"picks Title Style = I,II,III...", "clicks OK"});

@@ -5,6 +5,7 @@
 #include "tests/support/temporary_directory.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace orrelix {
 
@@ -59,13 +60,8 @@ TEST(CopyGadgetFile, CopiesAndFollowsTheCopyUnlessForcedAndReportsATakenName) {
 }
 
 TEST(CopyImages, AsksOnceAboutATakenNameUnlessForced) {
-    const struct {
-        const char* m_pAnswer; // null where nobody is asked
-        short m_nForce;
-        const char* m_pTakenPath;
-        const char* m_pFreePath;
-        const char* m_pTaken;
-    } cases[] = {
+    // The answer is null where nobody is asked; the last text is what is then in to/taken.gif.
+    const std::tuple<const char*, short, const char*, const char*, const char*> cases[] = {
         {"OK", 0, "to\\taken.gif", "to\\free.gif", "new"},
         {"Escape", 0, "from\\taken.gif", "to\\free.gif", "old"},
         {nullptr, 1, "from\\taken.gif", "from\\free.gif", "new"},

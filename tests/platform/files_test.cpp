@@ -40,10 +40,7 @@ TEST(Files, AreFoundWithoutRegardToCaseAndNamedAsOnDisk) {
     fs::create_directories(directory.File("Site/Images"));
     std::ofstream(directory.File("Site/Images/Photo.GIF")) << "x";
     std::ofstream(directory.File("Site/Images/photo.gif~")) << "x";
-    const struct {
-        const char* m_pPath;
-        const char* m_pName;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"Site\\Images\\Photo.GIF", "Photo.GIF"},
         {"site\\IMAGES\\photo.gif", "Photo.GIF"},
         {"site\\images\\PHOTO.gif~", "photo.gif~"},

@@ -2,6 +2,7 @@
 #include "tests/support/code_page_in_force.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace orrelix {
 
@@ -9,13 +10,8 @@ namespace orrelix {
 // second looks like a bar, "\x81\x41" one whose second looks like an A. In page 949, 0x5C follows no lead
 // byte.
 TEST(String, SearchesPassOverTrailBytes) {
-    const struct {
-        int m_nCodePage;
-        const char* m_pText;
-        const char* m_pWanted;
-        CString::Position m_nFirst;
-        CString::Position m_nLast; // of its first byte; only asked for single bytes
-    } cases[] = {
+    // The last place is that of the wanted text's first byte, -2 where it isn't asked for.
+    const std::tuple<int, const char*, const char*, CString::Position, CString::Position> cases[] = {
         {65001, "a\\b\\c", "\\", 1, 3},
         {65001, "a\x95\\c", "\\", 2, 2},
         {936, "a\x95\\c", "\\", -1, -1},
@@ -47,14 +43,7 @@ TEST(String, SearchesPassOverTrailBytes) {
 }
 
 TEST(String, ReplacingGoesLeftToRightAndNotOverWhatItPutIn) {
-    const struct {
-        int m_nCodePage;
-        const char* m_pText;
-        const char* m_pFrom;
-        const char* m_pTo;
-        const char* m_pResult;
-        int m_nReplaced;
-    } cases[] = {
+    const std::tuple<int, const char*, const char*, const char*, const char*, int> cases[] = {
         {65001, "aaa", "aa", "a", "aa", 1},
         {65001, "a,b,c", ",", ",,", "a,,b,,c", 2},
         {65001, "abc", "", "x", "abc", 0},
@@ -93,10 +82,7 @@ TEST(String, PartsAreCutToTheText) {
 }
 
 TEST(String, NumbersReadAsTheirLeadingDigits) {
-    const struct {
-        const char* m_pText;
-        int m_nNumber;
-    } cases[] = {
+    const std::pair<const char*, int> cases[] = {
         {"", 0},
         {"  42px", 42},
         {"-7", -7},

@@ -8,6 +8,7 @@
 #include "toolkit/spin_button_ctrl.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace orrelix {
 
@@ -42,20 +43,18 @@ struct CEar : CControlObserver {
 } // namespace
 
 TEST(SpinButtonCtrl, ItsPositionIsSixteenBitsClippedToItsRangeAndWrittenIntoItsBox) {
-    const struct {
-        int m_nSet;
-        const char* m_pShown;
-    } cases[] = {{0, "0"},     {5000, "5000"},  {5001, "5000"}, {-1, "0"},
-                 {65536, "0"}, {70000, "4464"}, {40000, "0"},   {32767, "5000"}};
-    for (const auto& c : cases) {
+    const std::pair<int, const char*> cases[] = {{0, "0"},     {5000, "5000"}, {5001, "5000"},
+                                                 {-1, "0"},    {65536, "0"},   {70000, "4464"},
+                                                 {40000, "0"}, {32767, "5000"}};
+    for (const auto& [nSet, pShown] : cases) {
         CEdit edit;
         CSpinButtonCtrl spin;
         spin.SetBuddy(&edit);
         spin.SetRange(0, 5000);
         EXPECT_EQ(edit.GetWindowText(), "") << "a range writes nothing";
-        spin.SetPos(c.m_nSet);
-        EXPECT_EQ(edit.GetWindowText(), c.m_pShown) << c.m_nSet;
-        EXPECT_EQ(spin.GetPos(), ToInteger(c.m_pShown)) << c.m_nSet;
+        spin.SetPos(nSet);
+        EXPECT_EQ(edit.GetWindowText(), pShown) << nSet;
+        EXPECT_EQ(spin.GetPos(), ToInteger(pShown)) << nSet;
     }
 }
 
@@ -182,16 +181,12 @@ TEST(Control, ItsObserverHearsOfEachChangeOnceAndOfNothingElse) {
 }
 
 TEST(DialogDescription, MnemonicsAndNamesAreReadFromTheTexts) {
-    const struct {
-        const char* m_pText;
-        const char* m_pShown;
-        char m_Mnemonic;
-    } cases[] = {
+    const std::tuple<const char*, const char*, char> cases[] = {
         {"&Width:", "Width:", 'w'}, {"URL(&U)", "URL(U)", 'u'}, {"Fish && &Chips", "Fish & Chips", 'c'},
         {"Plain", "Plain", 0},      {"R&&D", "R&D", 0},         {"End&", "End&", 0}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(WithoutMnemonic(c.m_pText), c.m_pShown);
-        EXPECT_EQ(MnemonicOf(c.m_pText), c.m_Mnemonic) << c.m_pText;
+    for (const auto& [pText, pShown, mnemonic] : cases) {
+        EXPECT_EQ(WithoutMnemonic(pText), pShown);
+        EXPECT_EQ(MnemonicOf(pText), mnemonic) << pText;
     }
     EXPECT_EQ(AccessibleNameOf({.m_pLabel = "&Width:"}), "Width");
     EXPECT_EQ(AccessibleNameOf({.m_pLabel = "URL:", .m_pCaption = "...", .m_pName = "Edit URL"}), "Edit URL");
