@@ -2,6 +2,7 @@
 #include "tests/support/colour_settings.h"
 #include "tests/support/scripted_person.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace orrelix {
@@ -36,26 +37,22 @@ public:
 } // namespace
 
 TEST(ColourPicker, AHexTextSetsTheColourOrTellsWhatIsWrong) {
-    struct CCase {
-        const char* m_pText;
-        const char* m_pMessage;
-        const char* m_pColour;
-    };
     const char* const pLong = "The RGB string is not exceed 6 chars!";
     const char* const pWrong = "You must input a RGB value!";
-    for (const CCase& hex :
-         {CCase{"", "", "c0c0c0"}, CCase{"1234g", "", "c0c0c0"}, CCase{"1234567", pLong, "c0c0c0"},
-          CCase{"gggggggg", pLong, "c0c0c0"}, CCase{"12345g", pWrong, "c0c0c0"},
-          CCase{"-12345", pWrong, "c0c0c0"}, CCase{"0x1234", pWrong, "c0c0c0"},
-          CCase{" 12345", pWrong, "c0c0c0"}, CCase{"123456", "", "123456"}, CCase{"ABCDEF", "", "abcdef"},
-          CCase{"000001", "", "000001"}}) {
+    const std::array<const char*, 3> cases[] = {{"", "", "c0c0c0"},           {"1234g", "", "c0c0c0"},
+                                                {"1234567", pLong, "c0c0c0"}, {"gggggggg", pLong, "c0c0c0"},
+                                                {"12345g", pWrong, "c0c0c0"}, {"-12345", pWrong, "c0c0c0"},
+                                                {"0x1234", pWrong, "c0c0c0"}, {" 12345", pWrong, "c0c0c0"},
+                                                {"123456", "", "123456"},     {"ABCDEF", "", "abcdef"},
+                                                {"000001", "", "000001"}};
+    for (const auto& [pText, pMessage, pColour] : cases) {
         CScriptedPerson person;
         COneColourDlg dialog;
         dialog.m_Picker.SetHexColour("C0c0C0");
-        if (*hex.m_pMessage)
-            person.Does(CString("reads and closes ") + hex.m_pMessage);
-        dialog.m_Picker.SetHexColour(hex.m_pText);
-        EXPECT_EQ(dialog.m_Picker.GetHexColour(), hex.m_pColour) << hex.m_pText;
+        if (*pMessage)
+            person.Does(CString("reads and closes ") + pMessage);
+        dialog.m_Picker.SetHexColour(pText);
+        EXPECT_EQ(dialog.m_Picker.GetHexColour(), pColour) << pText;
     }
     COneColourDlg dialog;
     dialog.m_Picker.SetHexColour("0a0b0c");
@@ -63,23 +60,19 @@ TEST(ColourPicker, AHexTextSetsTheColourOrTellsWhatIsWrong) {
 }
 
 TEST(ColourPicker, TheDialogHearsOfTheSelectionAndIsDisabledMeanwhile) {
-    struct CCase {
-        const char* m_pLast;
-        const char* m_pLog;
-    };
     CColourSettings settings;
-    for (const CCase& end :
-         {CCase{"key Return", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
-                              "2027 0 000000, 2028 0 000000, "},
-          CCase{"key Escape", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
-                              "2027 16777215 ffffff, 2029 16777215 ffffff, "}}) {
+    for (const auto& [pLast, pLog] :
+         {std::pair("key Return", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
+                                  "2027 0 000000, 2028 0 000000, "),
+          {"key Escape", "2026 16777215 ffffff, 2025 16777215d ffffff, 2025 0d ffffff, "
+                         "2027 16777215 ffffff, 2029 16777215 ffffff, "}}) {
         CScriptedPerson person;
         COneColourDlg dialog;
         dialog.m_Picker.SetHexColour("ffffff");
         person.In("One Colour").Does("opens Colour");
-        person.Does({"key Down", "key Left", end.m_pLast, "clicks OK"});
+        person.Does({"key Down", "key Left", pLast, "clicks OK"});
         EXPECT_EQ(dialog.DoModal(), IDOK);
-        EXPECT_EQ(dialog.m_Log, end.m_pLog);
+        EXPECT_EQ(dialog.m_Log, pLog);
     }
 }
 

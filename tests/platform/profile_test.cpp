@@ -7,6 +7,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace orrelix {
@@ -89,38 +90,32 @@ TEST_F(Profile, OnlyTheKeysThatAreWrittenChange) {
 }
 
 TEST_F(Profile, ADamagedFileCostsNoMoreThanWhatIsDamaged) {
-    struct CCase {
-        const char* m_pName;
-        std::string m_Content;
-        const char* m_pValue; // of the key "k" in the section "s"
-    };
-    const CCase cases[] = {{"empty", "", "default"},
-                           {"cut off in the section", "[s", "default"},
-                           {"cut off in the key", "[s]\nk", "default"},
-                           {"cut off in an escape", "[s]\nk=a\\x4", "a\\x4"},
-                           {"no escape", "[s]\nk=\\xzz\\", "\\xzz\\"},
-                           {"no section", "k=v\n", "default"},
-                           {"zeros", std::string(5000, '\0'), "default"},
-                           {"zeros before", std::string(50, '\0') + "\n[s]\nk=v\n", "v"},
-                           {"a key twice", "[s]\nk=first\nk=second\n", "first"},
-                           {"no keys", "=\n[]\n==\n[s]\n=\n", "default"},
-                           {"every byte", "\xff\xfe\x80[s]\n\x01\x02=\x03\n[s]\nk=\xff", "\xff"},
-                           {"too large to be ours", "[s]\nk=v\n" + std::string(5000000, 'x'), "default"}};
-    for (const CCase& damage : cases) {
-        WriteFile(damage.m_Content);
-        EXPECT_EQ(GetProfileString("s", "k", "default"), damage.m_pValue) << damage.m_pName;
-        EXPECT_TRUE(WriteProfileString("s", "k", "new")) << damage.m_pName;
-        EXPECT_EQ(GetProfileString("s", "k", "default"), "new") << damage.m_pName;
+    // What it is, its content, and the value of the key "k" in the section "s".
+    const std::tuple<const char*, std::string, const char*> cases[] = {
+        {"empty", "", "default"},
+        {"cut off in the section", "[s", "default"},
+        {"cut off in the key", "[s]\nk", "default"},
+        {"cut off in an escape", "[s]\nk=a\\x4", "a\\x4"},
+        {"no escape", "[s]\nk=\\xzz\\", "\\xzz\\"},
+        {"no section", "k=v\n", "default"},
+        {"zeros", std::string(5000, '\0'), "default"},
+        {"zeros before", std::string(50, '\0') + "\n[s]\nk=v\n", "v"},
+        {"a key twice", "[s]\nk=first\nk=second\n", "first"},
+        {"a key in comments", "[s]\n#k=first\n;k=second\nk=third\n", "third"},
+        {"no keys", "=\n[]\n==\n[s]\n=\n", "default"},
+        {"every byte", "\xff\xfe\x80[s]\n\x01\x02=\x03\n[s]\nk=\xff", "\xff"},
+        {"too large to be ours", "[s]\nk=v\n" + std::string(5000000, 'x'), "default"}};
+    for (const auto& [pName, content, pValue] : cases) {
+        WriteFile(content);
+        EXPECT_EQ(GetProfileString("s", "k", "default"), pValue) << pName;
+        EXPECT_TRUE(WriteProfileString("s", "k", "new")) << pName;
+        EXPECT_EQ(GetProfileString("s", "k", "default"), "new") << pName;
     }
 }
 
 TEST_F(Profile, WhatCantBeReadIsAbsentAndWhatCantBeWrittenIsFalse) {
     const fs::path root = m_User.Root();
-    struct CCase {
-        const char* m_pName;
-        std::function<void()> m_Spoil;
-    };
-    const CCase cases[] = {
+    const std::pair<const char*, std::function<void()>> cases[] = {
         {"a folder in place of the file", [&] { fs::create_directories(m_User.File()); }},
         {"a folder in place of the lock", [&] { fs::create_directories(m_User.Folder() / "settings.lock"); }},
         {"a file in place of the folder", [&] { std::ofstream(root / kCompanyWord) << "x"; }},
@@ -129,13 +124,13 @@ TEST_F(Profile, WhatCantBeReadIsAbsentAndWhatCantBeWrittenIsFalse) {
              unsetenv("XDG_CONFIG_HOME");
              setenv("HOME", "/dev/null", 1);
          }}};
-    for (const CCase& spoilt : cases) {
-        const pid_t nProcess = Start([&] {
-            spoilt.m_Spoil();
+    for (const auto& [pName, spoil] : cases) {
+        const pid_t nProcess = Start([&, act = spoil] {
+            act();
             const bool bWritten = WriteProfileString("s", "k", "v");
             return (bWritten ? 1 : 0) + (GetProfileString("s", "k", "default") == "default" ? 0 : 2);
         });
-        EXPECT_EQ(WaitFor(nProcess), 0) << spoilt.m_pName;
+        EXPECT_EQ(WaitFor(nProcess), 0) << pName;
         fs::remove_all(root / kCompanyWord);
     }
 }
