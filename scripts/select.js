@@ -50,7 +50,10 @@
             return;
         const own = (name, given) => window[box.className.replace(/select$/, "") + name] ?? given;
         const styles = [own("overOptionCss", overCss), own("sizedBorderCss", sizedBorderCss)];
-        dropDowns.set(box, makeDropDown(box, list, ...styles));
+        if (styles.includes(undefined)) // the text's own script hasn't run: the list is there to be read
+            list.style.display = "block";
+        else
+            dropDowns.set(box, makeDropDown(box, list, ...styles));
     };
 
     window.toggleDropDown = (box) => dropDowns.get(box)?.toggle();

@@ -263,7 +263,7 @@ export function testEverywhere(name, title, body, options = {}) {
 }
 
 // Makes the page as good as hidden behind another tab (or shown again): what a page can see of it, in one go.
-export async function setHidden(page, bHidden) {
+async function setHidden(page, bHidden) {
     await page.evaluate((hidden) => {
         Object.defineProperty(document, "hidden", { configurable: true, get: () => hidden });
         Object.defineProperty(document, "visibilityState", {
@@ -275,13 +275,38 @@ export async function setHidden(page, bHidden) {
 }
 
 // The page is scrolled to its end, far from what was in view, or back.
-export async function setOutOfView(page, bOut) {
+async function setOutOfView(page, bOut) {
     await page.evaluate((out) => {
         if (out)
             document.body.insertAdjacentHTML("beforeend", '<div style="height: 5000px"></div>');
         window.scrollTo(0, out ? 9999 : 0);
     }, bOut);
 }
+
+// Ways in which nobody sees the page, each with what brings it about and what ends it.
+export const unseen = [
+    ["in the background", (page) => setHidden(page, true), (page) => setHidden(page, false)],
+    ["out of view", (page) => setOutOfView(page, true), (page) => setOutOfView(page, false)],
+];
+
+// For the option "before": window.nTicks counts the calls of timers and frames.
+export const countTicks = () => {
+    window.nTicks = 0;
+    for (const name of ["setTimeout", "setInterval", "requestAnimationFrame"]) {
+        const native = window[name];
+        window[name] = (fn, ...rest) =>
+            native.call(window, typeof fn === "function" ? (...given) => { window.nTicks++; fn(...given); } : fn, ...rest);
+    }
+};
+
+// What runs in the page: timers and frames that came in between, and what the browser moves.
+export const running = (page, time) => page.evaluate(async (milliseconds) => {
+    const pass = () => new Promise((over) => { window.nTicks--; setTimeout(over, milliseconds); });
+    await pass(); // what is due comes once more
+    const before = window.nTicks;
+    await pass();
+    return [window.nTicks - before, document.getAnimations().filter(({ playState }) => playState === "running").length];
+}, time);
 
 // Collects what read (a function for the page) gives until done(values) is true or the time is over; consecutive
 // equal values count once. For watching something move.

@@ -1,7 +1,8 @@
 // Animate Text, Slide Text, Color Link, Scroll Text and the clock of Calender: what moves by itself moves, rests when
 // a visitor asks for it and goes on. What Scroll Text and the calendars do besides is tested with them.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, nextFrame, setCalm, setHidden, setOutOfView, styleOf, tap, testEverywhere, watch } from "./harness.mjs";
+import { at, countTicks, givePage, pageText, nextFrame, running, setCalm, styleOf, tap, testEverywhere, unseen, watch }
+    from "./harness.mjs";
 
 const animated = await pageText("animate_text_plain");
 const slid = await pageText("text_show_plain");
@@ -12,10 +13,6 @@ const pointer = (selector) => ["pointer", (page) => page.hover(selector), (page)
 const focus = (selector) => ["focus", (page) => page.focus(selector), (page) => page.evaluate(() => document.activeElement.blur())];
 const twice = (name, act) => [name, act, act];
 const stopButton = (page) => page.getByRole("button", { name: "Stop the movement" });
-const unseen = [
-    ["in the background", (page) => setHidden(page, true), (page) => setHidden(page, false)],
-    ["out of view", (page) => setOutOfView(page, true), (page) => setOutOfView(page, false)],
-];
 const away = (page) => page.mouse.move(990, 690);
 const stops = [
     twice("the stop, clicked", async (page) => { await stopButton(page).click(); await away(page); }),
@@ -64,25 +61,6 @@ const moving = [
         calmOptions: { before: at("2026-11-22T21:05:07") },
     },
 ];
-
-// For the option "before": window.nTicks counts the calls of timers and frames.
-const countTicks = () => {
-    window.nTicks = 0;
-    for (const name of ["setTimeout", "setInterval", "requestAnimationFrame"]) {
-        const native = window[name];
-        window[name] = (fn, ...rest) =>
-            native.call(window, typeof fn === "function" ? (...given) => { window.nTicks++; fn(...given); } : fn, ...rest);
-    }
-};
-
-// What runs in the page: timers and frames that came in between, and what the browser moves.
-const running = (page, time) => page.evaluate(async (milliseconds) => {
-    const pass = () => new Promise((over) => { window.nTicks--; setTimeout(over, milliseconds); });
-    await pass(); // what is due comes once more
-    const before = window.nTicks;
-    await pass();
-    return [window.nTicks - before, document.getAnimations().filter(({ playState }) => playState === "running").length];
-}, time);
 
 for (const { effect, name, look, rests, time = 150, calm = /./, calmOptions } of moving) {
     const moves = (page) => watch(page, look, (values) => values.length > 1);
@@ -268,19 +246,3 @@ for (const [name, selector, expected] of [
         assert.match((await print(page, selector)).replaceAll("|", name === "text_show_slow" ? "" : "|"), expected);
         assert.equal((await page.locator(selector).boundingBox()).height, before);
     });
-
-// Under a policy that forbids inline scripts: what is left to read, and a link that works.
-const POLICY = `<meta http-equiv="Content-Security-Policy" content="script-src 'self'">`;
-for (const [name, text, selector, left] of [
-    ["animate_text_rich", rich, "#brndfntextanim", ""],
-    ["text_show_rich", await pageText("text_show_rich"), "#typing", "Fresh bread at eight, cake at three.\nThe shop is open until six."],
-    ["scroll_text_rich", await pageText("scroll_text_rich"), "table", ""],
-    ["dance_text_rich", linked, "[name=brndfntextshop]:any-link", "Visit our shop"],
-])
-    testEverywhere(givePage(text.replace("<head>", `<head>${POLICY}`), `${name}_policy`), "throws nothing and hides nothing",
-        async ({ page, errors }) => {
-            assert.equal((await page.locator(selector).innerText()).trim(), left);
-            const complaints = errors.splice(0);
-            assert.ok(complaints.length > 0 && complaints.every((complaint) => /Content.Security.Policy/.test(complaint)),
-                JSON.stringify(complaints));
-        });

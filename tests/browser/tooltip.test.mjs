@@ -71,6 +71,27 @@ testEverywhere(quick(), "goes when left and on Escape, stays while the pointer i
     assert.equal(await shown(page).count(), 0, "Escape");
 });
 
+testEverywhere(quick({ show: 1500 }), "its stop keeps it by mouse and by touch, and lets it go on", async ({ page }) => {
+    const stop = page.getByRole("button", { name: "Stop the movement" });
+    for (const [show, press] of [
+        [() => element(page).hover(), () => stop.click()],
+        [() => tap(page, element(page)), () => tap(page, stop)],
+    ]) {
+        await show();
+        await until(page, 1);
+        await press();
+        assert.equal(await stop.getAttribute("aria-pressed"), "true");
+        const left = await page.evaluate(strip);
+        await page.waitForTimeout(2000);
+        assert.equal(await page.evaluate(strip), left, "longer than its time, and it stands");
+        await press();
+        assert.equal(await stop.getAttribute("aria-pressed"), "false");
+        await leave(page);
+        await tap(page, { x: 600, y: 500 });
+        await until(page, 0);
+    }
+});
+
 // Elements of a tag that takes no focus by itself, the second in the window's corner.
 const inSpan = (effect) => effect.replace(/<a href="[^"]*" /, "<span").replace(/<\/a>$/, "</span>");
 testEverywhere(quick({ titles: ["one", "Two"], change: inSpan }), "two tips show beside their elements on keyboard focus, in the window",
