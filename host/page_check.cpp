@@ -62,7 +62,8 @@ std::map<std::string, std::string_view> StylesOf(std::string_view html) {
             const size_t nBrace = rule.find('{');
             if (nBrace == std::string_view::npos)
                 continue;
-            const size_t nLine = rule.find_last_of("\r\n", nBrace) + 1; // behind what hides it from old browsers
+            const size_t nLine =
+                rule.find_last_of("\r\n", nBrace) + 1; // behind what hides it from old browsers
             const std::string_view selector = Trim(rule.substr(nLine, nBrace - nLine));
             styles[std::string(selector)] = Trim(rule.substr(nBrace + 1));
         }

@@ -1,4 +1,6 @@
 // The component as hosts in other languages meet it.
+#include "core/inspector.h"
+#include "core/orrelix_members.h"
 #include "core/registration.h"
 #include "core/server.h"
 #include "platform/code_page.h"
@@ -9,6 +11,7 @@
 #include "tests/support/session.h"
 #include "tests/support/user_settings.h"
 
+#include <algorithm>
 #include <fstream>
 #include <random>
 
@@ -127,6 +130,23 @@ TEST(Server, IsFoundByNameAndCategoryUntilItIsUnregistered) {
                                  "]\n409=Brindlefen Vignels\n");
     EXPECT_EQ(VignelFindInCategory(VIGNEL_CATEGORY, 0, text, sizeof text), 0);
     unsetenv("XDG_CONFIG_DIRS");
+}
+
+TEST(Server, IsToldToHostsMemberByMember) {
+    std::string reference = FileContent(std::filesystem::path(ORRELIX_SOURCE_DIR) / "docs/hosting.md");
+    for (const auto& members : {GetOrrelixMembers(), GetInspectorMembers()}) {
+        for (size_t nMember = 0; nMember < members.size(); ++nMember) {
+            const CMember& member = members[nMember];
+            const std::string row = "\n| " + std::to_string(nMember + 1) + " | `" + member.m_pName;
+            const size_t nRow = reference.find(row);
+            ASSERT_NE(nRow, std::string::npos) << row;
+            reference.erase(0, nRow + row.size());
+            const std::string call = reference.substr(0, reference.find('`'));
+            const auto nCommas = std::count(call.begin(), call.end(), ',');
+            EXPECT_EQ(call.empty(), member.m_pPut != nullptr) << row;
+            EXPECT_EQ(call.size() > 2 ? nCommas + 1 : 0, member.m_nArguments) << row << call;
+        }
+    }
 }
 
 // Under a sanitizer this tells more.
