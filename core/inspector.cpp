@@ -51,10 +51,9 @@ CString ShownValue(const CNamedField& field, const CString& value) {
     return field.m_bFileName ? CString(SystemSpelling(value)) : value;
 }
 
-CString TakenValue(const CNamedField& field, FieldKind kind, const CString& value) {
-    if (!field.m_bFileName || value.IsEmpty())
-        return AsDialogStores(field, kind, value);
-    return FullPath(value);
+// The other way round.
+CString KeptValue(const CNamedField& field, const CString& value) {
+    return field.m_bFileName && !value.IsEmpty() ? FullPath(value) : value;
 }
 
 } // namespace
@@ -137,28 +136,48 @@ CItems CInspector::GetFieldItems(const CString& name) {
 CString CInspector::SetField(const CString& name, const CString& value) {
     const std::vector<CNamedField> fields = ListFields(Gadget());
     const CNamedField& field = FieldOf(fields, name, false);
-    *field.m_Values[0] = TakenValue(field, TypeOfField(fields, field).m_Kind, value);
+    *field.m_Values[0] = KeptValue(field, AsDialogStores(field, TypeOfField(fields, field).m_Kind, value));
     UpdateBorder(fields, field);
     return RemarkOn(name);
 }
 
-CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
-    std::vector<CNamedField> fields = ListFields(Gadget());
-    const CNamedField* pField = &FieldOf(fields, name, true);
-    const FieldKind kind = TypeOfField(fields, *pField).m_Kind;
-    std::vector<CString> values; // all of them are good before one is set
-    for (CStringArray::Index nItem = 0; nItem < items.m_Items.GetSize(); ++nItem)
-        values.push_back(TakenValue(*pField, kind, items.m_Items[nItem]));
+// How many items all lists get when one of them gets these.
+CStringArray::Index CInspector::ItemsBeside(const std::vector<CNamedField>& fields, const CNamedField& field,
+                                            const CItems& items) const {
     const CNamedField* pTexts = FindField(fields, "m_Texts");
-    const bool bAtLeastTexts = pTexts && pTexts != pField;
-    ResizeLists(Gadget(), static_cast<CStringArray::Index>(
-                              std::max(values.size(), bAtLeastTexts ? pTexts->m_Values.size() : 0)));
-    fields = ListFields(Gadget());
-    pField = FindField(fields, name);
-    for (size_t nItem = 0; nItem < std::min(values.size(), pField->m_Values.size()); ++nItem)
-        *pField->m_Values[nItem] = std::move(values[nItem]);
-    return values.size() > pField->m_Values.size() ? pField->m_Name + " has fewer items than that"
-                                                   : RemarkOn(name);
+    const CStringArray::Index nTexts =
+        pTexts && pTexts != &field ? static_cast<CStringArray::Index>(pTexts->m_Values.size()) : 0;
+    return std::max(items.m_Items.GetSize(), nTexts);
+}
+
+CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField& field = FieldOf(fields, name, true);
+    const FieldKind kind = TypeOfField(fields, field).m_Kind;
+    CItems values; // all of them are good before one is set
+    for (CStringArray::Index nItem = 0; nItem < items.m_Items.GetSize(); ++nItem)
+        values.m_Items.Add(AsDialogStores(field, kind, items.m_Items[nItem]));
+    PutFieldItems(name, values);
+    return RemarkOn(name);
+}
+
+void CInspector::PutField(const CString& name, const CString& value) {
+    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const CNamedField& field = FieldOf(fields, name, false);
+    *field.m_Values[0] = KeptValue(field, value);
+}
+
+void CInspector::PutFieldItems(const CString& name, const CItems& items) {
+    std::vector<CNamedField> fields = ListFields(Gadget());
+    ResizeLists(Gadget(), ItemsBeside(fields, FieldOf(fields, name, true), items));
+    fields = ListFields(Gadget()); // their items have moved
+    const CNamedField& field = FieldOf(fields, name, true);
+    const auto nGiven = static_cast<size_t>(items.m_Items.GetSize());
+    if (nGiven > field.m_Values.size())
+        throw CRefusal(std::string(field.m_Name.View()) + " has " + std::to_string(field.m_Values.size()) +
+                       " items and no more");
+    for (size_t nItem = 0; nItem < nGiven; ++nItem)
+        *field.m_Values[nItem] = KeptValue(field, items.m_Items[static_cast<CStringArray::Index>(nItem)]);
 }
 
 // What a file would bring back is seen by writing one's parameters and reading them into a new object.
@@ -244,6 +263,21 @@ CItems CInspector::GetDamage() {
         CountRecords(damage, "segment", GetSegmentNumber(), Form().m_nSegmentEnds);
     }
     return damage;
+}
+
+CString CInspector::GetProblem() {
+    constexpr size_t kUpToParameters = 4; // the Parameter Part's end, among the markers
+    const CString component = GetDescriptionValue("ProgID");
+    if (Form().m_nMarkers < kUpToParameters)
+        return GetDamage().m_Items[0];
+    if (component.IsEmpty())
+        return CString("doesn't say which component it belongs to (ProgID); effects are those of ") + kProgID;
+    if (component != kProgID)
+        return "belongs to another component, " + component + "; effects are those of " + kProgID;
+    const CString type = GetListItem(GetParameterValue("DhtmlType"), 0);
+    if (type == "0")
+        return "no effect has been chosen for it yet";
+    return FindEffect(type) ? "" : "names no effect that is known here (DhtmlType is \"" + type + "\")";
 }
 
 CString CInspector::GetFileError() {
@@ -351,6 +385,8 @@ std::span<const CMember> GetInspectorMembers() {
         Method<&I::GetFieldItems>("GetFieldItems"),
         Method<&I::SetField>("SetField"),
         Method<&I::SetFieldItems>("SetFieldItems"),
+        Method<&I::PutField>("PutField"),
+        Method<&I::PutFieldItems>("PutFieldItems"),
         Method<&I::GetDescriptionKeys>("GetDescriptionKeys"),
         Method<&I::GetDescriptionValue>("GetDescriptionValue"),
         Method<&I::GetParameterKeys>("GetParameterKeys"),
@@ -361,6 +397,8 @@ std::span<const CMember> GetInspectorMembers() {
         Method<&I::GetSegmentPosition>("GetSegmentPosition"),
         Method<&I::GetSegmentBody>("GetSegmentBody"),
         Method<&I::GetDamage>("GetDamage"),
+        Method<&I::GetProblem>("GetProblem"),
+        Method<&I::IsConfigFile>("IsConfigFile"),
         Method<&I::GetFileError>("GetFileError"),
         Method<&I::GetPageFileNumber>("GetPageFileNumber"),
         Method<&I::GetPageFileSource>("GetPageFileSource"),

@@ -43,6 +43,10 @@ public:
     // that aren't m_Texts, no fewer than there are texts.
     CString SetFieldItems(const CString& field, const CItems& items);
 
+    // The same as a file would: the value as it is, whatever it is, and nothing that derives from it.
+    void PutField(const CString& field, const CString& value);
+    void PutFieldItems(const CString& field, const CItems& items);
+
     // The file that was read last, since a host asked for this interface: its keys in the order of the file, its records as they were read, and what is wrong
     // with its form, a sentence's rest each. What a file doesn't have is empty.
     CItems GetDescriptionKeys();
@@ -56,8 +60,10 @@ public:
     CString GetSegmentPosition(int nIndex);
     CString GetSegmentBody(int nIndex);
     CItems GetDamage();
+    // Why no effect has come from the file, a sentence's rest; empty when one has.
+    CString GetProblem();
     // Whether anything of the file was recognised.
-    bool IsConfigFile() { return Form().m_nMarkers > 0; }
+    bool IsConfigFile() const { return Form().m_nMarkers > 0; }
     // The system's sentence for what kept the last file from being read or written; empty for nothing.
     CString GetFileError();
 
@@ -100,6 +106,8 @@ private:
     const CConfigForm& Form() const { return m_Orrelix.m_Form; }
     CFieldType TypeOf(const CString& field);
     CString RemarkOn(const CString& field);
+    CStringArray::Index ItemsBeside(const std::vector<CNamedField>& fields, const CNamedField& field,
+                                    const CItems& items) const;
     void CountRecords(CItems& damage, const char* pNoun, long nPromised, long nThere);
 
     COrrelix& m_Orrelix;
