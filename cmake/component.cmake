@@ -11,10 +11,11 @@ file(GLOB platform_sources CONFIGURE_DEPENDS platform/*.cpp)
 list(FILTER platform_sources EXCLUDE REGEX "_(posix|windows)\\.cpp$")
 list(APPEND platform_sources ${platform_services})
 
-# The system, the dialogs' toolkit and what both stand on: all that the windows' library needs of the component, so their
-# symbols are seen outside of it.
+# The system and the dialogs' toolkit: all that the windows' library needs of the component, so their symbols are seen
+# outside of it.
 file(GLOB toolkit_sources CONFIGURE_DEPENDS toolkit/*.cpp)
-add_library(orrelix_toolkit OBJECT ${platform_sources} ${toolkit_sources})
+add_library(orrelix_platform OBJECT ${platform_sources})
+add_library(orrelix_toolkit OBJECT ${toolkit_sources})
 
 # The lower floor of core: the store, the parameters, the HTML and the contract of all gadgets. It knows no gadget and no
 # dialog.
@@ -28,14 +29,16 @@ list(REMOVE_ITEM core_sources ${store_sources})
 file(GLOB component_sources CONFIGURE_DEPENDS gadgets/*.cpp dialogs/*.cpp controls/*.cpp resources/*.cpp)
 add_library(orrelix_component OBJECT ${core_sources} ${component_sources})
 
-set(floors orrelix_toolkit orrelix_store orrelix_component)
+set(floors orrelix_platform orrelix_toolkit orrelix_store orrelix_component)
 foreach(floor ${floors})
     target_link_libraries(${floor} PRIVATE orrelix_options)
     target_include_directories(${floor} PRIVATE ${PROJECT_SOURCE_DIR})
     # Without unique symbols, which would keep the library loaded for ever.
     target_compile_options(${floor} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
-    set_target_properties(${floor} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    set_target_properties(${floor} PROPERTIES POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endforeach()
+set_target_properties(orrelix_platform orrelix_toolkit PROPERTIES CXX_VISIBILITY_PRESET default)
 
 set(objects ${floors})
 list(TRANSFORM objects REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>")
@@ -43,7 +46,6 @@ list(TRANSFORM objects REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>")
 # What hosts load.
 add_library(orrelix SHARED ${objects})
 target_link_libraries(orrelix PRIVATE ${CMAKE_DL_LIBS})
-target_include_directories(orrelix PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
 target_link_options(orrelix PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/component.map)
 set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/component.map)

@@ -26,10 +26,14 @@ if(ORRELIX_PARSERS)
     target_link_libraries(orrelix_program PRIVATE ${GUMBO_LIBRARY} ${DUKTAPE_LIBRARY})
 endif()
 set_target_properties(orrelix_program PROPERTIES OUTPUT_NAME orrelix)
-target_link_libraries(orrelix_program PRIVATE orrelix orrelix_options CLI11::CLI11 fmt::fmt-header-only
-    nlohmann_json::nlohmann_json)
-target_compile_definitions(orrelix_program PRIVATE ORRELIX_VERSION="${PROJECT_VERSION}")
-add_dependencies(orrelix_program scripts)
+# It loads the component as any other host does, and shares nothing with it but the source of platform/.
+target_sources(orrelix_program PRIVATE $<TARGET_OBJECTS:orrelix_platform>)
+target_include_directories(orrelix_program PRIVATE ${PROJECT_SOURCE_DIR})
+target_link_libraries(orrelix_program PRIVATE orrelix_options CLI11::CLI11 fmt::fmt-header-only
+    nlohmann_json::nlohmann_json ${CMAKE_DL_LIBS})
+target_compile_definitions(orrelix_program PRIVATE ORRELIX_VERSION="${PROJECT_VERSION}"
+    ORRELIX_LIBRARY_DIR="${ORRELIX_LIBRARY_DIR}")
+add_dependencies(orrelix_program orrelix scripts)
 
 install(TARGETS orrelix_program RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES host/orrelix.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -1,22 +1,19 @@
 #include "host/edit.h"
 
-#include "core/config_format.h"
-#include "core/orrelix.h"
-#include "host/component_path.h"
+#include "host/component.h"
 #include "host/effect_check.h"
+#include "host/fields.h"
+#include "host/files.h"
 #include "host/generated_effect.h"
-#include "host/named_fields.h"
 #include "host/nearest_word.h"
 #include "host/text_encoding.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "resources/effects.h"
-#include "toolkit/desktop_loader.h"
 
-#include <chrono>
 #include <fmt/format.h>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 namespace orrelix {
 
@@ -24,21 +21,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::vector<std::string> EffectNames() {
+std::vector<std::string> EffectNames(const CEffectObject& object) {
     std::vector<std::string> names;
-    for (const CEffect& effect : kEffects)
-        names.push_back(fmt::format("\"{}\"", effect.m_pName));
+    for (const std::string& name : object.Ask<vignel::Items>("GetEffectNames"))
+        names.push_back(fmt::format("\"{}\"", name));
     return names;
 }
 
-std::string AllEffects() {
-    return fmt::format("{}", fmt::join(EffectNames(), ", "));
-}
-
-// As properties of files have it.
-double Now() {
-    using namespace std::chrono;
-    return duration<double, days::period>(system_clock::now() - kDayZero).count();
+std::string AllEffects(const CEffectObject& object) {
+    return fmt::format("{}", fmt::join(EffectNames(object), ", "));
 }
 
 // A text of the command line, which is in UTF-8, as the file has it. Bytes that are no UTF-8 go into a UTF-8
@@ -73,25 +64,65 @@ std::string ToTerminal(const CString& value) {
     return Printable(ToUtf8(value.View()).m_Text);
 }
 
-void PrintFields(CDhtmlGadget& gadget) {
-    for (const CNamedField& field : ListFields(gadget)) {
+// "  [number 0 to 5000]", "  [none, dotted, solid]"; nothing for a text.
+std::string Explanation(const CEffectObject& object, const CNamedField& field) {
+    const auto choices = object.Ask<vignel::Items>("GetFieldChoices", field.m_Name);
+    const int nMost = object.Ask<int>("GetFieldMaximum", field.m_Name);
+    if (!choices.empty())
+        return fmt::format("  [{}]", fmt::join(choices, ", "));
+    if (nMost > 0)
+        return fmt::format("  [{} {} to {}]", field.m_Kind, object.Ask<int>("GetFieldMinimum", field.m_Name), nMost);
+    return field.m_Kind == "text" ? "" : fmt::format("  [{}]", field.m_Kind);
+}
+
+void PrintFields(const CEffectObject& object) {
+    for (const CNamedField& field : ListFields(object)) {
         const char sign = field.m_bList ? '+' : '=';
-        for (const CString& value : field.m_Values)
-            std::cout << fmt::format("{:24} {} {}\n", field.m_Name, sign, ToTerminal(value));
+        std::string explanation = Explanation(object, field);
+        for (const CString& value : field.m_Values) {
+            std::cout << fmt::format("{:24} {} {}{}\n", field.m_Name, sign, ToTerminal(value), explanation);
+            explanation.clear(); // once for a list
+        }
         if (field.m_Values.empty())
-            std::cout << fmt::format("{:24} + (no items)\n", field.m_Name);
+            std::cout << fmt::format("{:24} + (no items){}\n", field.m_Name, explanation);
     }
+}
+
+void PrintFieldsAsJson(const CEffectObject& object) {
+    nlohmann::ordered_json json = nlohmann::ordered_json::array();
+    for (const CNamedField& field : ListFields(object)) {
+        nlohmann::ordered_json row = {{"name", field.m_Name}, {"kind", field.m_Kind}};
+        std::vector<std::string> values;
+        for (const CString& value : field.m_Values)
+            values.push_back(ToUtf8(value.View()).m_Text);
+        if (field.m_bList)
+            row["items"] = values;
+        else
+            row["value"] = values.front();
+        if (const auto choices = object.Ask<vignel::Items>("GetFieldChoices", field.m_Name); !choices.empty())
+            row["choices"] = choices;
+        if (const int nMost = object.Ask<int>("GetFieldMaximum", field.m_Name); nMost > 0) {
+            row["minimum"] = object.Ask<int>("GetFieldMinimum", field.m_Name);
+            row["maximum"] = nMost;
+        }
+        json.push_back(std::move(row));
+    }
+    std::cout << json.dump(2) << '\n';
+}
+
+void ListFields(const CEffectObject& object, const CEditOptions& options) {
+    options.m_bJson ? PrintFieldsAsJson(object) : PrintFields(object);
 }
 
 // Whether a file that the effect needs would land on another one. Without a screen nobody can be asked, and a
 // name that is taken would leave the effect without its image.
-bool WouldOverwrite(COrrelix& orrelix, const CString& directory, CReport& report) {
+bool WouldOverwrite(const CEffectObject& object, const CString& directory, CReport& report) {
     bool bTaken = false;
-    for (short nIndex = 0; nIndex < orrelix.GetResourceNumber(); ++nIndex) {
-        const CString name = orrelix.GetResourceName(nIndex);
-        const CString source = orrelix.GetResourceLocalPath(nIndex);
+    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
+        const CString name = object.GetResourceName(nIndex);
+        const CString source = object.GetResourceLocalPath(nIndex);
         // Scripts are the component's own and are always brought up to date.
-        if (source == GetModuleDirectory() + "\\" || source == directory || !FileExists(directory + name))
+        if (source == object.GetScriptFolder() || source == directory || !FileExists(directory + name))
             continue;
         report.Error(
             SystemPath(directory + name).string(),
@@ -102,17 +133,17 @@ bool WouldOverwrite(COrrelix& orrelix, const CString& directory, CReport& report
 }
 
 // Writing makes the component forget files that are gone, which nobody asked for.
-bool HasLostFiles(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
+bool HasLostFiles(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     bool bLost = false;
-    for (const CNamedField& field : ListFields(*orrelix.m_pGadget)) {
+    for (const CNamedField& field : ListFields(object)) {
         for (const CString& value : field.m_Values) {
-            if (!field.m_bFileName || value.IsEmpty() || FileExists(value))
+            if (!field.IsFile() || value.IsEmpty() || FileExists(FromSystemPath(value)))
                 continue;
             report.Error(
                 options.m_File.string(),
                 fmt::format("the effect needs the file {}, which is missing; put it there, or set {} "
                             "to another one or to nothing",
-                            SystemPath(value).string(), field.m_Name));
+                            value.View(), field.m_Name));
             bLost = true;
         }
     }
@@ -120,10 +151,10 @@ bool HasLostFiles(COrrelix& orrelix, const CEditOptions& options, CReport& repor
 }
 
 // The component doesn't say when a copy fails.
-void CheckCopies(COrrelix& orrelix, const CString& directory, CReport& report) {
-    for (short nIndex = 0; nIndex < orrelix.GetResourceNumber(); ++nIndex) {
-        const CString name = orrelix.GetResourceName(nIndex);
-        const CString source = orrelix.GetResourceLocalPath(nIndex) + name;
+void CheckCopies(const CEffectObject& object, const CString& directory, CReport& report) {
+    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
+        const CString name = object.GetResourceName(nIndex);
+        const CString source = object.GetResourceLocalPath(nIndex) + name;
         if (!SameContent(source, directory + name))
             report.Error(SystemPath(directory + name).string(),
                          fmt::format("the page needs it, but {} couldn't be copied there",
@@ -131,42 +162,45 @@ void CheckCopies(COrrelix& orrelix, const CString& directory, CReport& report) {
     }
 }
 
-void Write(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
+void Write(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     const CString path = ComponentPath(options.m_File);
     const CString directory = DirectoryOfPath(path) + "\\";
     // Who has worked in dialogs isn't sent away with nothing.
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
-    if (HasLostFiles(orrelix, options, report) && bByOptions)
+    if (HasLostFiles(object, options, report) && bByOptions)
         return;
-    if (!options.m_bOverwrite && !FindDesktop() && WouldOverwrite(orrelix, directory, report))
+    if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") && WouldOverwrite(object, directory, report))
         return;
-    orrelix.SetLastUpdateTime(Now());
-    if (!orrelix.WriteConfigFileEx(path, options.m_bOverwrite ? 1 : 0))
-        return report.Error(options.m_File.string(), "can't be written: " + orrelix.m_FileError.message());
-    CheckCopies(orrelix, directory, report);
+    object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
+    if (!object.WriteConfigFileEx(PathForComponent(options.m_File), options.m_bOverwrite))
+        return report.Error(options.m_File.string(), "can't be written: " + object.Ask<std::string>("GetFileError"));
+    CheckCopies(object, directory, report);
     std::cout << options.m_File.string() << '\n';
-    WarnOfHarmfulTexts(options.m_File, report);
+    WarnOfHarmfulTexts(object, options.m_File.string(), report);
 }
 
 // Runs the dialogs. False when there is nobody to show them to, or who cancelled.
-bool RunDialogs(COrrelix& orrelix, const CEditOptions& options, const std::string& otherWay,
+bool RunDialogs(const CEffectObject& object, const CEditOptions& options, const std::string& otherWay,
                 CReport& report) {
-    if (!FindDesktop()) {
+    if (!object.Ask<bool>("CanShowDialogs")) {
         report.Error(options.m_File.string(),
                      "there is no screen to show dialogs on; without one, " + otherWay);
         return false;
     }
-    if (orrelix.Config())
+    if (object.Config())
         return true;
     report.Error(options.m_File.string(), "cancelled; nothing has been written");
     return false;
 }
 
-bool ChangeByOptions(COrrelix& orrelix, const CEditOptions& options, CReport& report) {
+bool ChangeByOptions(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     CFieldValues values;
     if (!ParseSets(options.m_Sets, values, report))
         return false;
-    const std::string problem = SetFields(*orrelix.m_pGadget, values);
+    std::vector<std::string> remarks;
+    const std::string problem = SetFields(object, values, remarks);
+    for (const std::string& remark : remarks)
+        report.Warning("--set", remark);
     if (!problem.empty())
         report.WrongUsage("--set", problem);
     return problem.empty();
@@ -178,50 +212,50 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     const std::string name = options.m_File.string();
     if (!options.m_bListFields && fs::exists(options.m_File))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
+    const CEffectObject object;
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
         return report.WrongUsage(
             name,
-            "has no effect yet of which there could be fields; name one with --effect: " + AllEffects());
+            "has no effect yet of which there could be fields; name one with --effect: " + AllEffects(object));
     if (Printable(options.m_Title) != options.m_Title)
         return report.WrongUsage("--title", "has a line break or another control character");
-    COrrelix orrelix;
     CString title = TitleFrom(options.m_File.stem().string());
     if (!options.m_Title.empty() && !ToCodePage("--title", options.m_Title, title, report))
         return;
-    orrelix.SetTitle(title);
+    object.SetTitle(std::string(title.View()));
     // These, too, in the order in which they are to stand in the file.
-    orrelix.SetDescription("");
-    orrelix.SetBitmapFileName("");
-    orrelix.SetPreviewPath("");
+    object.SetDescription("");
+    object.SetBitmapFileName("");
+    object.SetPreviewPath("");
     if (options.m_Effect.empty()) {
-        if (RunDialogs(orrelix, options, "name one of the effects with --effect: " + AllEffects(), report))
-            Write(orrelix, options, report);
+        if (RunDialogs(object, options, "name one of the effects with --effect: " + AllEffects(object), report))
+            Write(object, options, report);
         return;
     }
-    const CEffect* pEffect = FindEffectNamed(options.m_Effect);
-    if (!pEffect)
+    vignel::Result known;
+    object.SetEffect(options.m_Effect, known);
+    if (!known)
         return report.WrongUsage("--effect " + options.m_Effect,
-                                 "is no effect; " + DidYouMean('"' + options.m_Effect + '"', EffectNames(),
-                                                               "there are " + AllEffects()));
-    orrelix.SelectType(TypeOf(*pEffect));
+                                 "is no effect; " + DidYouMean('"' + options.m_Effect + '"', EffectNames(object),
+                                                               "there are " + AllEffects(object)));
     if (options.m_bListFields)
-        PrintFields(*orrelix.m_pGadget);
-    else if (ChangeByOptions(orrelix, options, report))
-        Write(orrelix, options, report);
+        ListFields(object, options);
+    else if (ChangeByOptions(object, options, report))
+        Write(object, options, report);
 }
 
 void EditEffect(const CEditOptions& options, CReport& report) {
-    COrrelix orrelix;
-    OpenEffect(options.m_File, orrelix);
+    const CEffectObject object;
+    OpenEffect(options.m_File, object);
     if (options.m_bListFields)
-        return PrintFields(*orrelix.m_pGadget);
+        return ListFields(object, options);
     const bool bChanged =
         options.m_Sets.empty()
-            ? RunDialogs(orrelix, options, "set fields with --set NAME=VALUE; --list-fields shows them",
+            ? RunDialogs(object, options, "set fields with --set NAME=VALUE; --list-fields shows them",
                          report)
-            : ChangeByOptions(orrelix, options, report);
+            : ChangeByOptions(object, options, report);
     if (bChanged)
-        Write(orrelix, options, report);
+        Write(object, options, report);
 }
 
 } // namespace orrelix

@@ -15,6 +15,7 @@ struct CEditOptions {
     std::string m_Effect;            // for new without dialogs: the effect's name
     std::vector<std::string> m_Sets; // "m_Name=value"; a list's name once for each item
     bool m_bListFields = false;      // print the fields instead of writing anything
+    bool m_bJson = false;            // as JSON
     bool m_bOverwrite = false;       // copy images over files of the same name
 };
 

@@ -2,7 +2,7 @@
 
 #include "host/generated_effect.h"
 #include "host/html_outline.h"
-#include "host/named_fields.h"
+#include "host/fields.h"
 #include "host/script_syntax.h"
 #include "host/text_encoding.h"
 
@@ -108,16 +108,16 @@ struct CAuthorText {
 // compared with that of harmless texts alone. So a text is told by what it does, wherever it stands.
 class CEffectCheck {
 public:
-    CEffectCheck(const std::filesystem::path& path, CReport& report)
-        : m_Name(path.string()), m_Report(report) {
-        OpenEffect(path, m_Orrelix);
-        const CString title = m_Orrelix.GetTitle();
+    CEffectCheck(const CEffectObject& object, const std::string& subject, CReport& report)
+        : m_Name(subject), m_Report(report), m_Object(object) {
+        const CString title = m_Object.GetTitle();
         m_Texts.push_back({"", 0, false, title, TitleFrom(title.View())});
-        for (const CNamedField& field : ListFields(*m_Orrelix.m_pGadget)) {
+        for (const CNamedField& field : ListFields(m_Object)) {
             for (size_t i = 0; i < field.m_Values.size(); ++i)
-                m_Texts.push_back({field.m_Name, field.m_bList ? i + 1 : 0, field.m_bFileName,
-                                   field.m_Values[i], HarmlessText(field.m_Values[i])});
+                m_Texts.push_back({field.m_Name, field.m_bList ? i + 1 : 0, field.IsFile(), field.m_Values[i],
+                                   HarmlessText(field.m_Values[i])});
         }
+        m_Current = Range(0, m_Texts.size());
     }
 
     void Run() {
@@ -153,13 +153,29 @@ private:
         return texts;
     }
 
+    // Gives the object these texts, as far as it has others.
+    void Put(const CTexts& texts) {
+        if (texts[0] != m_Current[0])
+            m_Object.SetTitle(std::string(texts[0].View()));
+        for (size_t nBegin = 1, nEnd; nBegin < texts.size(); nBegin = nEnd) {
+            const std::string& field = m_Texts[nBegin].m_Field;
+            vignel::Items items;
+            bool bChanged = false;
+            for (nEnd = nBegin; nEnd < texts.size() && m_Texts[nEnd].m_Field == field; ++nEnd) {
+                bChanged = bChanged || texts[nEnd] != m_Current[nEnd];
+                items.emplace_back(texts[nEnd].View());
+            }
+            if (bChanged && m_Texts[nBegin].m_nItem > 0)
+                m_Object.Ask("PutFieldItems", field, items);
+            else if (bChanged)
+                m_Object.Ask("PutField", field, items.front());
+        }
+        m_Current = texts;
+    }
+
     std::vector<CHtmlElement> Generate(const CTexts& texts) {
-        m_Orrelix.SetTitle(texts[0]);
-        CFieldValues values;
-        for (size_t i = 1; i < texts.size(); ++i)
-            values[m_Texts[i].m_Field].push_back(texts[i]);
-        SetFields(*m_Orrelix.m_pGadget, values);
-        const CString html = ScriptText(m_Orrelix, kPublish) + m_Orrelix.GetHTMLBody(0, kPublish);
+        Put(texts);
+        const CString html = ScriptText(m_Object, kPublish) + CString(m_Object.GetHTMLBody(0, kPublish));
         return OutlineOfHtml(ToUtf8(html.View()).m_Text);
     }
 
@@ -240,9 +256,9 @@ private:
     // What a new effect has in the field, if that works here.
     CString WorkingValue(size_t nText) {
         const CAuthorText& text = m_Texts[nText];
-        COrrelix fresh;
-        fresh.SelectType(m_Orrelix.m_Type);
-        for (const CNamedField& field : ListFields(*fresh.m_pGadget)) {
+        const CEffectObject fresh;
+        fresh.SetEffect(std::string(m_Object.GetEffect().View()));
+        for (const CNamedField& field : ListFields(fresh)) {
             if (field.m_Name == text.m_Field && !field.m_bList &&
                 JudgeOne(nText, field.m_Values[0]) == EDamage::kNone)
                 return field.m_Values[0];
@@ -314,17 +330,18 @@ private:
 
     const std::string m_Name;
     CReport& m_Report;
-    COrrelix m_Orrelix;
+    const CEffectObject& m_Object;
     CScriptSyntax m_Syntax;
     std::vector<CAuthorText> m_Texts;
+    CTexts m_Current;                  // what the object has
     std::vector<CHtmlElement> m_Whole; // the effect of harmless texts
     int m_nWarnings = 0;
 };
 
 } // namespace
 
-void WarnOfHarmfulTexts(const std::filesystem::path& path, CReport& report) {
-    CEffectCheck(path, report).Run();
+void WarnOfHarmfulTexts(const CEffectObject& object, const std::string& subject, CReport& report) {
+    CEffectCheck(object, subject, report).Run();
 }
 
 } // namespace orrelix

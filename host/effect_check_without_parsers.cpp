@@ -3,6 +3,6 @@
 
 namespace orrelix {
 
-void WarnOfHarmfulTexts(const std::filesystem::path&, CReport&) {}
+void WarnOfHarmfulTexts(const CEffectObject&, CReport&) {}
 
 } // namespace orrelix

@@ -1,15 +1,17 @@
 // An effect as a host has it from the component: its texts for a page and the files that they need.
 #pragma once
 
-#include "core/orrelix.h"
-#include "host/config_check.h"
-#include "platform/string.h"
+#include "host/component.h"
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orrelix {
+
+// How generated text refers to files; see GetHTMLBody.
+enum EHtmlMode { kPreview = 0, kPublish = 1 };
 
 // A file that a page needs.
 struct CEffectFile {
@@ -22,22 +24,19 @@ struct CEffectFile {
 
 struct CGeneratedEffect {
     CString m_Title;
-    const CEffect* m_pEffect = nullptr;
+    std::string m_Effect; // its name
+    std::string m_Description;
     CString m_Script; // what belongs into the page's head; may be empty
     CString m_Cursor; // what belongs to the place of the effect
     std::vector<CEffectFile> m_Files;
     std::vector<CString> m_Lost; // files that the texts refer to and that the component no longer finds
 };
 
-// Reads the file into the component. Throws CFileError when no effect comes from it.
-CConfigCheck OpenEffect(const std::filesystem::path& path, COrrelix& orrelix);
-
-// The text of a preview refers to files beside the page. Throws CFileError when no effect comes from the
-// file.
-CGeneratedEffect GenerateEffect(const std::filesystem::path& path, EHtmlMode mode);
+// What an object has read. The text of a preview refers to files beside the page.
+CGeneratedEffect GenerateEffect(const CEffectObject& object, EHtmlMode mode);
 
 // The text that belongs into the page's head; empty for effects that have none of their own.
-CString ScriptText(COrrelix& orrelix, EHtmlMode mode);
+CString ScriptText(const CEffectObject& object, EHtmlMode mode);
 
 // A title that can stand in names of a page's script: letters, digits and "_", no digit first.
 std::string TitleFrom(std::string_view text);

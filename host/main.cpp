@@ -1,9 +1,9 @@
 // The program orrelix: what a page editor does with the component, as commands.
-#include "host/component_path.h"
 #include "host/edit.h"
 #include "host/nearest_word.h"
 #include "host/preview.h"
 #include "host/publish.h"
+#include "host/registration.h"
 #include "host/report.h"
 #include "host/show.h"
 #include "host/text_encoding.h"
@@ -68,6 +68,7 @@ void AddEditOptions(CLI::App& command, CEditOptions& options) {
         ->allow_extra_args(false);
     command.add_flag("--list-fields", options.m_bListFields,
                      "Print the fields and what they hold, and write nothing");
+    command.add_flag("--json", options.m_bJson, "With --list-fields: print them as JSON");
     command.add_flag("--overwrite", options.m_bOverwrite, "Copy images over files of the same name");
 }
 
@@ -89,6 +90,21 @@ CCommand AddEdit(CLI::App& program) {
     pEdit->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     AddEditOptions(*pEdit, *pOptions);
     return {pEdit, [pOptions](CReport& report) { EditEffect(*pOptions, report); }};
+}
+
+CCommand AddRegister(CLI::App& program) {
+    auto pLibrary = std::make_shared<std::filesystem::path>();
+    CLI::App* pRegister = program.add_subcommand("register", "Let editors find the component");
+    pRegister->add_option("LIBRARY", *pLibrary, "The component's library; else the one beside the program");
+    return {pRegister, [pLibrary](CReport& report) { Register(*pLibrary, report); }};
+}
+
+CCommand AddUnregister(CLI::App& program) {
+    return {program.add_subcommand("unregister", "Take the component out of the user's registry"), Unregister};
+}
+
+CCommand AddServers(CLI::App& program) {
+    return {program.add_subcommand("servers", "Print the components that editors find"), PrintServers};
 }
 
 // Whatever a command throws makes the program fail and nothing else.
@@ -146,7 +162,8 @@ int RunProgram(int nArguments, char** ppArguments) {
     program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
         ->type_name("N");
     const CCommand commands[] = {AddNew(program), AddEdit(program), AddShow(program), AddPreview(program),
-                                 AddPublish(program)};
+                                 AddPublish(program), AddRegister(program), AddUnregister(program),
+                                 AddServers(program)};
     // The last one first, as the parser takes them.
     std::vector<std::string> arguments(std::reverse_iterator(ppArguments + nArguments),
                                        std::reverse_iterator(ppArguments + 1));

@@ -1,6 +1,6 @@
 #include "host/preview.h"
 
-#include "host/component_path.h"
+#include "host/files.h"
 #include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/preview_page.h"
@@ -52,11 +52,13 @@ private:
                                  fmt::format("would have its page where that of {} is; rename one of them",
                                              other.m_Source));
         }
-        const CGeneratedEffect effect = GenerateEffect(file, kPreview);
+        const CEffectObject object;
+        OpenEffect(file, object);
+        const CGeneratedEffect effect = GenerateEffect(object, kPreview);
         m_Copies.Plan(effect, page, file.string());
         CPreviewPage preview{name, file.string(), effect};
         WarnOfInvalidText(preview);
-        WarnOfHarmfulTexts(file, m_Report);
+        WarnOfHarmfulTexts(object, file.string(), m_Report);
         Write(name, EffectPage(preview));
         m_Pages.push_back(std::move(preview));
     }

@@ -1,8 +1,9 @@
 #include "host/preview_page.h"
 
-#include "core/html_text.h"
 #include "host/report.h"
 #include "host/text_encoding.h"
+
+#include <fmt/format.h>
 
 namespace orrelix {
 
@@ -182,8 +183,14 @@ std::string AddressOf(std::string_view name) {
 
 // The effect's kind and, where the file gives one, its title.
 std::string HeadingOf(const CPreviewPage& page) {
-    const std::string name = page.m_Effect.m_pEffect->m_pName;
+    const std::string& name = page.m_Effect.m_Effect;
     return page.m_Effect.m_Title.IsEmpty() ? name : name + ": " + Escaped(page.m_Effect.m_Title.View());
+}
+
+// A pattern that begins on a line of its own, with its fields.
+template <class... TField>
+std::string Fill(fmt::format_string<TField...> pattern, TField&&... fields) {
+    return fmt::format(pattern, std::forward<TField>(fields)...).substr(1);
 }
 
 // A page of our own around what stands in its body.
@@ -191,15 +198,15 @@ std::string Page(std::string_view attributes, std::string_view label, std::strin
                  std::string_view style, std::string_view script, std::string_view body) {
     return Fill(R"(
 <!DOCTYPE html>
-<html lang="en"$>
+<html lang="en"{}>
 <head>
-<meta charset="$">
+<meta charset="{}">
 <meta name="viewport" content="width=device-width, initial-scale=1">
-<title>$</title>
-<style>$$</style>
-$</head>
+<title>{}</title>
+<style>{}{}</style>
+{}</head>
 <body>
-$</body>
+{}</body>
 </html>
 )",
                 attributes, label, title, kSharedStyle, style, script, body);
@@ -217,15 +224,15 @@ std::string Card(const CPreviewPage& page) {
     const std::string address = AddressOf(page.m_Name);
     return Fill(R"(
 <article>
-<div class="picture"><iframe src="$#effect" title="$" loading="lazy"></iframe></div>
+<div class="picture"><iframe src="{}#effect" title="{}" loading="lazy"></iframe></div>
 <div class="about">
-<h2>$</h2>
-<p>$</p>
-<a href="$">Open $</a>
+<h2>{}</h2>
+<p>{}</p>
+<a href="{}">Open {}</a>
 </div>
 </article>
 )",
-                address, heading, heading, Escaped(page.m_Effect.m_pEffect->m_pDescription), address,
+                address, heading, heading, Escaped(page.m_Effect.m_Description), address,
                 address);
 }
 
@@ -237,14 +244,14 @@ std::string EffectPage(const CPreviewPage& page) {
         const std::string heading = HeadingOf(page);
         const std::string body = Fill(R"(
 <header class="orrelix-header">
-<h1>$</h1>
-<p>$</p>
+<h1>{}</h1>
+<p>{}</p>
 </header>
 <main class="orrelix-stage">
-$</main>
+{}</main>
 )",
-                                      heading, Escaped(effect.m_pEffect->m_pDescription), effect.m_Cursor);
-        return Page(R"( class="orrelix-page" id="effect")", label, heading, kEffectStyle, effect.m_Script,
+                                      heading, Escaped(effect.m_Description), effect.m_Cursor.View());
+        return Page(R"( class="orrelix-page" id="effect")", label, heading, kEffectStyle, effect.m_Script.View(),
                     body);
     });
 }
@@ -257,10 +264,10 @@ std::string IndexPage(const std::vector<CPreviewPage>& pages) {
         const std::string body = Fill(R"(
 <header class="orrelix-header">
 <h1>Effects</h1>
-<p>$, each running in its own page.</p>
+<p>{}, each running in its own page.</p>
 </header>
 <main>
-$</main>
+{}</main>
 )",
                                       Counted(pages.size(), "effect"), cards);
         return Page("", label, "Effects", kIndexStyle, "", body);

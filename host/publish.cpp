@@ -1,6 +1,6 @@
 #include "host/publish.h"
 
-#include "host/component_path.h"
+#include "host/files.h"
 #include "host/effect_check.h"
 #include "host/generated_effect.h"
 #include "host/marked_page.h"
@@ -82,7 +82,9 @@ void Publish(const CPublishOptions& options, CReport& report) {
     if (!site.Holds(options.m_Page))
         return report.Error(pageName, "doesn't lie in the site's folder " + options.m_Site.string());
 
-    const CGeneratedEffect effect = GenerateEffect(options.m_File, kPublish);
+    const CEffectObject object;
+    OpenEffect(options.m_File, object);
+    const CGeneratedEffect effect = GenerateEffect(object, kPublish);
     CMarkedPage page(before);
     std::string problem;
     const auto after =
@@ -91,7 +93,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
         return report.Error(pageName, problem + ". Nothing has been written");
     WarnOfCharacters(page, pageName, report);
     WarnOfSurroundings(page, effect, pageName, report);
-    WarnOfHarmfulTexts(options.m_File, report);
+    WarnOfHarmfulTexts(object, options.m_File.string(), report);
 
     // The files first: a page never refers to what isn't there yet.
     const fs::path pagePath =

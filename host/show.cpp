@@ -1,7 +1,6 @@
 #include "host/show.h"
 
-#include "core/config_format.h"
-#include "host/config_check.h"
+#include "host/component.h"
 #include "host/text_encoding.h"
 
 #include <algorithm>
@@ -20,8 +19,8 @@ using Json = nlohmann::ordered_json;
 // A file's texts in UTF-8.
 class CReadableFile {
 public:
-    CReadableFile(const CShowOptions& options, const CConfigCheck& file)
-        : m_Name(options.m_File.string()), m_File(file) {}
+    CReadableFile(const CShowOptions& options, const CEffectObject& object)
+        : m_Name(options.m_File.string()), m_Object(object) {}
 
     Json ToJson();
     void Print(std::ostream& out);
@@ -34,42 +33,42 @@ private:
         m_nInvalid += converted.m_nInvalid;
         return std::move(converted.m_Text);
     }
-    Json KeysToJson(const std::vector<CString>& keys, const CMapStringToString& map);
-    void PrintKeys(std::ostream& out, const std::vector<CString>& keys, const CMapStringToString& map);
-    void PrintSegment(std::ostream& out, const VignelSegment& segment);
+    Json KeysToJson(const char* pKeys, const char* pValue);
+    void PrintKeys(std::ostream& out, const char* pKeys, const char* pValue);
+    void PrintSegment(std::ostream& out, int nSegment);
     std::string Heading() const;
 
     std::string m_Name;
-    const CConfigCheck& m_File;
+    const CEffectObject& m_Object;
     size_t m_nInvalid = 0;
 };
 
-Json CReadableFile::KeysToJson(const std::vector<CString>& keys, const CMapStringToString& map) {
+Json CReadableFile::KeysToJson(const char* pKeys, const char* pValue) {
     Json object = Json::object();
-    for (const CString& key : keys)
-        object[Text(key.View())] = Text(map.Find(key)->View());
+    for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys))
+        object[Text(key)] = Text(m_Object.Ask<std::string>(pValue, key));
     return object;
 }
 
 Json CReadableFile::ToJson() {
     Json json;
     json["file"] = ConvertText(m_Name, "UTF-8", "UTF-8").m_Text;
-    if (const CEffect* pEffect = m_File.GetEffect())
-        json["effect"] = pEffect->m_pName;
-    else
-        json["effect"] = nullptr;
-    json["damage"] = m_File.m_Damage;
-    json["description"] = KeysToJson(m_File.m_Form.m_DescriptionKeys, m_File.m_Store.m_DescriptionMap);
-    json["parameters"] = KeysToJson(m_File.m_Form.m_ParameterKeys, m_File.m_Store.m_ParameterMap);
+    const CString effect = m_Object.GetEffect();
+    json["effect"] = effect.IsEmpty() ? Json() : Json(effect.View());
+    json["damage"] = m_Object.Ask<vignel::Items>("GetDamage");
+    json["description"] = KeysToJson("GetDescriptionKeys", "GetDescriptionValue");
+    json["parameters"] = KeysToJson("GetParameterKeys", "GetParameterValue");
     json["resources"] = Json::array();
-    for (const VignelResource& resource : m_File.m_Store.m_Resources)
-        json["resources"].push_back({{"name", Text(resource.m_Name.View())},
-                                     {"localPath", Text(resource.m_LocalPath.View())},
-                                     {"webPath", Text(resource.m_WebPath.View())}});
+    for (int nResource = 0; nResource < m_Object.Ask<int>("GetStoredResourceNumber"); ++nResource) {
+        const auto fields = m_Object.Ask<vignel::Items>("GetStoredResource", nResource);
+        json["resources"].push_back(
+            {{"name", Text(fields[0])}, {"localPath", Text(fields[1])}, {"webPath", Text(fields[2])}});
+    }
     json["segments"] = Json::array();
-    for (const VignelSegment& segment : m_File.m_Store.m_Segments)
+    for (int nSegment = 0; nSegment < m_Object.Ask<int>("GetSegmentNumber"); ++nSegment)
         json["segments"].push_back(
-            {{"position", Text(segment.m_Position.View())}, {"body", Text(segment.m_Body.View())}});
+            {{"position", Text(m_Object.Ask<std::string>("GetSegmentPosition", nSegment))},
+             {"body", Text(m_Object.Ask<std::string>("GetSegmentBody", nSegment))}});
     return json;
 }
 
@@ -97,32 +96,32 @@ void PrintRows(std::ostream& out, const std::vector<std::vector<std::string>>& r
 }
 
 // A file's days as a date, where they are one that a file can have been written at.
-std::string DateOf(const CString& days) {
+std::string DateOf(const std::string& days) {
     using namespace std::chrono;
-    const double nDays = atof(days);
+    const double nDays = atof(days.c_str());
     if (!(nDays >= 1 && nDays < 100000))
         return "";
     const auto nMinutes = static_cast<long>(std::lround(nDays * 24 * 60));
-    const year_month_day date(kDayZero + std::chrono::days(nMinutes / (24 * 60)));
+    const year_month_day date(sys_days(1899y / December / 30) + std::chrono::days(nMinutes / (24 * 60)));
     return fmt::format(" ({:04}-{:02}-{:02} {:02}:{:02})", static_cast<int>(date.year()),
                        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
                        nMinutes / 60 % 24, nMinutes % 60);
 }
 
-void CReadableFile::PrintKeys(std::ostream& out, const std::vector<CString>& keys,
-                              const CMapStringToString& map) {
+void CReadableFile::PrintKeys(std::ostream& out, const char* pKeys, const char* pValue) {
     std::vector<std::vector<std::string>> rows;
-    for (const CString& key : keys) {
-        const CString& value = *map.Find(key);
-        rows.push_back({Printable(Text(key.View())),
-                        Printable(Text(value.View())) + (key == "LastUpdateTime" ? DateOf(value) : "")});
+    for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys)) {
+        const auto value = m_Object.Ask<std::string>(pValue, key);
+        rows.push_back({Printable(Text(key)),
+                        Printable(Text(value)) + (key == "LastUpdateTime" ? DateOf(value) : "")});
     }
     PrintRows(out, rows);
 }
 
-void CReadableFile::PrintSegment(std::ostream& out, const VignelSegment& segment) {
-    out << "  " << Printable(Text(segment.m_Position.View())) << '\n';
-    std::string_view body = segment.m_Body.View();
+void CReadableFile::PrintSegment(std::ostream& out, int nSegment) {
+    out << "  " << Printable(Text(m_Object.Ask<std::string>("GetSegmentPosition", nSegment))) << '\n';
+    const auto text = m_Object.Ask<std::string>("GetSegmentBody", nSegment);
+    std::string_view body = text;
     while (!body.empty()) {
         const size_t nEnd = body.find("\r\n");
         out << "      " << Printable(Text(body.substr(0, nEnd))) << '\n';
@@ -130,30 +129,37 @@ void CReadableFile::PrintSegment(std::ostream& out, const VignelSegment& segment
     }
 }
 
+// An effect that has not been chosen yet is worth knowing, and no fault of the file.
+bool IsToBeChosen(const CEffectObject& object) {
+    return object.Ask<std::string>("GetDescriptionValue", "ProgID") == kProgID &&
+           object.Ask<std::string>("GetEffectType") == "0";
+}
+
 std::string CReadableFile::Heading() const {
-    if (const CEffect* pEffect = m_File.GetEffect())
-        return std::string(pEffect->m_pName) + "\n  " + pEffect->m_pDescription;
-    return m_File.IsOurs() && m_File.GetEffectType() == "0" ? "No effect chosen yet" : "No effect";
+    const std::string effect(m_Object.GetEffect().View());
+    if (!effect.empty())
+        return effect + "\n  " + m_Object.GetDescriptionOf(effect);
+    return IsToBeChosen(m_Object) ? "No effect chosen yet" : "No effect";
 }
 
 void CReadableFile::Print(std::ostream& out) {
-    const CVignelConfig& store = m_File.m_Store;
     out << Heading() << "\n\nDescription\n";
-    PrintKeys(out, m_File.m_Form.m_DescriptionKeys, store.m_DescriptionMap);
+    PrintKeys(out, "GetDescriptionKeys", "GetDescriptionValue");
     out << "\nParameters\n";
-    PrintKeys(out, m_File.m_Form.m_ParameterKeys, store.m_ParameterMap);
+    PrintKeys(out, "GetParameterKeys", "GetParameterValue");
     out << "\nResources\n";
     std::vector<std::vector<std::string>> rows;
-    for (const VignelResource& resource : store.m_Resources)
-        rows.push_back({Printable(Text(resource.m_Name.View())),
-                        "from " + Printable(Text(resource.m_LocalPath.View())),
-                        resource.m_WebPath.IsEmpty() ? "to the page's folder"
-                                                     : "to " + Printable(Text(resource.m_WebPath.View()))});
+    for (int nResource = 0; nResource < m_Object.Ask<int>("GetStoredResourceNumber"); ++nResource) {
+        const auto fields = m_Object.Ask<vignel::Items>("GetStoredResource", nResource);
+        rows.push_back({Printable(Text(fields[0])), "from " + Printable(Text(fields[1])),
+                        fields[2].empty() ? "to the page's folder" : "to " + Printable(Text(fields[2]))});
+    }
     PrintRows(out, rows);
     out << "\nSegments\n";
-    for (const VignelSegment& segment : store.m_Segments)
-        PrintSegment(out, segment);
-    if (store.m_Segments.IsEmpty())
+    const int nSegments = m_Object.Ask<int>("GetSegmentNumber");
+    for (int nSegment = 0; nSegment < nSegments; ++nSegment)
+        PrintSegment(out, nSegment);
+    if (nSegments == 0)
         out << "  none\n";
 }
 
@@ -161,17 +167,19 @@ void CReadableFile::Print(std::ostream& out) {
 
 void Show(const CShowOptions& options, CReport& report) {
     const std::string name = options.m_File.string();
-    const CConfigCheck file(options.m_File);
-    CReadableFile readable(options, file);
+    const CEffectObject object;
+    ReadConfig(options.m_File, object);
+    CReadableFile readable(options, object);
     if (options.m_bJson)
         std::cout << readable.ToJson().dump(2) << '\n';
-    else if (file.IsConfigFile())
+    else if (object.Ask<bool>("IsConfigFile"))
         readable.Print(std::cout);
 
-    for (const std::string& damage : file.m_Damage)
+    const auto damages = object.Ask<vignel::Items>("GetDamage");
+    for (const std::string& damage : damages)
         report.Error(name, damage);
-    const std::string problem = file.m_Damage.empty() ? file.WhyNoEffect() : "";
-    if (!problem.empty() && file.IsOurs() && file.GetEffectType() == "0")
+    const std::string problem = damages.empty() ? object.Ask<std::string>("GetProblem") : "";
+    if (!problem.empty() && IsToBeChosen(object))
         report.Warning(name, problem);
     else if (!problem.empty())
         report.Error(name, problem);

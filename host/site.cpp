@@ -1,6 +1,6 @@
 #include "host/site.h"
 
-#include "host/component_path.h"
+#include "host/files.h"
 #include "host/text_encoding.h"
 #include "platform/files.h"
 

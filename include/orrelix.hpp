@@ -13,6 +13,7 @@
 #include "vignel_server.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -48,6 +49,12 @@ private:
         return text;
     }
 };
+
+// Times as LastUpdateTime has them: days since 30 December 1899, without a time zone.
+inline double DaysOf(std::chrono::system_clock::time_point time) {
+    constexpr double kDaysTo1970 = 25569;
+    return kDaysTo1970 + std::chrono::duration<double, std::ratio<86400>>(time.time_since_epoch()).count();
+}
 
 // A list that crosses as one text.
 using Items = std::vector<std::string>;

@@ -8,7 +8,11 @@
 
 namespace orrelix {
 
-// The path for the component. Throws CFileError when one of its names holds a backslash, for which the
+// The path for calls of the component, full. Throws CFileError when one of its names holds a backslash, which the
+// component takes for a separator.
+std::filesystem::path PathForComponent(const std::filesystem::path& path);
+
+// The same as the component and platform/files spell it. Throws CFileError when one of its names holds a backslash, for which the
 // component has no spelling.
 CString ComponentPath(const std::filesystem::path& path);
 

@@ -1,4 +1,4 @@
-#include "host/component_path.h"
+#include "host/files.h"
 
 #include "host/report.h"
 #include "platform/files.h"
@@ -8,11 +8,15 @@ namespace orrelix {
 
 namespace fs = std::filesystem;
 
-CString ComponentPath(const fs::path& path) {
-    const std::string full = fs::absolute(path).lexically_normal().string();
-    if (full.find('\\') != std::string::npos)
+fs::path PathForComponent(const fs::path& path) {
+    const fs::path full = fs::absolute(path).lexically_normal();
+    if (full.native().find('\\') != std::string::npos)
         throw CFileError(path, "has a backslash in its path, where the component can't find it; rename it");
-    return FromSystemPath(full);
+    return full;
+}
+
+CString ComponentPath(const fs::path& path) {
+    return FromSystemPath(PathForComponent(path).native());
 }
 
 fs::path SystemPath(const CString& path) {

@@ -1,0 +1,103 @@
+#include "host/fields.h"
+
+#include "host/nearest_word.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace orrelix {
+
+namespace {
+
+const CNamedField* FindField(const std::vector<CNamedField>& fields, const std::string& name) {
+    const auto found = std::find_if(fields.begin(), fields.end(), [&name](const CNamedField& field) {
+        return field.m_Name == name || field.m_Name.substr(2) == name;
+    });
+    return found == fields.end() ? nullptr : &*found;
+}
+
+std::string WhyNoField(const std::vector<CNamedField>& fields, const std::string& name) {
+    std::vector<std::string> names;
+    for (const CNamedField& field : fields)
+        names.push_back(name.starts_with("m_") ? field.m_Name : field.m_Name.substr(2));
+    return fmt::format("the effect has no field {}; {}", name,
+                       DidYouMean(name, names, "--list-fields shows those that it has"));
+}
+
+// What is given to one field.
+struct CSetting {
+    const CNamedField* m_pField;
+    vignel::Items m_Values;
+};
+
+// Sets one field. The result says why that can't be.
+std::string Set(const CEffectObject& effect, const CSetting& setting, std::vector<std::string>& remarks) {
+    vignel::Result result;
+    const std::string& name = setting.m_pField->m_Name;
+    const std::string remark = setting.m_pField->m_bList
+                                   ? effect.Ask<std::string>("SetFieldItems", name, setting.m_Values, result)
+                                   : effect.Ask<std::string>("SetField", name, setting.m_Values.front(), result);
+    if (!result)
+        return result.message;
+    const bool bComma = std::any_of(setting.m_Values.begin(), setting.m_Values.end(), [](const std::string& value) {
+        return value.find(',') != std::string::npos;
+    });
+    if (!remark.empty() && bComma)
+        return remark + "; it can't have a comma";
+    if (!remark.empty())
+        remarks.push_back(remark);
+    return {};
+}
+
+} // namespace
+
+std::vector<CNamedField> ListFields(const CEffectObject& effect) {
+    std::vector<CNamedField> fields;
+    for (const std::string& name : effect.Ask<vignel::Items>("GetFieldNames")) {
+        CNamedField field{name, effect.Ask<std::string>("GetFieldKind", name), effect.Ask<bool>("IsFieldList", name), {}};
+        if (field.m_bList) {
+            for (const std::string& item : effect.Ask<vignel::Items>("GetFieldItems", name))
+                field.m_Values.emplace_back(item);
+        } else {
+            field.m_Values.emplace_back(effect.Ask<std::string>("GetField", name));
+        }
+        fields.push_back(std::move(field));
+    }
+    return fields;
+}
+
+std::string SetFields(const CEffectObject& effect, const CFieldValues& values, std::vector<std::string>& remarks) {
+    const std::vector<CNamedField> fields = ListFields(effect);
+    const CNamedField* pTexts = FindField(fields, "m_Texts"); // of effects that have several lists
+    std::vector<CSetting> settings;
+    size_t nItems = 0;
+    bool bTexts = false;
+    for (const auto& [name, given] : values) {
+        const CNamedField* pField = FindField(fields, name);
+        if (!pField)
+            return WhyNoField(fields, name);
+        if (!pField->m_bList && given.size() > 1)
+            return pField->m_Name + " is one text and no list; set it once";
+        nItems = std::max(nItems, pField->m_bList ? given.size() : 0);
+        bTexts = bTexts || pField == pTexts;
+        settings.push_back({pField, {}});
+        for (const CString& value : given)
+            settings.back().m_Values.emplace_back(value.View());
+    }
+    if (pTexts && !bTexts)
+        nItems = std::max(nItems, pTexts->m_Values.size());
+    // The texts first: they say how many items all have.
+    std::stable_partition(settings.begin(), settings.end(),
+                          [pTexts](const CSetting& setting) { return setting.m_pField == pTexts; });
+    for (CSetting& setting : settings) {
+        const std::vector<CString>& old = setting.m_pField->m_Values;
+        while (setting.m_pField->m_bList && setting.m_Values.size() < std::min(nItems, old.size()))
+            setting.m_Values.emplace_back(old[setting.m_Values.size()].View());
+        const std::string problem = Set(effect, setting, remarks);
+        if (!problem.empty())
+            return problem;
+    }
+    return {};
+}
+
+} // namespace orrelix
