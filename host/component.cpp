@@ -23,7 +23,8 @@ vignel::Library LoadComponent() {
     if (bRegistered && (beside.empty() || fs::exists(registered)))
         return vignel::Library(fs::path(registered));
     if (beside.empty())
-        throw std::runtime_error("the component isn't registered; say where it is with 'orrelix register LIBRARY'");
+        throw std::runtime_error(
+            "the component isn't registered; say where it is with 'orrelix register LIBRARY'");
     return vignel::Library(beside);
 }
 

@@ -34,7 +34,9 @@ public:
 
     CString GetEffect() const { return m_Inspector.Get<std::string>("Effect"); }
     void SetEffect(const std::string& name) const { m_Inspector.Put("Effect", name); }
-    void SetEffect(const std::string& name, vignel::Result& result) const { m_Inspector.Put("Effect", name, result); }
+    void SetEffect(const std::string& name, vignel::Result& result) const {
+        m_Inspector.Put("Effect", name, result);
+    }
     // What the component says of an effect.
     std::string GetDescriptionOf(const std::string& effect) const;
     // The component's own folder of scripts, as the component spells paths, with a backslash at its end.

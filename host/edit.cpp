@@ -71,7 +71,8 @@ std::string Explanation(const CEffectObject& object, const CNamedField& field) {
     if (!choices.empty())
         return fmt::format("  [{}]", fmt::join(choices, ", "));
     if (nMost > 0)
-        return fmt::format("  [{} {} to {}]", field.m_Kind, object.Ask<int>("GetFieldMinimum", field.m_Name), nMost);
+        return fmt::format("  [{} {} to {}]", field.m_Kind, object.Ask<int>("GetFieldMinimum", field.m_Name),
+                           nMost);
     return field.m_Kind == "text" ? "" : fmt::format("  [{}]", field.m_Kind);
 }
 
@@ -169,11 +170,13 @@ void Write(const CEffectObject& object, const CEditOptions& options, CReport& re
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
     if (HasLostFiles(object, options, report) && bByOptions)
         return;
-    if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") && WouldOverwrite(object, directory, report))
+    if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
+        WouldOverwrite(object, directory, report))
         return;
     object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
     if (!object.WriteConfigFileEx(PathForComponent(options.m_File), options.m_bOverwrite))
-        return report.Error(options.m_File.string(), "can't be written: " + object.Ask<std::string>("GetFileError"));
+        return report.Error(options.m_File.string(),
+                            "can't be written: " + object.Ask<std::string>("GetFileError"));
     CheckCopies(object, directory, report);
     std::cout << options.m_File.string() << '\n';
     WarnOfHarmfulTexts(object, options.m_File.string(), report);
@@ -215,8 +218,8 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     const CEffectObject object;
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
         return report.WrongUsage(
-            name,
-            "has no effect yet of which there could be fields; name one with --effect: " + AllEffects(object));
+            name, "has no effect yet of which there could be fields; name one with --effect: " +
+                      AllEffects(object));
     if (Printable(options.m_Title) != options.m_Title)
         return report.WrongUsage("--title", "has a line break or another control character");
     CString title = TitleFrom(options.m_File.stem().string());
@@ -228,7 +231,8 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     object.SetBitmapFileName("");
     object.SetPreviewPath("");
     if (options.m_Effect.empty()) {
-        if (RunDialogs(object, options, "name one of the effects with --effect: " + AllEffects(object), report))
+        if (RunDialogs(object, options, "name one of the effects with --effect: " + AllEffects(object),
+                       report))
             Write(object, options, report);
         return;
     }
@@ -236,7 +240,8 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     object.SetEffect(options.m_Effect, known);
     if (!known)
         return report.WrongUsage("--effect " + options.m_Effect,
-                                 "is no effect; " + DidYouMean('"' + options.m_Effect + '"', EffectNames(object),
+                                 "is no effect; " + DidYouMean('"' + options.m_Effect + '"',
+                                                               EffectNames(object),
                                                                "there are " + AllEffects(object)));
     if (options.m_bListFields)
         ListFields(object, options);

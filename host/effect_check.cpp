@@ -1,13 +1,16 @@
 #include "host/effect_check.h"
 
+#include "host/fields.h"
 #include "host/generated_effect.h"
 #include "host/html_outline.h"
-#include "host/fields.h"
 #include "host/script_syntax.h"
 #include "host/text_encoding.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fmt/format.h>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace orrelix {
@@ -16,6 +19,12 @@ namespace {
 
 // A warning each; who has that many mistakes makes them everywhere.
 constexpr int kMostWarnings = 10;
+
+// Of longer lists, a part does to try its texts out.
+constexpr size_t kFewRows = 20;
+
+// How often a character's places are tried for the one that does the harm.
+constexpr int kMostPlaces = 100;
 
 // The HTML parser takes long over elements in elements in elements, and the stack.
 constexpr std::ptrdiff_t kMostTags = 20'000;
@@ -34,13 +43,14 @@ bool IsSpecial(char byte) {
 // The characters of a text that are neither letters nor digits, each once, in the order in which they come.
 std::vector<char> SpecialCharacters(const CString& text) {
     std::vector<std::pair<CString::Position, char>> found;
-    for (char character = 1; character > 0 && character < 0x7F; ++character) {
+    for (char character = 1; character < 0x7F; ++character) {
         const auto nFound = IsSpecial(character) ? text.Find(character) : -1;
         if (nFound >= 0)
             found.emplace_back(nFound, character);
     }
     std::sort(found.begin(), found.end());
     std::vector<char> characters;
+    characters.reserve(found.size());
     for (const auto& [nFound, character] : found)
         characters.push_back(character);
     return characters;
@@ -117,24 +127,24 @@ public:
                 m_Texts.push_back({field.m_Name, field.m_bList ? i + 1 : 0, field.IsFile(), field.m_Values[i],
                                    HarmlessText(field.m_Values[i])});
         }
-        m_Current = Range(0, m_Texts.size());
+        std::stable_sort(
+            m_Texts.begin(), m_Texts.end(),
+            [](const CAuthorText& left, const CAuthorText& right) { return left.m_nItem < right.m_nItem; });
     }
 
     void Run() {
-        if (CountTags() > kMostTags)
+        if (CountTags() > kMostTags || Judge(0, m_Texts.size()) == EDamage::kNone)
             return;
-        m_Whole = Generate(Harmless());
-        const EDamage damage = Judge(Range(0, m_Texts.size()));
-        if (damage == EDamage::kNone)
-            return;
-        FillHarmfulGaps();
         WarnWithin(0, m_Texts.size());
         if (m_nWarnings == 0)
             Warn("its texts end what they stand in");
     }
 
 private:
-    using CTexts = std::vector<CString>; // as m_Texts
+    struct CRows {
+        size_t m_nBegin;
+        size_t m_nEnd;
+    };
 
     std::ptrdiff_t CountTags() const {
         std::ptrdiff_t nTags = 0;
@@ -143,38 +153,32 @@ private:
         return nTags;
     }
 
-    CTexts Harmless() const { return Range(0, 0); }
-
-    // The author's texts from nBegin to nEnd, harmless ones for the others.
-    CTexts Range(size_t nBegin, size_t nEnd) const {
-        CTexts texts;
-        for (size_t i = 0; i < m_Texts.size(); ++i)
-            texts.push_back(i >= nBegin && i < nEnd ? m_Texts[i].m_Text : m_Texts[i].m_Harmless);
-        return texts;
+    // The items of lists that it takes to try some texts out. All lists of an effect have the same number.
+    CRows RowsOf(size_t nBegin, size_t nEnd) const {
+        const size_t nRows = m_Texts.back().m_nItem;
+        if (nRows <= kFewRows)
+            return {1, nRows + 1};
+        const size_t nFirst = std::max<size_t>(m_Texts[nBegin].m_nItem, 1);
+        return {nFirst, std::max(m_Texts[nEnd - 1].m_nItem, nFirst) + 1};
     }
 
-    // Gives the object these texts, as far as it has others.
-    void Put(const CTexts& texts) {
-        if (texts[0] != m_Current[0])
-            m_Object.SetTitle(std::string(texts[0].View()));
-        for (size_t nBegin = 1, nEnd; nBegin < texts.size(); nBegin = nEnd) {
-            const std::string& field = m_Texts[nBegin].m_Field;
-            vignel::Items items;
-            bool bChanged = false;
-            for (nEnd = nBegin; nEnd < texts.size() && m_Texts[nEnd].m_Field == field; ++nEnd) {
-                bChanged = bChanged || texts[nEnd] != m_Current[nEnd];
-                items.emplace_back(texts[nEnd].View());
-            }
-            if (bChanged && m_Texts[nBegin].m_nItem > 0)
-                m_Object.Ask("PutFieldItems", field, items);
-            else if (bChanged)
-                m_Object.Ask("PutField", field, items.front());
+    // The effect of the texts that textOf(index) gives.
+    template <class TTextOf>
+    std::vector<CHtmlElement> Generate(const CRows& rows, TTextOf textOf) {
+        m_Object.SetTitle(std::string(textOf(0).View()));
+        std::map<std::string, vignel::Items> lists;
+        for (size_t i = 1; i < m_Texts.size(); ++i) {
+            const size_t nItem = m_Texts[i].m_nItem;
+            if (nItem == 0)
+                m_Object.Ask("PutField", m_Texts[i].m_Field, std::string(textOf(i).View()));
+            else if (nItem >= rows.m_nBegin && nItem < rows.m_nEnd)
+                lists[m_Texts[i].m_Field].emplace_back(textOf(i).View());
         }
-        m_Current = texts;
-    }
-
-    std::vector<CHtmlElement> Generate(const CTexts& texts) {
-        Put(texts);
+        // The texts first: they say how many items all have.
+        if (const auto texts = lists.extract("m_Texts"))
+            m_Object.Ask("PutFieldItems", texts.key(), texts.mapped());
+        for (const auto& [field, items] : lists)
+            m_Object.Ask("PutFieldItems", field, items);
         const CString html = ScriptText(m_Object, kPublish) + CString(m_Object.GetHTMLBody(0, kPublish));
         return OutlineOfHtml(ToUtf8(html.View()).m_Text);
     }
@@ -187,12 +191,14 @@ private:
                             });
     }
 
-    // Every element of the whole effect has to recur where it was, with a script that is one. Elements that the
-    // author's texts bring along lie in between and are his own business.
-    EDamage Judge(const CTexts& texts) {
-        const std::vector<CHtmlElement> elements = Generate(texts);
+    // Every element of harmless texts' effect has to recur where it was, with a script that is one. Elements that
+    // the author's texts bring along lie in between and are his own business.
+    template <class TTextOf>
+    EDamage Judge(const CRows& rows, TTextOf textOf) {
+        const auto whole = Generate(rows, [this](size_t i) { return m_Texts[i].m_Harmless; });
+        const auto elements = Generate(rows, textOf);
         auto element = elements.begin();
-        for (const CHtmlElement& expected : m_Whole) {
+        for (const CHtmlElement& expected : whole) {
             element = std::find_if(element, elements.end(), [&](const CHtmlElement& other) {
                 return other.m_nKind == expected.m_nKind;
             });
@@ -205,33 +211,22 @@ private:
         return EDamage::kNone;
     }
 
-    EDamage JudgeOne(size_t nText, const CString& text) {
-        CTexts texts = Harmless();
-        texts[nText] = text;
-        return Judge(texts);
+    // What the author's texts from nBegin to nEnd do among harmless ones.
+    EDamage Judge(size_t nBegin, size_t nEnd) {
+        return Judge(RowsOf(nBegin, nEnd), [&](size_t i) {
+            return i >= nBegin && i < nEnd ? m_Texts[i].m_Text : m_Texts[i].m_Harmless;
+        });
     }
 
-    // A field that is empty where a script wants a number is harmful itself.
-    void FillHarmfulGaps() {
-        std::vector<size_t> gaps;
-        for (size_t i = 1; i < m_Texts.size(); ++i) {
-            if (m_Texts[i].m_Text.IsEmpty() && m_Texts[i].m_nItem == 0)
-                gaps.push_back(i);
-        }
-        if (Judge(Harmless()) != EDamage::kScript)
-            return;
-        for (size_t nGap : gaps)
-            m_Texts[nGap].m_Harmless = "1";
-        for (size_t nGap : gaps) {
-            if (JudgeOne(nGap, "") != EDamage::kScript)
-                m_Texts[nGap].m_Harmless = "";
-        }
-        m_Whole = Generate(Harmless());
+    // What another text does in the place of one.
+    EDamage JudgeOne(size_t nText, const CString& text) {
+        return Judge(RowsOf(nText, nText + 1),
+                     [&](size_t i) { return i == nText ? text : m_Texts[i].m_Harmless; });
     }
 
     // Halves the texts until the harmful ones are left.
     void WarnWithin(size_t nBegin, size_t nEnd) {
-        if (m_nWarnings >= kMostWarnings || Judge(Range(nBegin, nEnd)) == EDamage::kNone)
+        if (m_nWarnings >= kMostWarnings || Judge(nBegin, nEnd) == EDamage::kNone)
             return;
         if (nEnd - nBegin == 1)
             return WarnOf(nBegin);
@@ -300,9 +295,11 @@ private:
     CString::Position HarmfulPosition(size_t nText, char character, const std::vector<char>& harmful) {
         const CString text = WithOthersHarmless(nText, character, harmful);
         const auto nFirst = text.Find(character);
-        for (auto nPlace = nFirst; nPlace >= 0; nPlace = text.Find(character, nPlace + 1)) {
+        auto nPlace = nFirst;
+        for (int nTries = 0; nPlace >= 0 && nTries < kMostPlaces; ++nTries) {
             if (JudgeOne(nText, text.Left(nPlace) + "x" + text.Mid(nPlace + 1)) == EDamage::kNone)
                 return nPlace;
+            nPlace = text.Find(character, nPlace + 1);
         }
         return nFirst;
     }
@@ -332,9 +329,7 @@ private:
     CReport& m_Report;
     const CEffectObject& m_Object;
     CScriptSyntax m_Syntax;
-    std::vector<CAuthorText> m_Texts;
-    CTexts m_Current;                  // what the object has
-    std::vector<CHtmlElement> m_Whole; // the effect of harmless texts
+    std::vector<CAuthorText> m_Texts; // the title, the other texts, the lists row by row
     int m_nWarnings = 0;
 };
 

@@ -34,14 +34,15 @@ struct CSetting {
 std::string Set(const CEffectObject& effect, const CSetting& setting, std::vector<std::string>& remarks) {
     vignel::Result result;
     const std::string& name = setting.m_pField->m_Name;
-    const std::string remark = setting.m_pField->m_bList
-                                   ? effect.Ask<std::string>("SetFieldItems", name, setting.m_Values, result)
-                                   : effect.Ask<std::string>("SetField", name, setting.m_Values.front(), result);
+    const std::string remark =
+        setting.m_pField->m_bList
+            ? effect.Ask<std::string>("SetFieldItems", name, setting.m_Values, result)
+            : effect.Ask<std::string>("SetField", name, setting.m_Values.front(), result);
     if (!result)
         return result.message;
-    const bool bComma = std::any_of(setting.m_Values.begin(), setting.m_Values.end(), [](const std::string& value) {
-        return value.find(',') != std::string::npos;
-    });
+    const bool bComma =
+        std::any_of(setting.m_Values.begin(), setting.m_Values.end(),
+                    [](const std::string& value) { return value.find(',') != std::string::npos; });
     if (!remark.empty() && bComma)
         return remark + "; it can't have a comma";
     if (!remark.empty())
@@ -54,7 +55,8 @@ std::string Set(const CEffectObject& effect, const CSetting& setting, std::vecto
 std::vector<CNamedField> ListFields(const CEffectObject& effect) {
     std::vector<CNamedField> fields;
     for (const std::string& name : effect.Ask<vignel::Items>("GetFieldNames")) {
-        CNamedField field{name, effect.Ask<std::string>("GetFieldKind", name), effect.Ask<bool>("IsFieldList", name), {}};
+        CNamedField field{
+            name, effect.Ask<std::string>("GetFieldKind", name), effect.Ask<bool>("IsFieldList", name), {}};
         if (field.m_bList) {
             for (const std::string& item : effect.Ask<vignel::Items>("GetFieldItems", name))
                 field.m_Values.emplace_back(item);
@@ -66,7 +68,8 @@ std::vector<CNamedField> ListFields(const CEffectObject& effect) {
     return fields;
 }
 
-std::string SetFields(const CEffectObject& effect, const CFieldValues& values, std::vector<std::string>& remarks) {
+std::string SetFields(const CEffectObject& effect, const CFieldValues& values,
+                      std::vector<std::string>& remarks) {
     const std::vector<CNamedField> fields = ListFields(effect);
     const CNamedField* pTexts = FindField(fields, "m_Texts"); // of effects that have several lists
     std::vector<CSetting> settings;

@@ -27,6 +27,7 @@ using CFieldValues = std::map<std::string, std::vector<CString>>;
 // it was. The result says why not all of them are set: a name is none of the effect's, a field that is no list is given
 // several values, a value isn't one that the field can have, or has a comma with which the file would not bring it
 // back; else it is empty. Other values that a file will not bring back are added to `remarks`, a sentence each.
-std::string SetFields(const CEffectObject& effect, const CFieldValues& values, std::vector<std::string>& remarks);
+std::string SetFields(const CEffectObject& effect, const CFieldValues& values,
+                      std::vector<std::string>& remarks);
 
 } // namespace orrelix

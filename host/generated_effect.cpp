@@ -29,8 +29,8 @@ std::vector<CEffectFile> PageFiles(const CEffectObject& object, EHtmlMode mode) 
 void AddCompatibilityScript(CGeneratedEffect& effect, const CEffectObject& object) {
     effect.m_Files.push_back(
         {object.GetScriptFolder() + kCompatibilityScript, "", {CString(kCompatibilityScript)}});
-    effect.m_Script = CString("<script type=\"text/javascript\" src=\"") + kCompatibilityScript + "\"></script>\r\n" +
-                      effect.m_Script;
+    effect.m_Script = CString("<script type=\"text/javascript\" src=\"") + kCompatibilityScript +
+                      "\"></script>\r\n" + effect.m_Script;
 }
 
 } // namespace

@@ -100,7 +100,8 @@ CCommand AddRegister(CLI::App& program) {
 }
 
 CCommand AddUnregister(CLI::App& program) {
-    return {program.add_subcommand("unregister", "Take the component out of the user's registry"), Unregister};
+    return {program.add_subcommand("unregister", "Take the component out of the user's registry"),
+            Unregister};
 }
 
 CCommand AddServers(CLI::App& program) {
@@ -161,9 +162,9 @@ int RunProgram(int nArguments, char** ppArguments) {
     int nCodePage = kUtf8CodePage;
     program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
         ->type_name("N");
-    const CCommand commands[] = {AddNew(program), AddEdit(program), AddShow(program), AddPreview(program),
-                                 AddPublish(program), AddRegister(program), AddUnregister(program),
-                                 AddServers(program)};
+    const CCommand commands[] = {AddNew(program),        AddEdit(program),    AddShow(program),
+                                 AddPreview(program),    AddPublish(program), AddRegister(program),
+                                 AddUnregister(program), AddServers(program)};
     // The last one first, as the parser takes them.
     std::vector<std::string> arguments(std::reverse_iterator(ppArguments + nArguments),
                                        std::reverse_iterator(ppArguments + 1));

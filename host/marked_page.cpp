@@ -184,7 +184,7 @@ std::string WhyNoMark(const std::string& title, const CPlaces& places) {
     if (places.m_Marks.size() > 1)
         return fmt::format("has the mark {} {} times; leave the one where the effect is to appear",
                            MarkOf(title), places.m_Marks.size());
-    const std::string reason =
+    std::string reason =
         fmt::format("has no place for the effect; put {} where it is to appear", MarkOf(title));
     if (places.m_OtherTitles.empty())
         return reason;

@@ -1,7 +1,7 @@
 #include "host/preview.h"
 
-#include "host/files.h"
 #include "host/effect_check.h"
+#include "host/files.h"
 #include "host/generated_effect.h"
 #include "host/preview_page.h"
 #include "host/site.h"

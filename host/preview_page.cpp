@@ -232,8 +232,7 @@ std::string Card(const CPreviewPage& page) {
 </div>
 </article>
 )",
-                address, heading, heading, Escaped(page.m_Effect.m_Description), address,
-                address);
+                address, heading, heading, Escaped(page.m_Effect.m_Description), address, address);
 }
 
 } // namespace
@@ -251,8 +250,8 @@ std::string EffectPage(const CPreviewPage& page) {
 {}</main>
 )",
                                       heading, Escaped(effect.m_Description), effect.m_Cursor.View());
-        return Page(R"( class="orrelix-page" id="effect")", label, heading, kEffectStyle, effect.m_Script.View(),
-                    body);
+        return Page(R"( class="orrelix-page" id="effect")", label, heading, kEffectStyle,
+                    effect.m_Script.View(), body);
     });
 }
 

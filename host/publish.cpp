@@ -1,7 +1,7 @@
 #include "host/publish.h"
 
-#include "host/files.h"
 #include "host/effect_check.h"
+#include "host/files.h"
 #include "host/generated_effect.h"
 #include "host/marked_page.h"
 #include "host/page_check.h"

@@ -53,8 +53,9 @@ void Unregister(CReport& report) {
     if (result.code == VIGNEL_E_CLASSNOTREG)
         report.Warning(kProgID, "isn't registered");
     else if (!result)
-        report.Error(kProgID, "couldn't be unregistered: it was registered for all users, or the user's registry "
-                              "can't be written");
+        report.Error(kProgID,
+                     "couldn't be unregistered: it was registered for all users, or the user's registry "
+                     "can't be written");
 }
 
 void PrintServers(CReport& report) {

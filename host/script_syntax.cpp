@@ -66,7 +66,9 @@ bool CScriptSyntax::IsHandler(std::string_view text) {
 bool CScriptSyntax::Compiles(std::string_view text, unsigned nFlags) {
     auto* pEngine = static_cast<duk_context*>(m_pEngine.get());
     const std::string script = WithoutNewLineEnds(text);
-    const bool bCompiles = duk_pcompile_lstring(pEngine, nFlags, script.data(), script.size()) == 0;
+    // Other errors than of syntax are the engine's own limits.
+    const bool bCompiles = duk_pcompile_lstring(pEngine, nFlags, script.data(), script.size()) == 0 ||
+                           duk_get_error_code(pEngine, -1) != DUK_ERR_SYNTAX_ERROR;
     duk_pop(pEngine); // the compiled function, or the error
     return bCompiles;
 }

@@ -112,8 +112,8 @@ void CReadableFile::PrintKeys(std::ostream& out, const char* pKeys, const char* 
     std::vector<std::vector<std::string>> rows;
     for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys)) {
         const auto value = m_Object.Ask<std::string>(pValue, key);
-        rows.push_back({Printable(Text(key)),
-                        Printable(Text(value)) + (key == "LastUpdateTime" ? DateOf(value) : "")});
+        rows.push_back(
+            {Printable(Text(key)), Printable(Text(value)) + (key == "LastUpdateTime" ? DateOf(value) : "")});
     }
     PrintRows(out, rows);
 }

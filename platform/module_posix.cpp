@@ -2,6 +2,7 @@
 #include "platform/paths.h"
 
 #include <cstdint>
+#include <cstring>
 #include <dlfcn.h>
 #include <filesystem>
 #include <optional>
@@ -21,8 +22,10 @@ Dl_info ThisModule() {
 std::filesystem::path FindFile() {
     const char* pFile = ThisModule().dli_fname;
     std::error_code unknown;
-    const auto file = std::filesystem::canonical(pFile ? pFile : "", unknown);
-    const auto asLoaded = file.parent_path() / std::filesystem::path(pFile ? pFile : "").filename();
+    if (!pFile || !strchr(pFile, '/')) // a program that was found along the PATH
+        return std::filesystem::read_symlink("/proc/self/exe", unknown);
+    const auto file = std::filesystem::canonical(pFile, unknown);
+    const auto asLoaded = file.parent_path() / std::filesystem::path(pFile).filename();
     return std::filesystem::exists(asLoaded, unknown) ? asLoaded : file;
 }
 

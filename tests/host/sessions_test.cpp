@@ -1,6 +1,6 @@
 // What a person at a shell sees: every file of tests/host/sessions is played in a folder of its own, in which
-// the examples are. An answer ends with the exit code in brackets unless it is 0; paths of the folder and of the
-// component's library begin with $PWD and $LIBRARY.
+// the examples are. An answer ends with the exit code in brackets unless it is 0; paths of the folder, of the user's settings and of the
+// component's library begin with $PWD, $SETTINGS and $LIBRARY.
 #include "platform/module.h"
 #include "platform/paths.h"
 #include "tests/support/session.h"
@@ -37,6 +37,8 @@ protected:
         const std::string path = fs::path(ORRELIX_PROGRAM).parent_path().string() + ":" + getenv("PATH");
         setenv("PATH", path.c_str(), 1);
         setenv("LC_ALL", "C.UTF-8", 1);
+        setenv("XDG_CONFIG_HOME", m_Settings.File("").c_str(), 1); // nobody has registered anything
+        setenv("XDG_CONFIG_DIRS", m_Settings.File("none").c_str(), 1);
         for (const char* pScreen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             unsetenv(pScreen); // nobody is there to answer a dialog
     }
@@ -51,12 +53,14 @@ protected:
             output += std::string_view(block, nRead);
         const int nStatus = pclose(pOutput);
         output.Replace(folder, "$PWD/");
+        output.Replace(m_Settings.File("").string(), "$SETTINGS/");
         output.Replace(SystemSpelling(GetModuleDirectory()), "$LIBRARY");
         const int nExitCode = WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
         return std::string(output.View()) + (nExitCode ? "[" + std::to_string(nExitCode) + "]\n" : "");
     }
 
     const CTemporaryDirectory m_Folder;
+    const CTemporaryDirectory m_Settings;
 };
 
 } // namespace
