@@ -152,7 +152,7 @@ TEST_F(Windows, APopupThatIsLeftOrThatItsDialogLeavesIsClosed) {
         .Does("opens Colour")
         .Then([](CDialog&) { CQtPerson::Window().done(0); });
     EXPECT_EQ(m_Dialog.DoModal(), IDCANCEL);
-    EXPECT_EQ(m_Dialog.m_Log, "abandoned, closed, picked, closed, abandoned, closed");
+    EXPECT_EQ(m_Dialog.m_Log, "opened, closed, opened, closed, opened, closed");
 }
 
 TEST_F(Windows, TheProgramsRowsComeUpAndGoWithoutAFreshList) {

@@ -1,7 +1,8 @@
-// A dialog with a control of each kind and a popup, on which desktops are tried. It writes down what it is told, where
+// A dialog with a control of each kind, on which desktops are tried. It writes down what it is told, where
 // all can read it, and a click on "More..." does what the box "Kind:" says: see kMore.
 #pragma once
 
+#include "controls/field_dialog.h"
 #include "toolkit/button.h"
 #include "toolkit/combo_box.h"
 #include "toolkit/desktop.h"
@@ -9,7 +10,6 @@
 #include "toolkit/file_dialog.h"
 #include "toolkit/list_box.h"
 #include "toolkit/list_ctrl.h"
-#include "toolkit/popup_window.h"
 #include "toolkit/slider_ctrl.h"
 
 #include <functional>
@@ -57,56 +57,6 @@ inline const CDialogDescription& Description() {
     return description;
 }
 
-// A popup of two cells that tells what becomes of it.
-class CPopup : public CPopupWindow {
-public:
-    explicit CPopup(std::function<void(const CString&)> log) : m_Log(std::move(log)) {}
-
-    const CRect& GetWindowRect() const override { return m_Rect; }
-    std::vector<CPopupCell> GetCells() const override {
-        return {{{0, 0, 40, 30}, "Left"}, {{40, 0, 80, 30}, "Right"}};
-    }
-    int GetCurrentCell() const override { return m_bRight ? 1 : -1; }
-    void Draw(CCanvas& canvas) const override { canvas.FillRect({0, 0, 80, 30}, MakeColour(255, 0, 0)); }
-    void OnMouseMove(CPersonKey, CPoint point) override {
-        m_bRight = point.x >= 40;
-        m_Log(m_bRight ? "right" : "left");
-        Invalidate();
-    }
-    void OnLeftButtonUp(CPersonKey, CPoint) override { End("picked"); }
-    void OnKeyDown(CPersonKey, PopupKey key) override { End(key == PopupKey::Escape ? "escaped" : "key"); }
-    void OnDeactivate(CPersonKey) override { End("abandoned"); }
-    void OnClosed() override {
-        m_Log("closed");
-        delete this;
-    }
-
-private:
-    void End(const char* pHow) {
-        m_Log(pHow);
-        GetDesktop().ClosePopup(*this);
-    }
-
-    const std::function<void(const CString&)> m_Log;
-    bool m_bRight = false;
-    CRect m_Rect = {120, 120, 200, 150};
-};
-
-class CPopupButton : public COwnerDrawnButton {
-public:
-    explicit CPopupButton(std::function<void(const CString&)> log) : m_Log(std::move(log)) {}
-    CSize Measure(CSize size) override { return {size.cx, 20}; }
-    void Draw(CCanvas& canvas, const CRect& rect, bool, bool) const override {
-        canvas.FillRect(rect, MakeColour(0, 0, 255));
-    }
-
-protected:
-    void OnClick() override { GetDesktop().OpenPopup(*new CPopup(m_Log)); }
-
-private:
-    const std::function<void(const CString&)> m_Log;
-};
-
 class CPathDialog : public CFileDialog {
 public:
     CPathDialog() : CFileDialog("start.gif", "Images | *.gif;*.jpg ||") { AddEdit("Web Path:", "old/"); }
@@ -116,10 +66,19 @@ protected:
     void OnAddedEditChanged() override { m_WebPath = GetAddedEdit()->GetWindowText(); }
 };
 
-class CEverythingDlg : public CDialog {
+class CEverythingDlg : public CFieldDialog {
 public:
-    CEverythingDlg() : CDialog(Description()) {
-        Attach(PickerOf(Id::Colour), m_Button);
+    CEverythingDlg() : CFieldDialog(Description()) {
+        AddFields({{Id::Text, m_Text},
+                   {Id::Lines, m_Lines},
+                   {Id::Path, m_Path},
+                   {Id::Digits, m_Digits},
+                   {Id::Number, m_Number},
+                   {Id::Kind, m_Kind},
+                   {Id::Fixed, m_Fixed}});
+        AddColour(Id::Colour, m_Colour, "");
+        SetMessageHandler(COLOUR_POPUP_OPENED, [this](unsigned long, long) { Log("opened"); });
+        SetMessageHandler(COLOUR_POPUP_CLOSED, [this](unsigned long, long) { Log("closed"); });
         ShowBeside(Id::More, [this] { return Item<CControl>(Id::Kind).GetWindowText(); });
         const auto log = [this](int nId, Notification notification, const char* pWord) {
             SetHandler(nId, notification, [this, pWord] { Log(pWord); });
@@ -154,21 +113,11 @@ public:
 
     void Log(const CString& word) {
         m_Log += (m_Log.IsEmpty() ? "" : ", ") + word;
-        if (CControl* pStatus = FindItem(Id::Status)) // not of a popup that outlives the window
+        if (CControl* pStatus = FindItem(Id::Status)) // not when a popup goes with the window
             pStatus->SetWindowText(m_Log);
     }
 
 protected:
-    void DoDataExchange(CDataExchange& exchange) override {
-        exchange.Text(Id::Text, m_Text);
-        exchange.Text(Id::Lines, m_Lines);
-        exchange.Text(Id::Path, m_Path);
-        exchange.Text(Id::Digits, m_Digits);
-        exchange.Text(Id::Colour, m_Colour);
-        exchange.Text(Id::Number, m_Number);
-        exchange.Text(Id::Kind, m_Kind);
-        exchange.Text(Id::Fixed, m_Fixed);
-    }
     void OnInitDialog() override {
         CListCtrl& view = Item<CListCtrl>(Id::View);
         view.InsertColumn(0, "Name", 90);
@@ -179,8 +128,7 @@ protected:
             view.SetItemText(nRow, 1, "files\\" + ToText(nRow));
         }
         Item<CSliderCtrl>(Id::Level).SetPos(300);
-        UpdateData(false);
-        Item<CSpinButtonCtrl>(SpinOf(Id::Number)).SetPos(ToInteger(m_Number));
+        ShowNumbersLast();
     }
 
 private:
@@ -200,8 +148,6 @@ private:
         Enable(Id::Add, false);
     }
     void OnMore();
-
-    CPopupButton m_Button{[this](const CString& word) { Log(word); }};
 };
 
 inline void RunAgain(CEverythingDlg& dialog) {

@@ -1,6 +1,7 @@
 // The scripted person fails a test whose steps don't fit the screen.
 #include "tests/support/everything_dialog.h"
 #include "tests/support/scripted_person.h"
+#include "tests/support/user_settings.h"
 
 #include <gtest/gtest-spi.h>
 
@@ -11,6 +12,7 @@ namespace {
 // Runs the test dialog before a person with these steps and gives its result.
 template <class TSteps>
 int RunWith(TSteps steps) {
+    const CUserSettings settings;
     CScriptedPerson person;
     steps(person.In("Everything"));
     everything::CEverythingDlg dialog;
