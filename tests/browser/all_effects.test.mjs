@@ -2,16 +2,16 @@
 import assert from "node:assert/strict";
 import { readFileSync, readdirSync } from "node:fs";
 import path from "node:path";
-import { givePage, goOn, pageText, testEverywhere, watch } from "./harness.mjs";
+import { givePage, goOn, partsOf, testEverywhere, watch } from "./harness.mjs";
 
 const effects = ["animate_text", "text_show", "calander", "cool_link", "scroll_text", "fade_select", "tool_tip", "today_ca",
     "dance_text"];
 let head = "";
 let body = "";
 for (const effect of effects) {
-    const [, pageHead, pageBody] = /<head>(.*)<\/head>.*<body[^>]*>(.*)<\/body>/s.exec(await pageText(`${effect}_plain`));
-    head += (pageHead.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("");
-    body += `<section id="${effect}" style="position:relative;min-height:420px">${pageBody}</section>`;
+    const parts = await partsOf(`${effect}_plain`);
+    head += parts.scripts;
+    body += `<section id="${effect}" style="position:relative;min-height:420px">${parts.body}</section>`;
 }
 
 // What is seen of the effects that work by themselves.
@@ -52,9 +52,9 @@ const PAGES = readdirSync(process.env.ORRELIX_PAGES).filter((name) => /_(plain|r
 
 // The effect alone, in the body of a page without a style of its own.
 async function bare(name) {
-    const [, scripts, body] = /<head>(.*)<\/head>.*<main[^>]*>(.*)<\/main>/s.exec(await pageText(name));
+    const { scripts, effect } = await partsOf(name);
     return `<html lang="en"><head><title>${name}</title><meta name="viewport" content="width=device-width">
-        ${(scripts.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("")}</head><body>${body}</body></html>`;
+        ${scripts}</head><body>${effect}</body></html>`;
 }
 
 const names = [];

@@ -1,6 +1,6 @@
 // Calender, drawn where the page's text calls for it, and Cool Calender, the boxes of the page's form.
 import assert from "node:assert/strict";
-import { at, givePage, pageText, styleOf, tap, testEverywhere } from "./harness.mjs";
+import { at, givePage, pageText, partsOf, styleOf, tap, testEverywhere } from "./harness.mjs";
 
 const MONTHS = ["January", "February", "March", "April", "May", "June", "July", "August", "September", "October",
     "November", "December"];
@@ -147,12 +147,11 @@ testEverywhere("today_ca_rich", "looks as the author chose and is told to those 
 }, { before: at("2026-11-22T21:05") });
 
 // One of them inside a form of the page's own, where the parser drops the calendar's.
-const [inForm, calender, other] = (await Promise.all(["today_ca_plain", "calander_plain", "today_ca_rich"].map(pageText)))
-    .map((text) => ["head", "body"].map((tag) => new RegExp(`<${tag}[^>]*>(.*)</${tag}>`, "is").exec(text)[1]));
+const [inForm, calender, other] = await Promise.all(["today_ca_plain", "calander_plain", "today_ca_rich"].map(partsOf));
 const together = (body, head = "") =>
-    givePage(`<html lang="en"><head>${head}${inForm[0]}${calender[0]}${other[0]}</head><body>${body}</body></html>`);
+    givePage(`<html lang="en"><head>${head}${inForm.head}${calender.head}${other.head}</head><body>${body}</body></html>`);
 
-testEverywhere(together(`<form id="own"><input name="word">${inForm[1]}<input name="other"></form>${calender[1]}${other[1]}`),
+testEverywhere(together(`<form id="own"><input name="word">${inForm.body}<input name="other"></form>${calender.body}${other.body}`),
     "each calendar moves alone, and leaves a form around it as it is", async ({ page }) => {
         await button(page, "Next month").first().click();
         await button(page, "Previous year").last().click();
@@ -163,7 +162,7 @@ testEverywhere(together(`<form id="own"><input name="word">${inForm[1]}<input na
         assert.deepEqual(await page.evaluate(own), ["word", "other"]);
     }, { before: at("2026-11-22T21:05") });
 
-testEverywhere(together(calender[1] + inForm[1], "<script>document.documentElement.lang = location.hash.slice(1)</script>"),
+testEverywhere(together(calender.body + inForm.body, "<script>document.documentElement.lang = location.hash.slice(1)</script>"),
     "speaks the page's language", async ({ page }) => {
         for (const [lang, month, monthName, next, day] of [
             ["de-AT", "M\u00e4rz 2026", "M\u00e4rz", "N\u00e4chster Monat", "Mittwoch, 4. M\u00e4rz 2026"],
@@ -182,7 +181,7 @@ testEverywhere(together(calender[1] + inForm[1], "<script>document.documentEleme
 // Sizes that no text fits into, and a window that no calendar of these would fit into.
 const cramped = (text) => text.replaceAll(/(height|width): ?\d+(?=px|;)/g, (_, side) => `${side}:${side === "height" ? 6 : 70}`)
     .replaceAll(/font-size: ?\d+pt/g, "font-size: 24pt").replace('"Hello ', '"Welcome to the mill in the valley, dear visitor, on ');
-testEverywhere(together(cramped(calender[1] + inForm[1])), "every text stands whole in a narrow window", async ({ page }) => {
+testEverywhere(together(cramped(calender.body + inForm.body)), "every text stands whole in a narrow window", async ({ page }) => {
     assert.ok(await page.evaluate(() => document.scrollingElement.scrollWidth <= document.scrollingElement.clientWidth));
     const cut = await page.evaluate(() => [...document.querySelectorAll(".brndfncalendar input, .brndfnwhole, [role=timer]")]
         .filter((box) => box.checkVisibility() && (box.scrollWidth > box.clientWidth + 1 || box.clientHeight

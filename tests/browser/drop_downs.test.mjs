@@ -1,6 +1,6 @@
 // Fade Select Box and Link Select Table: what both promise, then what one has for itself.
 import assert from "node:assert/strict";
-import { givePage, pageText, styleOf, tap, testEverywhere } from "./harness.mjs";
+import { countListeners, givePage, pageText, styleOf, tap, testEverywhere } from "./harness.mjs";
 
 const LINKS = [
     ["Home, sweet home", "http://www.vellumark.example/home?from=1,2"],
@@ -13,26 +13,11 @@ const BORDER = ["borderTopWidth", "borderTopStyle", "borderTopColor"];
 const ROW = ["backgroundColor", "color", "fontSize", ...BORDER];
 const MARKED = ["rgb(31, 58, 95)", "rgb(255, 255, 255)", "18px", "1px", "dotted", "rgb(255, 215, 0)"];
 
-// Windows that the page opens are noted, as [address, target], and who listens to the window and the document.
-const before = () => {
+// Windows that the page opens are noted, as [address, target], and who listens.
+const before = `(${() => {
     window.opened = [];
     window.open = (...given) => window.opened.push(given);
-    window.nListening = 0;
-    window.addEventListener("load", () => {
-        for (const target of [window, document]) {
-            const { addEventListener, removeEventListener } = target;
-            target.addEventListener = (type, listener, options) => {
-                window.nListening++;
-                options?.signal?.addEventListener("abort", () => window.nListening--);
-                addEventListener.call(target, type, listener, options);
-            };
-            target.removeEventListener = (...given) => {
-                window.nListening--;
-                removeEventListener.apply(target, given);
-            };
-        }
-    });
-};
+}})(); (${countListeners})()`;
 
 const opened = (page) => page.evaluate(() => window.opened.splice(0));
 const field = (page) => page.getByRole("combobox");

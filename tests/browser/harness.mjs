@@ -100,6 +100,31 @@ export async function pageText(name) {
     return bytes.toString("utf8");
 }
 
+// The parts of NAME.html: its head, of that the scripts that it loads, its body, and of that the effect alone.
+export async function partsOf(name) {
+    const text = await pageText(name);
+    const between = (tag, from) => new RegExp(`<${tag}[^>]*>(.*)</${tag}>`, "is").exec(from)?.[1];
+    const [head, body] = [between("head", text), between("body", text)];
+    const scripts = (head.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("");
+    return { head, scripts, body, effect: between("main", body) };
+}
+
+// For the option "before": window.nListening counts who listens to anything.
+export const countListeners = () => {
+    window.nListening = 0;
+    const { addEventListener, removeEventListener } = EventTarget.prototype;
+    EventTarget.prototype.addEventListener = function (type, listener, options) {
+        window.nListening++;
+        if (options?.signal)
+            addEventListener.call(options.signal, "abort", () => window.nListening--);
+        addEventListener.call(this, type, listener, options);
+    };
+    EventTarget.prototype.removeEventListener = function (...given) {
+        window.nListening--;
+        removeEventListener.apply(this, given);
+    };
+};
+
 // For the option "calm" in Firefox, which can be told of reduced motion for all its pages only: the media query's
 // answer, changed by setCalm.
 const answerCalm = (bCalm) => {

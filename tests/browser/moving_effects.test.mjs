@@ -1,7 +1,7 @@
 // Animate Text, Slide Text, Color Link, Scroll Text and the clock of Calender: what moves by itself moves, rests when
 // a visitor asks for it and goes on. What Scroll Text and the calendars do besides is tested with them.
 import assert from "node:assert/strict";
-import { at, countTicks, givePage, pageText, nextFrame, running, setCalm, styleOf, tap, testEverywhere, unseen, watch }
+import { at, countTicks, givePage, nextFrame, pageText, partsOf, running, setCalm, styleOf, tap, testEverywhere, unseen, watch }
     from "./harness.mjs";
 
 const animated = await pageText("animate_text_plain");
@@ -186,7 +186,7 @@ async ({ page }) => {
     await page.waitForFunction(() => document.querySelectorAll("[id=typing]")[1].firstChild.textContent === "Two\nlines");
 });
 
-const [, plainLink] = /<body>(.*)<\/body>/s.exec(await pageText("dance_text_plain"));
+const { body: plainLink } = await partsOf("dance_text_plain");
 testEverywhere(givePage(linked.replace("</body>", `${plainLink}</body>`)),
     "links of different titles walk through their own colours in order", async ({ page }) => {
         const colors = ["rgb(122, 31, 31)", "rgb(184, 134, 11)", "rgb(47, 79, 47)", "rgb(72, 61, 139)",

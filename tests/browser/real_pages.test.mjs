@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { createRequire } from "node:module";
-import { givePage, pageText, testEverywhere } from "./harness.mjs";
+import { countListeners, givePage, partsOf, testEverywhere } from "./harness.mjs";
 
 const EFFECTS = ["calander", "today_ca", "cool_link", "fade_select", "tool_tip"];
 
@@ -29,9 +29,9 @@ const PLAIN_PARTS = `<form aria-label="f"><table><caption>c</caption><tr><th>t</
 let head = "";
 let body = "";
 for (const effect of EFFECTS) {
-    const [, pageHead, pageBody] = /<head>(.*)<\/head>.*<body[^>]*>(.*)<\/body>/s.exec(await pageText(`${effect}_rich`));
-    head += pageHead.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi).join("");
-    body += `<section id="${effect}" style="min-height: 300px">${/<main[^>]*>(.*)<\/main>/s.exec(pageBody)[1]}</section>`;
+    const parts = await partsOf(`${effect}_rich`);
+    head += parts.scripts;
+    body += `<section id="${effect}" style="min-height: 300px">${parts.effect}</section>`;
 }
 const sheets = SHEETS.map((sheet) => `<style class="theirs">${sheet}</style>`).join("");
 const page = givePage(`<!DOCTYPE html><html lang="en"><head><title>All</title>${sheets}${head}</head>
@@ -113,22 +113,7 @@ testEverywhere(page, "six hundred openings of lists and tips leave nothing behin
     const before = await count();
     await open(200);
     assert.deepEqual(await count(), before);
-}, {
-    before: () => {
-        window.nListening = 0;
-        const { addEventListener, removeEventListener } = EventTarget.prototype;
-        EventTarget.prototype.addEventListener = function (type, listener, options) {
-            window.nListening++;
-            if (options?.signal)
-                addEventListener.call(options.signal, "abort", () => window.nListening--);
-            addEventListener.call(this, type, listener, options);
-        };
-        EventTarget.prototype.removeEventListener = function (...given) {
-            window.nListening--;
-            removeEventListener.apply(this, given);
-        };
-    },
-});
+}, { before: countListeners });
 
 const AXE = readFileSync(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
 testEverywhere(page, "axe finds nothing but contrasts of the author's colours", async ({ page }) => {

@@ -2,19 +2,18 @@
 // inherits nothing from the page.
 import assert from "node:assert/strict";
 import { writeFileSync } from "node:fs";
-import { givePage, goOn, pageText, testEverywhere } from "./harness.mjs";
+import { givePage, goOn, partsOf, testEverywhere } from "./harness.mjs";
 
 const RESET = "<style>* { box-sizing: border-box; margin: 0; padding: 0 } p, a, td, span { color: teal }</style>";
 const SHEETS = ["pico", "bootstrap", "tailwind"].map((name) => `<link rel="stylesheet" href="${name}.css">`);
 const EFFECTS = ["animate_text", "text_show", "dance_text", "scroll_text"];
 
 for (const effect of EFFECTS) {
-    const [, head, body] = /<head>(.*)<\/head>.*<main[^>]*>(.*)<\/main>/s.exec(await pageText(`${effect}_rich`));
-    const scripts = (head.match(/<script[^>]*\ssrc=[^>]*><\/script>/gi) ?? []).join("");
-    const [plain, ...others] = ["", RESET, ...SHEETS].map((sheet, i) => givePage(`<html><head>${sheet}${scripts}</head>
+    const parts = await partsOf(`${effect}_rich`);
+    const [plain, ...others] = ["", RESET, ...SHEETS].map((sheet, i) => givePage(`<html><head>${sheet}${parts.scripts}</head>
         <body style="height: 400px; color: black">
         <div id="frame" style="all: initial; position: absolute; left: 8px; top: 8px; background: white;
-        width: 800px; height: 300px">${body}</div>
+        width: 800px; height: 300px">${parts.effect}</div>
         </body></html>`, `${effect}_styled_${i}`));
     testEverywhere(plain, "looks the same under style sheets of others", async ({ page, mode, browser }) => {
         const look = () => page.locator("#frame").screenshot();

@@ -18,6 +18,10 @@ protected:
         for (CString* pPath : {&m_Photo, &m_SamePhoto, &m_Logo})
             m_Dialog.AddClash(*pPath);
     }
+    void Run(const std::vector<CString>& acts) {
+        m_Person.In("Copy Resources").Does(acts);
+        m_Dialog.DoModal();
+    }
     std::string InSite(const char* pName) const { return FileContent(m_Site.File(pName)); }
 
     CTemporaryDirectory m_Source;
@@ -42,8 +46,7 @@ TEST_F(CopyResources, OkOverwritesAndPointsEveryTextOfAPathAtTheCopy) {
         EXPECT_EQ(list.GetItemCount(), 2) << "one row for each source path";
         EXPECT_EQ(list.GetColumn(1).m_nExtraWidth, 140);
     });
-    m_Person.Does("clicks OK");
-    m_Dialog.DoModal();
+    Run({"clicks OK"});
     EXPECT_EQ(InSite("photo.gif"), "new photo");
     EXPECT_EQ(InSite("logo.jpg"), "new logo");
     EXPECT_EQ(m_Photo, m_OldPhoto);
@@ -70,23 +73,19 @@ TEST_F(CopyResources, ARenamedFileLeavesTheOldOneAlone) {
 }
 
 TEST_F(CopyResources, RenameNeedsAFocusedRow) {
-    m_Person.In("Copy Resources")
-        .Does({"clicks Rename", "reads and closes Please select a file to rename first!", "clicks OK"});
-    m_Dialog.DoModal();
+    Run({"clicks Rename", "reads and closes Please select a file to rename first!", "clicks OK"});
 }
 
 TEST_F(CopyResources, ClosingItCopiesNothing) {
     const CString before = m_Photo;
-    m_Person.In("Copy Resources").Does("presses Escape");
-    m_Dialog.DoModal();
+    Run({"presses Escape"});
     EXPECT_EQ(m_Photo, before);
     EXPECT_EQ(InSite("photo.gif"), "old photo");
 }
 
 TEST_F(CopyResources, AFailedCopyStillMovesTheText) {
     std::filesystem::remove(m_Source.File("logo.jpg"));
-    m_Person.In("Copy Resources").Does("clicks OK");
-    m_Dialog.DoModal();
+    Run({"clicks OK"});
     EXPECT_EQ(m_Logo, m_OldLogo);
     EXPECT_EQ(InSite("logo.jpg"), "old logo");
 }
@@ -103,8 +102,7 @@ TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {
             EXPECT_EQ(list.GetItemImage(0), 2);
         })
         .Does("presses Escape");
-    m_Person.In("Copy Resources").Does("clicks OK");
-    m_Dialog.DoModal();
+    Run({"clicks OK"});
 }
 
 using BrowseFiles = PersonTest;

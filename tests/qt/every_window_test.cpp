@@ -9,6 +9,7 @@
 #include "toolkit/list_ctrl.h"
 #include "toolkit/slider_ctrl.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QListView>
@@ -86,6 +87,14 @@ protected:
         return false;
     }
 
+    // The name of a combo box is its text for those who hear it, and its label what it belongs to.
+    static CString HeardName(const CTarget& target, QWidget& widget) {
+        QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(&widget);
+        if (target.m_Description.m_Kind == ControlKind::ComboBox)
+            pHeard = pHeard->relations(QAccessible::Label).value(0).first;
+        return pHeard ? FromQt(pHeard->text(QAccessible::Name).remove(':')) : CString("nothing");
+    }
+
     void ExpectShown(const CTarget& target) {
         CControl& control = target.m_Control;
         const CString text = control.GetWindowText();
@@ -123,10 +132,12 @@ TEST_P(EveryWindow, HasEachControlWithANameOfItsOwnWithinReachAndShowingWhatItHo
             if (control.m_Kind == ControlKind::Spin)
                 return; // it is in its edit box
             const CTarget target{dialog, control, *dialog.FindItem(control.m_nId)};
-            const QWidget& widget = m_Person.WidgetOf(target);
+            QWidget& widget = m_Person.WidgetOf(target);
             SCOPED_TRACE(widget.accessibleName().toStdString());
             EXPECT_TRUE(widget.isVisible());
-            EXPECT_FALSE(widget.accessibleName().isEmpty());
+            const CString name = FromQt(widget.accessibleName());
+            EXPECT_EQ(name.Left(AccessibleNameOf(control).GetLength()), AccessibleNameOf(control));
+            EXPECT_EQ(HeardName(target, widget), name);
             EXPECT_TRUE(control.m_Kind == ControlKind::Static ||
                         names.insert(widget.accessibleName()).second);
             EXPECT_TRUE(!*control.m_pLabel || HasLabel(widget, control.m_pLabel));

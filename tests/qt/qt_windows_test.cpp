@@ -52,23 +52,6 @@ protected:
 
 } // namespace
 
-TEST_F(Windows, AScreenReaderHearsTheNameOfEachControl) {
-    Work([](CDialog& dialog) {
-        ForEachControl(dialog.GetDescription(), [&](const CControlDescription& control, const char*) {
-            QWidget* pWidget = CQtPerson::Window().WidgetOf(*dialog.FindItem(control.m_nId));
-            if (!pWidget)
-                return; // a spin control is heard as its box
-            QAccessibleInterface* pHeard = QAccessible::queryAccessibleInterface(pWidget);
-            if (control.m_Kind ==
-                ControlKind::ComboBox) // its name is its text, and the label what it belongs to
-                pHeard = pHeard->relations(QAccessible::Label).value(0).first;
-            ASSERT_TRUE(pHeard) << AccessibleNameOf(control);
-            const QString name = pHeard->text(QAccessible::Name).remove(':');
-            EXPECT_EQ(name.toStdString(), AccessibleNameOf(control).GetString());
-        });
-    });
-}
-
 TEST_F(Windows, AWheelThatPassesOverABoxChangesNothing) {
     Work([](CDialog& dialog) {
         for (int nId : {+Id::Number, +Id::Kind, +Id::Level}) {

@@ -125,7 +125,7 @@ private:
         Kind m_Kind = Kind::Act;
         CString m_Dialog = {};
         CString m_Words = {}; // how the step reads, for failures
-        std::function<void(CDialog&, CPersonHands&)> m_Act = {};
+        std::function<void(CDialog&, CPersonHands&)> m_Act = [](CDialog&, CPersonHands&) {};
         CString m_Message = {};
         int m_nAnswer = IDOK;
         CFileAnswer m_File = {};

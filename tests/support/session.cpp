@@ -16,24 +16,10 @@ std::string Indented(const std::string& text) {
     return indented;
 }
 
-} // namespace
+using CAnswer = std::function<std::string(const std::string&)>;
 
-std::vector<std::string> QuestionsOf(const std::filesystem::path& file) {
-    std::vector<std::string> questions;
-    std::istringstream session(FileContent(file));
-    bool bOpen = false;
-    for (std::string line; std::getline(session, line);) {
-        if (line.starts_with("  $ "))
-            questions.push_back(line.substr(4));
-        else if (bOpen && line.starts_with("  > "))
-            questions.back() += "\n" + line.substr(4);
-        bOpen = line.starts_with("  $ ") || (bOpen && line.starts_with("  > "));
-    }
-    return questions;
-}
-
-testing::AssertionResult GoesAsItStands(const std::filesystem::path& file,
-                                        const std::function<std::string(const std::string&)>& answer) {
+// The file's text with these answers in place of its own, and an empty line before each comment but the first.
+std::string Answered(const std::filesystem::path& file, const CAnswer& answer) {
     std::istringstream session(FileContent(file));
     std::string text, question;
     bool bAfterComment = true;
@@ -51,7 +37,22 @@ testing::AssertionResult GoesAsItStands(const std::filesystem::path& file,
         text += bComment || !question.empty() ? line + "\n" : "";
         bAfterComment = bComment;
     }
-    return EqualsExpected(file, text);
+    return text;
+}
+
+} // namespace
+
+std::vector<std::string> QuestionsOf(const std::filesystem::path& file) {
+    std::vector<std::string> questions;
+    Answered(file, [&](const std::string& question) {
+        questions.push_back(question);
+        return "";
+    });
+    return questions;
+}
+
+testing::AssertionResult GoesAsItStands(const std::filesystem::path& file, const CAnswer& answer) {
+    return EqualsExpected(file, Answered(file, answer));
 }
 
 } // namespace orrelix
