@@ -2,7 +2,7 @@
 // inherits nothing from the page.
 import assert from "node:assert/strict";
 import { writeFileSync } from "node:fs";
-import { givePage, goOn, partsOf, testEverywhere } from "./harness.mjs";
+import { givePage, goOn, nextFrame, partsOf, testEverywhere } from "./harness.mjs";
 
 const RESET = "<style>* { box-sizing: border-box; margin: 0; padding: 0 } p, a, td, span { color: teal }</style>";
 const SHEETS = ["pico", "bootstrap", "tailwind"].map((name) => `<link rel="stylesheet" href="${name}.css">`);
@@ -16,7 +16,7 @@ for (const effect of EFFECTS) {
         width: 800px; height: 300px">${parts.effect}</div>
         </body></html>`, `${effect}_styled_${i}`));
     testEverywhere(plain, "looks the same under style sheets of others", async ({ page, mode, browser }) => {
-        const look = () => page.locator("#frame").screenshot();
+        const look = () => nextFrame(page).then(() => page.locator("#frame").screenshot());
         const wanted = await look();
         for (const other of others) {
             await goOn(page, other);

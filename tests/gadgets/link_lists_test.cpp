@@ -1,6 +1,7 @@
-// Fade Select Box and Link Select Table: what holds for both.
+// Fade Select Box and Link Select Table, and Scroll Text: what holds for lists that a host has set one by one.
 #include "gadgets/cool_link.h"
 #include "gadgets/fade_select.h"
+#include "gadgets/scroll_text.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,6 @@ class LinkList : public testing::Test {};
 using LinkLists = testing::Types<CFadeSelect, CCoolLink>;
 TYPED_TEST_SUITE(LinkList, LinkLists);
 
-// A host that sets the lists one by one may leave them so.
 TYPED_TEST(LinkList, TakesItemsThatAreMissingAsEmptyAndWithoutAnyHasItsScriptsAlone) {
     CVignelConfig config, untouched;
     TypeParam gadget;
@@ -24,6 +24,14 @@ TYPED_TEST(LinkList, TakesItemsThatAreMissingAsEmptyAndWithoutAnyHasItsScriptsAl
     EXPECT_EQ(gadget.GetHTMLBody(untouched, kPublish, 0), "");
     EXPECT_NE(gadget.GetHTMLBody(untouched, kPublish, 1), "");
     EXPECT_TRUE(untouched.m_DescriptionMap.IsEmpty()) << "a property was looked at for nothing";
+}
+
+TEST(ScrollText, TakesLinksThatAreMissingAsEmpty) {
+    CVignelConfig config;
+    CScrollText gadget;
+    gadget.m_Links.RemoveAll();
+    gadget.m_Texts = {"one", "two"};
+    EXPECT_GE(gadget.GetHTMLBody(config, kPublish, 0).Find("[1]=\"<a href=''"), 0);
 }
 
 } // namespace orrelix

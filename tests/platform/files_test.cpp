@@ -135,7 +135,10 @@ TEST(Files, AnotherSpellingMeansTheFileThatIsThereUnlessItIsAskedForExactly) {
 TEST(Files, ListedDirectoriesKnowWhatIsPutIntoThemMeanwhile) {
     const CTemporaryDirectory directory;
     const CString from = directory.Write("from", "new");
+    for (const char* pName : {"logo.gif", "Logo.GIF", "lOGO.gif"})
+        directory.Write(pName, "");
     const CListedDirectories listed;
+    EXPECT_EQ(FileNameOnDisk(directory.Path("LOGO.gif")), "Logo.GIF") << "the first of several";
     EXPECT_FALSE(FileExists(directory.Path("PHOTO.gif")));
     EXPECT_EQ(CopyWholeFile(from, directory.Path("photo.gif")), kNoError);
     EXPECT_EQ(FileNameOnDisk(directory.Path("PHOTO.gif")), "photo.gif");
