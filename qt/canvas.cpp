@@ -57,7 +57,7 @@ double Luminance(const QColor& colour) {
 }
 
 double Contrast(const QColor& one, const QColor& other) {
-    const auto [nDark, nLight] = std::minmax(Luminance(one), Luminance(other));
+    const auto [nDark, nLight] = std::minmax({Luminance(one), Luminance(other)}); // by value
     return (nLight + 0.05) / (nDark + 0.05);
 }
 
