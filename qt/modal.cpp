@@ -1,5 +1,7 @@
 #include "qt/modal.h"
 
+#include "qt/owner_window.h"
+
 #include <QApplication>
 #include <QThread>
 
@@ -14,12 +16,15 @@ int RunModal(QDialog& window) {
         return QDialog::Rejected;
     // A host that quits with its last window means one of its own.
     window.setAttribute(Qt::WA_QuitOnClose, false);
+    const CForeignOwner owner(window);
     return window.exec();
 }
 
 QWidget* WindowInUse() {
-    QWidget* pModal = QApplication::activeModalWidget();
-    return pModal ? pModal : QApplication::activeWindow();
+    if (QWidget* pModal = QApplication::activeModalWidget())
+        return pModal;
+    QWidget* pOwner = OwnerWidget();
+    return pOwner ? pOwner : QApplication::activeWindow();
 }
 
 } // namespace orrelix

@@ -13,8 +13,8 @@ bool IsWindowThread();
 // running already.
 int RunModal(QDialog& window);
 
-// Where a new window belongs: the window that the person is in, which may be the host's; null when there is
-// none.
+// Where a new window belongs: the dialog that is running, or else the host's window, the one that it named or
+// the one that the person is in; null when it has none here.
 QWidget* WindowInUse();
 
 } // namespace orrelix
