@@ -43,17 +43,23 @@ set_target_properties(orrelix_platform orrelix_toolkit PROPERTIES CXX_VISIBILITY
 set(objects ${floors})
 list(TRANSFORM objects REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>")
 
-# What hosts load.
+# What hosts include, under the names that it has for projects which find it installed, too.
+add_library(orrelix_headers INTERFACE)
+target_include_directories(orrelix_headers INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+target_link_libraries(orrelix_headers INTERFACE ${CMAKE_DL_LIBS})
+set_target_properties(orrelix_headers PROPERTIES EXPORT_NAME headers)
+add_library(VignelOrrelix::headers ALIAS orrelix_headers)
+
+# What hosts load, or link.
 add_library(orrelix SHARED ${objects})
-target_link_libraries(orrelix PRIVATE ${CMAKE_DL_LIBS})
+add_library(VignelOrrelix::VignelOrrelix ALIAS orrelix)
+target_link_libraries(orrelix PUBLIC orrelix_headers)
 target_link_options(orrelix PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/component.map)
-set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
+set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix EXPORT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/component.map)
 
 # The same objects for tests and benches, which call what hosts can't see.
 add_library(orrelix_static STATIC ${objects})
 target_link_libraries(orrelix_static PUBLIC ${CMAKE_DL_LIBS})
 target_include_directories(orrelix_static PUBLIC ${PROJECT_SOURCE_DIR})
-
-install(TARGETS orrelix LIBRARY DESTINATION ${ORRELIX_LIBRARY_DIR})
-install(FILES include/vignel_server.h include/orrelix.hpp DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

@@ -34,6 +34,3 @@ target_link_libraries(orrelix_program PRIVATE orrelix_options CLI11::CLI11 fmt::
 target_compile_definitions(orrelix_program PRIVATE ORRELIX_VERSION="${PROJECT_VERSION}"
     ORRELIX_LIBRARY_DIR="${ORRELIX_LIBRARY_DIR}")
 add_dependencies(orrelix_program orrelix scripts)
-
-install(TARGETS orrelix_program RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES host/orrelix.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

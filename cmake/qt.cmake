@@ -14,4 +14,3 @@ target_link_libraries(orrelix_qt PRIVATE orrelix_qt_objects orrelix)
 # Qt keeps objects for the process's life, so the library that brought it in must never go.
 target_link_options(orrelix_qt PRIVATE -Wl,-z,nodelete)
 set_target_properties(orrelix_qt PROPERTIES OUTPUT_NAME VignelOrrelixQt LINKER_LANGUAGE CXX)
-install(TARGETS orrelix_qt LIBRARY DESTINATION ${ORRELIX_LIBRARY_DIR})

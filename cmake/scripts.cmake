@@ -43,6 +43,5 @@ foreach(script ${script_sources})
         list(APPEND shipped_scripts ${shipped})
     endforeach()
 endforeach()
-add_custom_target(scripts ALL DEPENDS ${shipped_scripts})
-
-install(FILES ${shipped_scripts} DESTINATION ${ORRELIX_LIBRARY_DIR})
+add_custom_target(orrelix_scripts ALL DEPENDS ${shipped_scripts})
+add_dependencies(orrelix orrelix_scripts)

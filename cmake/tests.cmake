@@ -1,4 +1,4 @@
-# One test program per folder of tests/, and the browser tests.
+# One test program per folder of tests/, the browser tests, and those of the packages.
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
@@ -16,7 +16,7 @@ function(orrelix_test_program folder)
     target_link_libraries(${folder}_tests PUBLIC test_support ${ARGN})
     add_executable(${folder}_test ${PROJECT_SOURCE_DIR}/tests/support/main.cpp)
     target_link_libraries(${folder}_test PRIVATE ${folder}_tests)
-    add_dependencies(${folder}_test scripts)
+    add_dependencies(${folder}_test orrelix_scripts)
     gtest_discover_tests(${folder}_test TEST_PREFIX ${folder}. DISCOVERY_TIMEOUT 60)
 endfunction()
 
@@ -63,4 +63,16 @@ if(ORRELIX_HOST)
     else()
         message(WARNING "Browser tests are left out: they need node, chromium, firefox and 'npm ci' in tests/browser")
     endif()
+endif()
+
+# What is installed and packaged. A host that isn't built with the sanitizers can't load what is.
+if(ORRELIX_INSTALL AND ORRELIX_HOST AND ORRELIX_QT AND NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    foreach(part registration hosts windows subproject debian completions)
+        add_test(NAME packages.${part} COMMAND ${PROJECT_SOURCE_DIR}/tests/packages/packages_test.sh
+            ${part} ${PROJECT_BINARY_DIR} ${ORRELIX_LIBRARY_DIR})
+        set_tests_properties(packages.${part} PROPERTIES LABELS packages TIMEOUT 600 SKIP_RETURN_CODE 77)
+    endforeach()
+    # These write into the build folder.
+    set_tests_properties(packages.registration packages.hosts packages.windows packages.debian PROPERTIES
+        RESOURCE_LOCK installation)
 endif()

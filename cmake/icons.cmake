@@ -1,0 +1,10 @@
+# The component's icon, a drawing and the sizes that desktops and lists use, beside the library as the scripts are.
+set(icon_sizes 16 32 48 64 128 256)
+set(icon_files orrelix.svg)
+foreach(size ${icon_sizes})
+    list(APPEND icon_files orrelix-${size}.png)
+endforeach()
+foreach(icon ${icon_files})
+    configure_file(resources/icons/${icon} ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${icon} COPYONLY)
+endforeach()
+list(TRANSFORM icon_files PREPEND ${PROJECT_SOURCE_DIR}/resources/icons/)
