@@ -33,4 +33,4 @@ target_link_libraries(orrelix_program PRIVATE orrelix_options CLI11::CLI11 fmt::
     nlohmann_json::nlohmann_json ${CMAKE_DL_LIBS})
 target_compile_definitions(orrelix_program PRIVATE ORRELIX_VERSION="${PROJECT_VERSION}"
     ORRELIX_LIBRARY_DIR="${ORRELIX_LIBRARY_DIR}")
-add_dependencies(orrelix_program orrelix scripts)
+add_dependencies(orrelix_program orrelix)

@@ -15,8 +15,8 @@ _orrelix() {
     options="--help --code-page"
     case $command in
         "") options+=" --version" ;;
-        new) options+=" --title --effect --set --list-fields --overwrite" ;;
-        edit) options+=" --set --list-fields --overwrite" ;;
+        new) options+=" --title --effect --set --list-fields --json --overwrite" ;;
+        edit) options+=" --set --list-fields --json --overwrite" ;;
         show) options+=" --json" ;;
         preview) options+=" --out --index" ;;
         publish) options+=" --page --site" ;;

@@ -22,6 +22,7 @@ complete -c orrelix -n "__fish_seen_subcommand_from new" -l title -x -d "By whic
 complete -c orrelix -n "__fish_seen_subcommand_from new" -l effect -x -d "Make it without dialogs"
 complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l set -x -d "Set a field: NAME=VALUE"
 complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l list-fields -d "Print the fields and what they hold"
+complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l json -d "With --list-fields: print them as JSON"
 complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l overwrite -d "Copy images over files of the same name"
 complete -c orrelix -n "__fish_seen_subcommand_from show" -l json -d "Print JSON"
 complete -c orrelix -n "__fish_seen_subcommand_from preview" -l out -x -a "(__fish_complete_directories)" -d "Folder for the pages"

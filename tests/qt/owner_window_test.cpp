@@ -37,8 +37,8 @@ TEST(OwnerWindow, IsTheNamedOneAndElseTheOneInUse) {
         SetOwnerWindow(number);
         person.In("Everything")
             .Then([pParent = pParent](CDialog&) { EXPECT_EQ(CQtPerson::Window().parentWidget(), pParent); })
-            .Clicks("Cancel");
-        EXPECT_EQ(promises::CEverythingDlg().DoModal(), IDCANCEL) << number;
+            .Does("clicks Cancel");
+        EXPECT_EQ(everything::CEverythingDlg().DoModal(), IDCANCEL) << number;
         inUse.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&inUse));
     }
