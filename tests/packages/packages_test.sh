@@ -7,7 +7,9 @@ source=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../..")
 cd "$source"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-prefix=$scratch/prefix
+readonly prefix=$scratch/prefix
+readonly examples=$prefix/share/doc/vignel-orrelix-dev/examples/hosts
+export PKG_CONFIG_PATH=$prefix/${library_folder%/*}/pkgconfig
 
 fail() {
     printf '%s\n' "$*" >&2
@@ -35,7 +37,9 @@ expect() {
     fi
 }
 
-install_all() { cmake --install "$build" --prefix "$prefix" >"$scratch/log" || fail "$(cat "$scratch/log")"; }
+install_all() {
+    (cd "$scratch" && cmake --install "$build" --prefix prefix) >"$scratch/log" || fail "$(cat "$scratch/log")"
+}
 
 # A user who has registered nothing, with the installed component in the system's registry.
 as_host() { env XDG_CONFIG_HOME="$scratch/home" XDG_CONFIG_DIRS="$prefix/etc/xdg" "$@"; }
@@ -58,18 +62,14 @@ build_outside() {
 hosts() {
     need python3 pkg-config
     install_all
-    local examples=$prefix/share/doc/vignel-orrelix-dev/examples/hosts
     build_outside "$examples" -DCMAKE_PREFIX_PATH="$prefix"
     try_host "$scratch/outside/host_c"
     try_host "$scratch/outside/host_cpp"
     try_host python3 "$examples/host.py"
     "$scratch/outside/linked"
 
-    export PKG_CONFIG_PATH=$prefix/$(dirname "$library_folder")/pkgconfig
-    # shellcheck disable=SC2046
     g++ -std=c++17 "$examples/host.cpp" -o "$scratch/by_hand" $(pkg-config --cflags VignelOrrelix)
     try_host "$scratch/by_hand"
-    # shellcheck disable=SC2046
     g++ -x c tests/packages/outside/linked.c -o "$scratch/linked" $(pkg-config --cflags --libs VignelOrrelix)
     "$scratch/linked"
     readelf -d "$scratch/linked" | holds 'NEEDED.*\[libVignelOrrelix\.so\.1\]' || fail "linked without a version"
@@ -137,7 +137,7 @@ debian() {
 
 # Every shell offers what the program's help names.
 completions() {
-    local program=$build/bin/orrelix command option shell
+    local program=$build/bin/orrelix commands command options option shell
     . host/completions/orrelix.bash
     compopt() { :; }
     offered() {
@@ -145,11 +145,14 @@ completions() {
         _orrelix
         printf '%s\n' "${COMPREPLY[@]}"
     }
-    for command in "" $("$program" help | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p'); do
+    commands=$("$program" help | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p')
+    [ -n "$commands" ] || fail "the help names no command"
+    for command in "" $commands; do
         [ -z "$command" ] || offered "" | holds -x "$command" || fail "bash: no $command"
-        for option in $("$program" help $command | grep -oE '^ +-[^ ]*' | grep -oE -- '--[a-z-]+'); do
+        options=$("$program" help $command | grep -oE '^ +-[^ ]*' | grep -oE -- '--[a-z-]+')
+        for option in $options; do
             offered $command -- | holds -x -- "$option" || fail "bash: no $option for $command"
-            grep -qE -- "$option[[}]" host/completions/_orrelix || fail "zsh: no $option"
+            grep -qE -- "${option}[[}]" host/completions/_orrelix || fail "zsh: no $option"
             grep -qE -- "-l ${option#--} " host/completions/orrelix.fish || fail "fish: no $option"
         done
         for shell in _orrelix orrelix.fish; do
@@ -185,27 +188,24 @@ work_host() {
         sleep 0.1
     done
     [ $tries -lt 100 ] || fail "the dialog stays"
-    xdotool getwindowname "$window" >/dev/null && kill $process || fail "the host is gone"
+    xdotool getwindowname "$window" >/dev/null || fail "the host is gone"
+    kill $process
     wait $process 2>/dev/null || true
 }
 
 windows() {
     need Xvfb xdotool xprop pkg-config
     install_all
-    local examples=$prefix/share/doc/vignel-orrelix-dev/examples/hosts
-    export PKG_CONFIG_PATH=$prefix/$(dirname "$library_folder")/pkgconfig
     Xvfb -displayfd 3 3>"$scratch/display" 2>/dev/null &
     trap 'kill $(jobs -p); wait; rm -rf "$scratch"' EXIT
     timeout 30 sh -c "until [ -s '$scratch/display' ]; do sleep 0.1; done"
     export DISPLAY=:$(cat "$scratch/display")
     export XDG_CONFIG_HOME=$scratch/home XDG_CONFIG_DIRS=$prefix/etc/xdg
     unset QT_QPA_PLATFORM WAYLAND_DISPLAY
-    # shellcheck disable=SC2046
     g++ -std=c++17 -fPIC "$examples/host_qt.cpp" -o "$scratch/host_qt" \
         $(pkg-config --cflags --libs VignelOrrelix Qt6Widgets)
     work_host "$scratch/host_qt"
     pkg-config --exists gtk+-3.0 || { echo "left out: a host in GTK, libgtk-3-dev is missing"; exit 77; }
-    # shellcheck disable=SC2046
     gcc -std=gnu11 "$examples/host_gtk.c" -o "$scratch/host_gtk" \
         $(pkg-config --cflags --libs VignelOrrelix gtk+-3.0)
     work_host "$scratch/host_gtk"
