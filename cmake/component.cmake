@@ -55,9 +55,8 @@ add_library(VignelOrrelix::headers ALIAS orrelix_headers)
 add_library(orrelix SHARED ${objects})
 add_library(VignelOrrelix::VignelOrrelix ALIAS orrelix)
 target_link_libraries(orrelix PUBLIC orrelix_headers)
-target_link_options(orrelix PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/component.map)
 set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix EXPORT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/component.map)
+    SOVERSION ${PROJECT_VERSION_MAJOR})
 
 # The same objects for tests and benches, which call what hosts can't see.
 add_library(orrelix_static STATIC ${objects})
