@@ -33,7 +33,9 @@ _orrelix() {
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
     elif [[ -z $command || $command == help ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
-    elif [[ $command != @(register|unregister|servers) ]]; then
+    elif [[ $command == register ]]; then
+        compopt -o default
+    elif [[ $command != @(unregister|servers) ]]; then
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -f -X '!*.cfg' -- "$word"; compgen -d -- "$word")
     fi

@@ -10,9 +10,9 @@ for parent in __fish_use_subcommand "__fish_seen_subcommand_from help"
     complete -c orrelix -n $parent -a show -d "Print what a configuration file holds"
     complete -c orrelix -n $parent -a preview -d "Make a page to look at for each configuration file"
     complete -c orrelix -n $parent -a publish -d "Put an effect into a page of a site"
-    complete -c orrelix -n $parent -a register -d "Let hosts find the component"
+    complete -c orrelix -n $parent -a register -d "Let editors find the component"
     complete -c orrelix -n $parent -a unregister -d "Take that back"
-    complete -c orrelix -n $parent -a servers -d "List the components that hosts find"
+    complete -c orrelix -n $parent -a servers -d "Print the components that editors find"
     complete -c orrelix -n $parent -a help -d "Tell about a command"
 end
 
@@ -25,6 +25,7 @@ complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l list-fields -d 
 complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l json -d "With --list-fields: print them as JSON"
 complete -c orrelix -n "__fish_seen_subcommand_from new edit" -l overwrite -d "Copy images over files of the same name"
 complete -c orrelix -n "__fish_seen_subcommand_from show" -l json -d "Print JSON"
+complete -c orrelix -n "__fish_seen_subcommand_from register; and not __fish_seen_subcommand_from help" -F
 complete -c orrelix -n "__fish_seen_subcommand_from preview" -l out -x -a "(__fish_complete_directories)" -d "Folder for the pages"
 complete -c orrelix -n "__fish_seen_subcommand_from preview" -l index -d "Write an index.html"
 complete -c orrelix -n "__fish_seen_subcommand_from publish" -l page -r -F -d "The page"

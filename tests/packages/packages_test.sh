@@ -66,6 +66,7 @@ hosts() {
     try_host "$scratch/outside/host_c"
     try_host "$scratch/outside/host_cpp"
     try_host python3 "$examples/host.py"
+    as_host "$prefix/bin/orrelix" show examples/tool_tip_rich.cfg >/dev/null
     "$scratch/outside/linked"
 
     g++ -std=c++17 "$examples/host.cpp" -o "$scratch/by_hand" $(pkg-config --cflags VignelOrrelix)
@@ -110,6 +111,12 @@ dpkg_there() {
 
 files_there() { (cd "$scratch/root" && find . -path ./var/lib/dpkg -prune -o ! -type d -print | sort); }
 
+# Without what differs between versions of Debian, kinds of builds and places of libraries.
+comparable() {
+    sed -E -e '/^Depends/s/[0-9]*(t64)?( \([^)]*\))?(,|$)/\3/g' -e "s|/${library_folder%/*}/|/lib/|" \
+        -e 's/Config-[a-z]+\./Config-BUILD./'
+}
+
 # What the packages hold and need; and that nothing of them stays.
 debian() {
     need dpkg-deb dpkg-shlibdeps file fakeroot
@@ -121,8 +128,7 @@ debian() {
         dpkg-deb -f "$package" Package Depends Recommends Suggests
         dpkg-deb --fsys-tarfile "$package" | tar t | grep -v '/$' | sort
         echo
-    done | sed -E "s/ \([^)]*\)//g; s/t64\b//g; s|/${library_folder%/*}/|/lib/|; s/Config-[a-z]+\./Config-BUILD./" |
-        expect packages
+    done | comparable | expect packages
 
     there_before=$(dpkg_there --list; find "$scratch/root" ! -path '*/var/lib/dpkg*')
     dpkg_there --install "$scratch"/packages/*.deb
