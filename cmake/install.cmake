@@ -40,6 +40,8 @@ if(TARGET orrelix_program)
 endif()
 
 install(FILES include/vignel_server.h include/orrelix.hpp DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(FILES docs/hosting.md docs/file_format.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/vignel-orrelix-dev
+    COMPONENT development)
 install(DIRECTORY examples/hosts DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/vignel-orrelix-dev/examples
     COMPONENT development)
 

@@ -280,8 +280,8 @@ CString CInspector::GetProblem() {
     return FindEffect(type) ? "" : "names no effect that is known here (DhtmlType is \"" + type + "\")";
 }
 
-CString CInspector::GetFileError() {
-    const std::error_code error = m_Orrelix.m_FileError;
+CString CInspector::GetError() {
+    const std::error_code error = m_Orrelix.m_Error;
     return error ? CString(error.message()) : CString();
 }
 
@@ -399,7 +399,7 @@ std::span<const CMember> GetInspectorMembers() {
         Method<&I::GetDamage>("GetDamage"),
         Method<&I::GetProblem>("GetProblem"),
         Method<&I::IsConfigFile>("IsConfigFile"),
-        Method<&I::GetFileError>("GetFileError"),
+        Method<&I::GetError>("GetError"),
         Method<&I::GetPageFileNumber>("GetPageFileNumber"),
         Method<&I::GetPageFileSource>("GetPageFileSource"),
         Method<&I::GetPageFileWebPath>("GetPageFileWebPath"),

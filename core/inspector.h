@@ -64,8 +64,9 @@ public:
     CString GetProblem();
     // Whether anything of the file was recognised.
     bool IsConfigFile() const { return Form().m_nMarkers > 0; }
-    // The system's sentence for what kept the last file from being read or written; empty for nothing.
-    CString GetFileError();
+    // The system's sentence for what kept the last file from being read or written, or the last dialogs from being shown
+    // to their end; empty for nothing.
+    CString GetError();
 
     // The files that the effect's page needs, as they were when GetPageFileNumber looked for them: where each lies; its directory
     // as the page's text has it, empty or ending in "/"; its name and the other spellings of it in the text, because a

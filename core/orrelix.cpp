@@ -52,18 +52,23 @@ bool COrrelix::ReadConfigFile(const CPath& path) {
 }
 
 bool COrrelix::Config() {
-    return SucceedsIn([&] { return RunDialogs(); });
+    m_Error = std::make_error_code(std::errc::not_enough_memory); // unless they come to their end
+    return SucceedsIn([&] {
+        const bool bOk = RunDialogs();
+        m_Error = {};
+        return bOk;
+    });
 }
 
 bool COrrelix::WriteConfigFileEx(const CPath& path, short force) {
-    m_FileError = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
+    m_Error = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
     return SucceedsIn([&] { return Write(path, force); });
 }
 
 bool COrrelix::Read(const CString& path) {
     m_Form = {};
     const bool bRead = m_Config.ReadFile(path, m_bKeepForm ? &m_Form : nullptr);
-    m_FileError = m_Form.m_Error;
+    m_Error = m_Form.m_Error;
     if (!bRead)
         return false;
     if (m_Config.GetProgID() != kProgID)
@@ -112,8 +117,8 @@ bool COrrelix::Write(const CString& path, short force) {
         m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
     m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
     m_bResourcesRegistered = true;
-    m_FileError = m_Config.WriteFile(path);
-    return !m_FileError;
+    m_Error = m_Config.WriteFile(path);
+    return !m_Error;
 }
 
 } // namespace orrelix

@@ -111,8 +111,9 @@ public:
     bool m_bKeepForm = false;
     CConfigForm m_Form;
 
-    // Why the last writing of a file failed, or the last reading whose form was kept.
-    std::error_code m_FileError;
+    // Why the last writing of a file failed, or the last reading whose form was kept, or the last dialogs for another
+    // reason than the user's Cancel.
+    std::error_code m_Error;
 
     // Selects an effect by its type, "1" to "9", as the first dialog of Config does: for hosts without a
     // screen. Another type is kept, and the gadget stays.

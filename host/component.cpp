@@ -66,7 +66,7 @@ CString CEffectObject::GetScriptFolder() const {
 
 void ReadConfig(const fs::path& path, const CEffectObject& effect) {
     const bool bRead = effect.ReadConfigFile(PathForComponent(path));
-    const std::string error = effect.Ask<std::string>("GetFileError");
+    const std::string error = effect.Ask<std::string>("GetError");
     if (!bRead || !error.empty())
         throw CFileError(path, "can't be read: " + error);
 }

@@ -176,7 +176,7 @@ void Write(const CEffectObject& object, const CEditOptions& options, CReport& re
     object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
     if (!object.WriteConfigFileEx(PathForComponent(options.m_File), options.m_bOverwrite))
         return report.Error(options.m_File.string(),
-                            "can't be written: " + object.Ask<std::string>("GetFileError"));
+                            "can't be written: " + object.Ask<std::string>("GetError"));
     CheckCopies(object, directory, report);
     std::cout << options.m_File.string() << '\n';
     WarnOfHarmfulTexts(object, options.m_File.string(), report);
@@ -192,7 +192,9 @@ bool RunDialogs(const CEffectObject& object, const CEditOptions& options, const 
     }
     if (object.Config())
         return true;
-    report.Error(options.m_File.string(), "cancelled; nothing has been written");
+    const auto error = object.Ask<std::string>("GetError");
+    report.Error(options.m_File.string(),
+                 (error.empty() ? "cancelled" : error) + "; nothing has been written");
     return false;
 }
 
