@@ -30,8 +30,8 @@ TEST(ScrollText, TakesLinksThatAreMissingAsEmpty) {
     CVignelConfig config;
     CScrollText gadget;
     gadget.m_Links.RemoveAll();
-    gadget.m_Texts = {"one", "two"};
-    EXPECT_GE(gadget.GetHTMLBody(config, kPublish, 0).Find("[1]=\"<a href=''"), 0);
+    gadget.m_Texts.SetSize(10'000);
+    EXPECT_GE(gadget.GetHTMLBody(config, kPublish, 0).Find("[9999]=\"<a href='' "), 0);
 }
 
 } // namespace orrelix

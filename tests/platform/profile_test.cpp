@@ -75,8 +75,9 @@ TEST_F(Profile, EveryTextComesBackAsItWasStored) {
 }
 
 TEST_F(Profile, OnlyTheKeysThatAreWrittenChange) {
-    WriteFile("; by hand\n[A]\n One = 1 \r\nTwo=2\n\n[B]\nOne=b\nno entry\n[A]\nOne=late\n");
+    WriteFile("; by hand\n[A]\n#One=#\n One = 1 \r\nTwo=2\n\n[B]\nOne=b\nno entry\n[A]\nOne=late\n");
     EXPECT_EQ(GetProfileString("A", "One"), "1");
+    EXPECT_EQ(GetProfileString("A", "#One", "no key"), "no key");
     EXPECT_TRUE(ChangeProfileSection("A", [](CProfileSection& section) {
         section.WriteString("Two", section.GetString("One") + "+1");
         section.WriteString("Three", "3");
@@ -85,7 +86,7 @@ TEST_F(Profile, OnlyTheKeysThatAreWrittenChange) {
     }));
     EXPECT_TRUE(WriteProfileString("C", "One", "c"));
     EXPECT_EQ(FileContent(m_User.File()),
-              "; by hand\n[A]\n One = 1 \r\nTwo=1+1\n\n[B]\nOne=b\nno entry\n[A]\n"
+              "; by hand\n[A]\n#One=#\n One = 1 \r\nTwo=1+1\n\n[B]\nOne=b\nno entry\n[A]\n"
               "One=late\nThree=three\nFour=4\n[C]\nOne=c\n");
 }
 
@@ -101,7 +102,6 @@ TEST_F(Profile, ADamagedFileCostsNoMoreThanWhatIsDamaged) {
         {"zeros", std::string(5000, '\0'), "default"},
         {"zeros before", std::string(50, '\0') + "\n[s]\nk=v\n", "v"},
         {"a key twice", "[s]\nk=first\nk=second\n", "first"},
-        {"a key in comments", "[s]\n#k=first\n;k=second\nk=third\n", "third"},
         {"no keys", "=\n[]\n==\n[s]\n=\n", "default"},
         {"every byte", "\xff\xfe\x80[s]\n\x01\x02=\x03\n[s]\nk=\xff", "\xff"},
         {"too large to be ours", "[s]\nk=v\n" + std::string(5000000, 'x'), "default"}};
