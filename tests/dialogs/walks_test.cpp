@@ -1,11 +1,11 @@
-// Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs and after the one on which
-// desktops are tried. A question is what a
-// person does, the answer what changes on the screen then; "$ in" says in which dialog the person is from then on,
-// and the other verbs are those of tests/support/person_script.cpp. A walk begins with "$ edits", behind which stand parameters that the effect has
-// read ("DanceTextPara=,,,,,,0") and fields that aren't as they are at first ("m_Width=50%|m_Left="). Its last answer
-// is what the fields have become, and what of an effect its parameters give back otherwise. That Cancel in the place
-// of an effect's OK changes nothing is tried beside. Those of tests/qt/walks are by keyboard, before windows alone: they
-// also say what has the keyboard, and what marks boxes have.
+// Walks through dialogs: the files of tests/dialogs/walks, named after dialogs of AllDialogs and after the one on
+// which desktops are tried. A question is what a person does, the answer what changes on the screen then; "$ in" says
+// in which dialog the person is from then on, and the other verbs are those of tests/support/person_script.cpp. A walk
+// begins with "$ edits", behind which stand parameters that the effect has read ("DanceTextPara=,,,,,,0") and fields
+// that aren't as they are at first ("m_Width=50%|m_Left="). Its last answer is what the fields have become, and what of
+// an effect its parameters give back otherwise. That Cancel in the place of an effect's OK changes nothing is tried
+// beside. Those of tests/qt/walks are by keyboard, before windows alone: they also say what has the keyboard, and what
+// marks boxes have.
 #include "platform/paths.h"
 #include "tests/support/all_dialogs.h"
 #include "tests/support/everything_dialog.h"
@@ -36,14 +36,6 @@ struct CWalk {
 };
 
 using CTexts = std::map<std::string, std::string>;
-
-std::vector<std::string> Pieces(const std::string& text, char separator) {
-    std::vector<std::string> pieces;
-    std::istringstream stream(text);
-    for (std::string piece; std::getline(stream, piece, separator);)
-        pieces.push_back(piece);
-    return pieces;
-}
 
 // With line breaks as acts have them.
 CString Escaped(CString text) {
@@ -96,8 +88,8 @@ private:
         std::unique_ptr<CEditing> pEditing = m_Dialog.m_Edit();
         CVignelConfig parameters;
         CTexts fields;
-        for (const std::string& setting :
-             Pieces(question.substr(std::min(strlen("edits "), question.size())), '|')) {
+        std::istringstream settings(question.substr(std::min(strlen("edits "), question.size())));
+        for (std::string setting; std::getline(settings, setting, '|');) {
             const size_t nEquals = setting.find('=');
             if (setting.starts_with("m_"))
                 fields[setting.substr(0, nEquals)] = setting.substr(nEquals + 1);

@@ -4,10 +4,8 @@
 #include "tests/support/expected_text.h"
 #include "tests/support/temporary_directory.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <vector>
 
 namespace orrelix {
 
@@ -16,16 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 const fs::path kSource = ORRELIX_SOURCE_DIR;
-
-std::vector<std::string> ExampleNames() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(kSource / "examples")) {
-        if (entry.path().extension() == ".cfg")
-            names.push_back(entry.path().stem());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 // The examples in a place where they can be written, as the current directory, with the module where they
 // have it.
@@ -79,7 +67,7 @@ TEST_P(Example, WrittenAgainHasTheSameBytes) {
     EXPECT_EQ(FileContent("examples/" + GetParam() + ".cfg"), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Gadgets, Example, testing::ValuesIn(ExampleNames()),
+INSTANTIATE_TEST_SUITE_P(Gadgets, Example, testing::ValuesIn(StemsIn(kSource / "examples", ".cfg")),
                          [](const auto& example) { return example.param; });
 
 } // namespace orrelix

@@ -6,7 +6,6 @@
 #include "tests/support/session.h"
 #include "tests/support/temporary_directory.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <stdlib.h>
 #include <sys/wait.h>
@@ -19,16 +18,6 @@ namespace {
 
 const fs::path kSource = ORRELIX_SOURCE_DIR;
 const fs::path kSessions = kSource / "tests/host/sessions";
-
-std::vector<std::string> SessionNames() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(kSessions)) {
-        if (entry.path().extension() == ".txt")
-            names.push_back(entry.path().stem());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 class Session : public testing::TestWithParam<std::string> {
 protected:
@@ -70,7 +59,7 @@ TEST_P(Session, HasTheseAnswers) {
                                [this](const std::string& command) { return Answer(command); }));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Session, testing::ValuesIn(SessionNames()),
+INSTANTIATE_TEST_SUITE_P(All, Session, testing::ValuesIn(StemsIn(kSessions, ".txt")),
                          [](const auto& session) { return session.param; });
 
 } // namespace orrelix

@@ -2,6 +2,7 @@
 #include "platform/profile.h"
 #include "tests/support/user_settings.h"
 
+#include <array>
 #include <csignal>
 #include <fstream>
 #include <functional>
@@ -154,21 +155,18 @@ TEST_F(Profile, ReadOnlySettingsAreReadAndStayAsTheyAre) {
 }
 
 TEST_F(Profile, TheFolderIsFoundAsTheConventionSays) {
-    struct CCase {
-        const char* m_pConfiguration;
-        const char* m_pHome;
-        const char* m_pFolder;
-    };
-    for (const CCase& place : {CCase{"/c", "/h", "\\c\\Brindlefen\\Vellumark Orrelix"},
-                               CCase{"", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
-                               CCase{"relative", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
-                               CCase{"", "relative", ""}}) {
-        const pid_t nProcess = Start([&] {
-            setenv("XDG_CONFIG_HOME", place.m_pConfiguration, 1);
-            setenv("HOME", place.m_pHome, 1);
-            return GetUserFolder(false) == place.m_pFolder ? 0 : 1;
+    const std::array<const char*, 3> cases[] = {
+        {"/c", "/h", "\\c\\Brindlefen\\Vellumark Orrelix"},
+        {"", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
+        {"relative", "/h", "\\h\\.config\\Brindlefen\\Vellumark Orrelix"},
+        {"", "relative", ""}};
+    for (const auto& [pConfiguration, pHome, pFolder] : cases) {
+        const pid_t nProcess = Start([pConfig = pConfiguration, pHomeFolder = pHome, pWanted = pFolder] {
+            setenv("XDG_CONFIG_HOME", pConfig, 1);
+            setenv("HOME", pHomeFolder, 1);
+            return GetUserFolder(false) == pWanted ? 0 : 1;
         });
-        EXPECT_EQ(WaitFor(nProcess), 0) << place.m_pConfiguration << ", " << place.m_pHome;
+        EXPECT_EQ(WaitFor(nProcess), 0) << pConfiguration << ", " << pHome;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/paths.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -32,6 +33,16 @@ CString CTemporaryDirectory::Write(const std::string& name, std::string_view con
 
 CString HostPath(const std::filesystem::path& path) {
     return FromSystemPath(path.string());
+}
+
+std::vector<std::string> StemsIn(const std::filesystem::path& folder, const char* pEnding) {
+    std::vector<std::string> stems;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.path().extension() == pEnding)
+            stems.push_back(entry.path().stem());
+    }
+    std::sort(stems.begin(), stems.end());
+    return stems;
 }
 
 std::string FileContent(const std::filesystem::path& path) {

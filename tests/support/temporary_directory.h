@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace orrelix {
 
@@ -28,6 +29,9 @@ private:
 
 // A path of the system's as the component's hosts give it.
 CString HostPath(const std::filesystem::path& path);
+
+// The names of the folder's files with this ending, without it, sorted.
+std::vector<std::string> StemsIn(const std::filesystem::path& folder, const char* pEnding);
 
 // The bytes of a file; a test that names no file fails.
 std::string FileContent(const std::filesystem::path& path);
