@@ -1,6 +1,6 @@
 # The component: everything but the Qt windows, program, tests and benches. It needs the standard library and nothing
 # else.
-set(platform_services automation file_system file_lock module registry screen text_conversion user_folder)
+set(platform_services automation configuration_folder file_system file_lock module registry screen text_conversion)
 if(WIN32)
     list(TRANSFORM platform_services APPEND _windows.cpp)
 else()

@@ -52,29 +52,4 @@ void RegisterScript(CVignelConfig& config, const CScriptFile& script, const CStr
     config.AddResource({script.m_pResourceName, GetModuleDirectory() + "\\", webPath});
 }
 
-bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force) {
-    if (path.IsEmpty())
-        return true;
-    const CString name = FileNameOfPath(path);
-    const CString source = DirectoryOfPath(path) + "\\";
-    if (force != 0) {
-        CopyWholeFile(source + name, destination + name);
-        return true;
-    }
-    if (!FileExists(path)) {
-        path.Empty();
-        return true;
-    }
-    if (source == destination)
-        return true;
-    if (std::find(handled.begin(), handled.end(), path) != handled.end())
-        return true;
-    if (FileExists(destination + name))
-        return false;
-    CopyWholeFile(source + name, destination + name);
-    handled.Add(path);
-    path = destination + name;
-    return true;
-}
-
 } // namespace orrelix

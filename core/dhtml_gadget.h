@@ -95,11 +95,4 @@ void CopyScript(const CScriptFile& script, const CString& directory);
 // Adds its resource.
 void RegisterScript(CVignelConfig& config, const CScriptFile& script, const CString& webPath);
 
-// The copy of a user's file whose full path the gadget holds in `path`. `destination` is a directory with a
-// backslash at its end; `handled` collects the paths that one run has copied. False when a file of that name
-// is there already and the user has to be asked: nothing has been copied then. On a copy `path` becomes that
-// of the copy; where the file doesn't exist it becomes empty; with `force` not 0 the file is copied over
-// whatever is there and `path` stays.
-bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force);
-
 } // namespace orrelix

@@ -81,7 +81,7 @@ void CInspector::SetEffect(const CString& name) {
     const CEffect* pEffect = FindEffectNamed(name);
     if (!pEffect)
         throw CRefusal("there is no effect \"" + std::string(name.View()) + "\"");
-    m_Orrelix.SelectType(orrelix::TypeOf(*pEffect));
+    m_Orrelix.SelectType(TypeOf(*pEffect));
 }
 
 CItems CInspector::GetFieldNames() {
@@ -91,13 +91,13 @@ CItems CInspector::GetFieldNames() {
     return names;
 }
 
-CFieldType CInspector::TypeOf(const CString& name) {
+CFieldType CInspector::FieldTypeOf(const CString& name) {
     const std::vector<CNamedField> fields = ListFields(Gadget());
     return TypeOfField(fields, FieldOf(fields, name, IsFieldList(name)));
 }
 
 CString CInspector::GetFieldKind(const CString& field) {
-    return NameOf(TypeOf(field).m_Kind);
+    return NameOf(FieldTypeOf(field).m_Kind);
 }
 
 bool CInspector::IsFieldList(const CString& field) {
@@ -107,15 +107,15 @@ bool CInspector::IsFieldList(const CString& field) {
 }
 
 CItems CInspector::GetFieldChoices(const CString& field) {
-    return ItemsOf(TypeOf(field).m_Choices);
+    return ItemsOf(FieldTypeOf(field).m_Choices);
 }
 
 int CInspector::GetFieldMinimum(const CString& field) {
-    return TypeOf(field).m_nLeast;
+    return FieldTypeOf(field).m_nLeast;
 }
 
 int CInspector::GetFieldMaximum(const CString& field) {
-    return TypeOf(field).m_nMost;
+    return FieldTypeOf(field).m_nMost;
 }
 
 CString CInspector::GetField(const CString& name) {

@@ -6,7 +6,7 @@
 #include "core/dispatch.h"
 #include "core/fields.h"
 #include "core/orrelix.h"
-#include "core/page_files.h"
+#include "core/published_files.h"
 
 #include <vector>
 
@@ -105,7 +105,7 @@ public:
 private:
     CDhtmlGadget& Gadget() { return *m_Orrelix.m_pGadget; }
     const CConfigForm& Form() const { return m_Orrelix.m_Form; }
-    CFieldType TypeOf(const CString& field);
+    CFieldType FieldTypeOf(const CString& field);
     CString RemarkOn(const CString& field);
     CStringArray::Index ItemsBeside(const std::vector<CNamedField>& fields, const CNamedField& field,
                                     const CItems& items) const;

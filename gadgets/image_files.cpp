@@ -11,6 +11,31 @@
 
 namespace orrelix {
 
+bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force) {
+    if (path.IsEmpty())
+        return true;
+    const CString name = FileNameOfPath(path);
+    const CString source = DirectoryOfPath(path) + "\\";
+    if (force != 0) {
+        CopyWholeFile(source + name, destination + name);
+        return true;
+    }
+    if (!FileExists(path)) {
+        path.Empty();
+        return true;
+    }
+    if (source == destination)
+        return true;
+    if (std::find(handled.begin(), handled.end(), path) != handled.end())
+        return true;
+    if (FileExists(destination + name))
+        return false;
+    CopyWholeFile(source + name, destination + name);
+    handled.Add(path);
+    path = destination + name;
+    return true;
+}
+
 namespace {
 
 // Copies those that the user needn't be asked about, and hands the others to the dialog.

@@ -7,6 +7,7 @@
 #include "host/generated_effect.h"
 #include "host/nearest_word.h"
 #include "host/text_encoding.h"
+#include "host/title.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/paths.h"

@@ -5,6 +5,7 @@
 #include "host/html_outline.h"
 #include "host/script_syntax.h"
 #include "host/text_encoding.h"
+#include "host/title.h"
 
 #include <algorithm>
 #include <cctype>
@@ -306,7 +307,7 @@ private:
 
     std::string Advice(size_t nText, char character, const std::vector<char>& harmful) {
         if (m_Texts[nText].m_Field.empty())
-            return "titles are of letters, digits and \"_\"";
+            return kTitleAdvice;
         if (m_Texts[nText].m_bFileName)
             return "give the file a name without it";
         const CString text = WithOthersHarmless(nText, character, harmful);

@@ -2,8 +2,6 @@
 
 #include "platform/paths.h"
 
-#include <cctype>
-
 namespace orrelix {
 
 namespace {
@@ -52,13 +50,6 @@ CGeneratedEffect GenerateEffect(const CEffectObject& object, EHtmlMode mode) {
 
 CString ScriptText(const CEffectObject& object, EHtmlMode mode) {
     return object.GetHTMLSegmentNumber() == 2 ? CString(object.GetHTMLBody(1, mode)) : CString();
-}
-
-std::string TitleFrom(std::string_view text) {
-    std::string title;
-    for (char byte : text)
-        title += isalnum(static_cast<unsigned char>(byte)) ? byte : '_';
-    return title.empty() || isdigit(static_cast<unsigned char>(title[0])) ? "v" + title : title;
 }
 
 } // namespace orrelix

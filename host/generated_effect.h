@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace orrelix {
@@ -37,8 +36,5 @@ CGeneratedEffect GenerateEffect(const CEffectObject& object, EHtmlMode mode);
 
 // The text that belongs into the page's head; empty for effects that have none of their own.
 CString ScriptText(const CEffectObject& object, EHtmlMode mode);
-
-// A title that can stand in names of a page's script: letters, digits and "_", no digit first.
-std::string TitleFrom(std::string_view text);
 
 } // namespace orrelix

@@ -1,8 +1,8 @@
 #include "platform/profile.h"
 
+#include "platform/configuration_folder.h"
 #include "platform/file_lock.h"
 #include "platform/files.h"
-#include "platform/user_folder.h"
 
 #include <algorithm>
 #include <optional>
@@ -100,6 +100,10 @@ std::optional<std::string> ReadSettings(const CString& path) {
 
 } // namespace
 
+CString GetSettingsFolder(bool bCreate) {
+    return GetConfigurationFolder(std::string(kCompanyWord) + "/" + kApplicationTitle, bCreate);
+}
+
 CProfileSection::CProfileSection(std::string_view fileText, const CString& name) : m_Name(name) {
     bool bInside = false;
     while (!fileText.empty()) {
@@ -156,13 +160,13 @@ bool WriteProfileString(const CString& section, const CString& key, const CStrin
 }
 
 CProfileSection GetProfileSection(const CString& section) {
-    const CString folder = GetUserFolder(false);
+    const CString folder = GetSettingsFolder(false);
     const auto text = folder.IsEmpty() ? std::nullopt : ReadSettings(folder + kFileName);
     return {text.value_or(""), section};
 }
 
 bool ChangeProfileSection(const CString& section, const std::function<void(CProfileSection&)>& change) {
-    const CString folder = GetUserFolder(true);
+    const CString folder = GetSettingsFolder(true);
     CFileLock lock;
     if (folder.IsEmpty() || !lock.Acquire(folder + kLockName, kLockMilliseconds))
         return false;

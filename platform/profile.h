@@ -1,5 +1,5 @@
 // The settings that the component keeps for the user: texts by section and key, in one text file in the
-// user's folder (see platform/user_folder.h).
+// settings folder.
 //
 // The file has a line "[section]" before the lines "key=value" of each section. What a line can't hold as it
 // is stands as "\xHH" in it, so that every text comes back as it was stored. Lines that say nothing here are
@@ -18,6 +18,14 @@
 #include <vector>
 
 namespace orrelix {
+
+constexpr const char* kCompanyWord = "Brindlefen";
+constexpr const char* kApplicationTitle = "Vellumark Orrelix";
+
+// The component's own folder of the user's settings, named by company word and application title below the user's
+// configuration folder; with backslashes and none at its end. Empty when the user has no configuration folder or, with
+// bCreate, when the folder can't be made.
+CString GetSettingsFolder(bool bCreate);
 
 // One section, as the file holds it.
 class CProfileSection {

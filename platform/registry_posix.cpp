@@ -1,8 +1,8 @@
 #include "include/vignel_server.h"
+#include "platform/configuration_folder.h"
 #include "platform/file_lock.h"
 #include "platform/files.h"
 #include "platform/registry.h"
-#include "platform/user_folder.h"
 
 #include <algorithm>
 

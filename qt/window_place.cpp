@@ -1,7 +1,7 @@
 #include "qt/window_place.h"
 
 #include "platform/paths.h"
-#include "platform/user_folder.h"
+#include "platform/profile.h"
 
 #include <QFile>
 #include <QSettings>
@@ -12,7 +12,7 @@ namespace {
 
 // Empty when the user has no folder.
 QString PlacesFile(bool bCreateFolder) {
-    const CString folder = GetUserFolder(bCreateFolder);
+    const CString folder = GetSettingsFolder(bCreateFolder);
     return folder.IsEmpty() ? QString() : QFile::decodeName(SystemSpelling(folder).c_str()) + "/windows.ini";
 }
 

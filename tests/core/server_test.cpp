@@ -151,6 +151,9 @@ TEST(Server, IsToldToHostsMemberByMember) {
 
 // Under a sanitizer this tells more.
 TEST(Server, TakesAnyCall) {
+    const CTemporaryDirectory folder; // some write files
+    const std::filesystem::path oldFolder = std::filesystem::current_path();
+    std::filesystem::current_path(folder.File(""));
     IDispatch* pObject = CreateObject();
     void* pInspector = nullptr;
     pObject->QueryInterface(VignelIidInspector, &pInspector);
@@ -198,6 +201,7 @@ TEST(Server, TakesAnyCall) {
     pObject->Release();
     for (BSTR text : texts)
         SysFreeString(text);
+    std::filesystem::current_path(oldFolder);
 }
 
 } // namespace orrelix

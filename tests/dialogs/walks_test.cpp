@@ -33,6 +33,10 @@ struct CWalk {
     fs::path m_File;
     CTestedDialog m_Dialog;
     bool m_bByKeys;
+
+    friend std::ostream& operator<<(std::ostream& out, const CWalk& walk) {
+        return out << walk.m_File.filename();
+    }
 };
 
 using CTexts = std::map<std::string, std::string>;

@@ -24,6 +24,10 @@ struct CEffectFiles {
     const char* m_pName;
     std::vector<const char*> m_Resources; // the script files as the store names them
     std::vector<const char*> m_Files;     // and those that lie beside the page
+
+    friend std::ostream& operator<<(std::ostream& out, const CEffectFiles& effect) {
+        return out << effect.m_pName;
+    }
 };
 
 const CEffectFiles kEffectFiles[] = {

@@ -164,7 +164,7 @@ TEST_F(Profile, TheFolderIsFoundAsTheConventionSays) {
         const pid_t nProcess = Start([pConfig = pConfiguration, pHomeFolder = pHome, pWanted = pFolder] {
             setenv("XDG_CONFIG_HOME", pConfig, 1);
             setenv("HOME", pHomeFolder, 1);
-            return GetUserFolder(false) == pWanted ? 0 : 1;
+            return GetSettingsFolder(false) == pWanted ? 0 : 1;
         });
         EXPECT_EQ(WaitFor(nProcess), 0) << pConfiguration << ", " << pHome;
     }

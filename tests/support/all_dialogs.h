@@ -30,6 +30,10 @@ struct CTestedDialog {
     const CDialogDescription& (*m_pDescription)();
     std::function<std::unique_ptr<CEditing>()> m_Edit = {}; // none for a dialog that edits no fields
     std::vector<CSubDialog> m_SubDialogs = {};
+
+    friend std::ostream& operator<<(std::ostream& out, const CTestedDialog& dialog) {
+        return out << dialog.m_pName;
+    }
 };
 
 const std::vector<CTestedDialog>& AllDialogs();

@@ -2,7 +2,7 @@
 // temporary one.
 #pragma once
 
-#include "platform/user_folder.h"
+#include "platform/profile.h"
 #include "tests/support/temporary_directory.h"
 
 #include <stdlib.h>

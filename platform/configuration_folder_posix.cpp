@@ -1,5 +1,6 @@
+#include "platform/configuration_folder.h"
+
 #include "platform/paths.h"
-#include "platform/user_folder.h"
 
 #include <cstdlib>
 #include <pwd.h>
@@ -51,10 +52,6 @@ CString GetConfigurationFolder(const std::string& name, bool bCreate) {
         return {};
     folder += '/' + name;
     return bCreate && !MakeFolders(folder) ? CString() : FromSystemPath(folder);
-}
-
-CString GetUserFolder(bool bCreate) {
-    return GetConfigurationFolder(std::string(kCompanyWord) + "/" + kApplicationTitle, bCreate);
 }
 
 } // namespace orrelix

@@ -1,4 +1,4 @@
-#include "core/page_files.h"
+#include "core/published_files.h"
 
 #include "core/orrelix.h"
 
