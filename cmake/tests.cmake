@@ -60,6 +60,7 @@ if(ORRELIX_HOST)
             set_tests_properties(browser.${name} PROPERTIES FIXTURES_REQUIRED browser_pages LABELS browser
                 TIMEOUT 300 ENVIRONMENT "${environment}")
         endforeach()
+        set_tests_properties(browser.moving_effects browser.drop_downs PROPERTIES COST 100) # the longest begin first
     else()
         message(WARNING "Browser tests are left out: they need node, chromium, firefox and 'npm ci' in tests/browser")
     endif()

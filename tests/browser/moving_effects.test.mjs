@@ -122,7 +122,7 @@ testEverywhere("scroll_text_restless", "its stop says what it does and its state
 const ANIMATED = ["Harvest festival, Saturday 14th\nin the old mill", "New: walks along the river, with a map",
     "All the news, week by week"];
 const rich = await pageText("animate_text_rich");
-const brief = (text) => text.replace(/layinterval=\d+/, "layinterval=10");
+const brief = (text) => text.replace(/(text|lay)interval=\d+/g, "$1interval=5");
 // A stylesheet of the page's colours what it can; the author's own colour of a word stays.
 const framework = "<style>p, a { color: rgb(9, 9, 9); margin: 0 } * { box-sizing: border-box }</style>";
 testEverywhere(givePage(framework + brief(rich)), "texts rise to their colour, in turn and again", async ({ page }) => {
