@@ -1,5 +1,4 @@
 #include "platform/configuration_folder.h"
-
 #include "platform/paths.h"
 
 #include <cstdlib>
