@@ -21,6 +21,8 @@ namespace orrelix {
 
 namespace {
 
+constexpr char kHelp[] = "help";
+
 // One command of the program: its arguments, and what it does with them.
 struct CCommand {
     CLI::App* m_pArguments;
@@ -131,13 +133,18 @@ int WrongUsage(const std::string& text) {
     return kWrongUsage;
 }
 
+std::vector<std::string> CommandNames(const CLI::App& program) {
+    std::vector<std::string> names = {kHelp};
+    for (const CLI::App* pCommand : program.get_subcommands(nullptr))
+        names.push_back(pCommand->get_name());
+    return names;
+}
+
 // What to say of a word that is nearly a command or an option; empty when there is none.
 std::string SayWhatWasMeant(const CLI::App& program) {
     const std::vector<CLI::App*> given = program.get_subcommands();
     const CLI::App& command = given.empty() ? program : *given.front();
-    std::vector<std::string> known;
-    for (const CLI::App* pCommand : command.get_subcommands(nullptr))
-        known.push_back(pCommand->get_name());
+    std::vector<std::string> known = given.empty() ? CommandNames(program) : std::vector<std::string>();
     const auto isOption = [](const CLI::Option* pOption) { return pOption->nonpositional(); };
     for (const CLI::App* pTaker : {&command, &program}) {
         for (const CLI::Option* pOption : pTaker->get_options(isOption))
@@ -168,8 +175,13 @@ int RunProgram(int nArguments, char** ppArguments) {
     // The last one first, as the parser takes them.
     std::vector<std::string> arguments(std::reverse_iterator(ppArguments + nArguments),
                                        std::reverse_iterator(ppArguments + 1));
-    if (!arguments.empty() && arguments.back() == "help") {
+    if (!arguments.empty() && arguments.back() == kHelp) {
         arguments.pop_back();
+        const bool bCommand = !arguments.empty() && !arguments.back().starts_with('-');
+        if (bCommand && !program.get_subcommand_no_throw(arguments.back()))
+            return WrongUsage(
+                fmt::format("{} is unknown; {}", arguments.back(),
+                            DidYouMean(arguments.back(), CommandNames(program), "it is no command")));
         arguments.insert(arguments.begin(), "--help");
     }
     try {
