@@ -2,11 +2,12 @@
 #pragma once
 
 #include "platform/string.h"
+#include "toolkit/dialog_description.h"
 
 namespace orrelix {
 
 // The words, in the order of the rows.
-inline constexpr const char* kLinkTargetWords[] = {"", "self", "top", "blank", "parent"};
+inline constexpr CChoice kLinkTargetWords[] = {"", "self", "top", "blank", "parent"};
 
 // The row of a word; -1 for a word that the list doesn't offer.
 int RowOfLinkTarget(const CString& word);

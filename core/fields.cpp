@@ -6,57 +6,57 @@
 #include "resources/choices.h"
 
 #include <algorithm>
+#include <span>
 
 namespace orrelix {
 
 namespace {
 
-const std::vector<CChoice> kTargets(std::begin(kLinkTargetWords), std::end(kLinkTargetWords));
-const std::vector<CChoice> kTipTags = {"marquee", "span"};
+constexpr CChoice kTipTags[] = {"marquee", "span"};
 
 constexpr int kMostOfArrows = 5000;
 
 struct CNameEnding {
     std::string_view m_Ending;
     FieldKind m_Kind;
-    const std::vector<CChoice>* m_pChoices = nullptr;
+    std::span<const CChoice> m_Choices = {};
     int m_nMost = 0;
 };
 
 // The first that fits counts.
-const CNameEnding kEndings[] = {
+constexpr CNameEnding kEndings[] = {
     {"Color", FieldKind::Colour},
     {"Colors", FieldKind::Colour},
-    {"BorderStyle", FieldKind::Choice, &kBorderStyles},
-    {"Style", FieldKind::Choice, &kFontStyles},
-    {"Weight", FieldKind::Choice, &kFontWeights},
-    {"Decoration", FieldKind::Choice, &kDecorations},
-    {"Align", FieldKind::Choice, &kAligns},
-    {"Target", FieldKind::Choice, &kTargets},
-    {"TipTag", FieldKind::Choice, &kTipTags},
+    {"BorderStyle", FieldKind::Choice, kBorderStyles},
+    {"Style", FieldKind::Choice, kFontStyles},
+    {"Weight", FieldKind::Choice, kFontWeights},
+    {"Decoration", FieldKind::Choice, kDecorations},
+    {"Align", FieldKind::Choice, kAligns},
+    {"Target", FieldKind::Choice, kLinkTargetWords},
+    {"TipTag", FieldKind::Choice, kTipTags},
     {"ScriptPath", FieldKind::Directory},
     {"ImagePath", FieldKind::Directory},
     {"ClassWebPath", FieldKind::Directory},
-    {"PopUpInterval", FieldKind::Number, nullptr, 1000},
-    {"CirculateInterval", FieldKind::Number, nullptr, 1000},
-    {"m_Speed", FieldKind::Number, nullptr, 1000},
-    {"m_Delay", FieldKind::Number, nullptr, 10},
-    {"Width", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Height", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Size", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Top", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Left", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Right", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Bottom", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Padding", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Margin", FieldKind::Number, nullptr, kMostOfArrows},
-    {"ScrollStart", FieldKind::Number, nullptr, kMostOfArrows},
-    {"LayerSpeed", FieldKind::Number, nullptr, kMostOfArrows},
-    {"Time", FieldKind::Number, nullptr, kMostOfArrows},
-    {"FadeSteps", FieldKind::Number, nullptr, kMostOfArrows},
-    {"FadeMsec", FieldKind::Number, nullptr, kMostOfArrows},
-    {"TableBorder", FieldKind::Number, nullptr, kMostOfArrows},
-    {"m_Border", FieldKind::Number, nullptr, kMostOfArrows},
+    {"PopUpInterval", FieldKind::Number, {}, 1000},
+    {"CirculateInterval", FieldKind::Number, {}, 1000},
+    {"m_Speed", FieldKind::Number, {}, 1000},
+    {"m_Delay", FieldKind::Number, {}, 10},
+    {"Width", FieldKind::Number, {}, kMostOfArrows},
+    {"Height", FieldKind::Number, {}, kMostOfArrows},
+    {"Size", FieldKind::Number, {}, kMostOfArrows},
+    {"Top", FieldKind::Number, {}, kMostOfArrows},
+    {"Left", FieldKind::Number, {}, kMostOfArrows},
+    {"Right", FieldKind::Number, {}, kMostOfArrows},
+    {"Bottom", FieldKind::Number, {}, kMostOfArrows},
+    {"Padding", FieldKind::Number, {}, kMostOfArrows},
+    {"Margin", FieldKind::Number, {}, kMostOfArrows},
+    {"ScrollStart", FieldKind::Number, {}, kMostOfArrows},
+    {"LayerSpeed", FieldKind::Number, {}, kMostOfArrows},
+    {"Time", FieldKind::Number, {}, kMostOfArrows},
+    {"FadeSteps", FieldKind::Number, {}, kMostOfArrows},
+    {"FadeMsec", FieldKind::Number, {}, kMostOfArrows},
+    {"TableBorder", FieldKind::Number, {}, kMostOfArrows},
+    {"m_Border", FieldKind::Number, {}, kMostOfArrows},
 };
 
 class CFieldLister : public CParameterExchange {
@@ -121,10 +121,8 @@ CFieldType TypeOfField(const std::vector<CNamedField>& fields, const CNamedField
         if (!field.m_Name.View().ends_with(ending.m_Ending))
             continue;
         CFieldType type{ending.m_Kind, {}, 0, ending.m_nMost};
-        if (ending.m_pChoices) {
-            for (const CChoice& choice : *ending.m_pChoices)
-                type.m_Choices.emplace_back(choice.m_pValue);
-        }
+        for (const CChoice& choice : ending.m_Choices)
+            type.m_Choices.emplace_back(choice.m_pValue);
         return type;
     }
     return {};

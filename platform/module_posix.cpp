@@ -1,11 +1,15 @@
 #include "platform/module.h"
 #include "platform/paths.h"
 
+#include <climits>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
-#include <filesystem>
 #include <optional>
+#include <string>
+#include <unistd.h>
 
 namespace orrelix {
 
@@ -17,20 +21,26 @@ Dl_info ThisModule() {
     return module;
 }
 
-// With slashes; empty when the system can't tell. A link beside the library stays, because it outlives the version that
-// it leads to.
-std::filesystem::path FindFile() {
-    const char* pFile = ThisModule().dli_fname;
-    std::error_code unknown;
-    if (!pFile || !strchr(pFile, '/')) // a program that was found along the PATH
-        return std::filesystem::read_symlink("/proc/self/exe", unknown);
-    const auto file = std::filesystem::canonical(pFile, unknown);
-    const auto asLoaded = file.parent_path() / std::filesystem::path(pFile).filename();
-    return std::filesystem::exists(asLoaded, unknown) ? asLoaded : file;
-}
+// With slashes; empty when the system can't tell. Asked for while the library is loaded: its path may be a relative one,
+// and the host's directory may change. It takes no memory, because the process would end where there is none.
+struct CModuleFile {
+    CModuleFile() {
+        const char* pFile = ThisModule().dli_fname;
+        if (!pFile || !strchr(pFile, '/')) { // a program that was found along the PATH
+            [[maybe_unused]] const auto nLength = readlink("/proc/self/exe", m_Path, sizeof m_Path - 1);
+        } else if (char file[PATH_MAX]; realpath(pFile, file)) {
+            // A link beside the library stays, because it outlives the version that it leads to.
+            const auto nFolder = static_cast<int>(strrchr(file, '/') - file);
+            const int nLength = snprintf(m_Path, sizeof m_Path, "%.*s%s", nFolder, file, strrchr(pFile, '/'));
+            if (nLength >= PATH_MAX || access(m_Path, F_OK) != 0)
+                strcpy(m_Path, file);
+        }
+    }
 
-// Asked for while the library is loaded: its path may be a relative one, and the host's directory may change.
-const std::filesystem::path g_file = FindFile();
+    char m_Path[PATH_MAX] = {};
+};
+
+const CModuleFile g_file;
 
 std::optional<CString> g_namedByHost;
 
@@ -45,15 +55,16 @@ void SetModuleDirectory(const CString& directory) {
 }
 
 void* LoadNeighbour(const char* pLibrary, const char* pFunction) {
-    if (g_file.empty())
+    const std::string_view file = g_file.m_Path;
+    if (file.empty())
         return nullptr;
-    const std::string file = (g_file.parent_path() / "lib").string() + pLibrary + ".so";
-    void* pLoaded = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    const std::string neighbour = std::string(file.substr(0, file.rfind('/'))) + "/lib" + pLibrary + ".so";
+    void* pLoaded = dlopen(neighbour.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     return pLoaded ? dlsym(pLoaded, pFunction) : nullptr;
 }
 
 CString GetModuleFile() {
-    return FromSystemPath(g_file.string());
+    return FromSystemPath(g_file.m_Path);
 }
 
 // Where the library begins, in pages.

@@ -3,21 +3,19 @@
 
 #include "toolkit/dialog_description.h"
 
-#include <vector>
-
 namespace orrelix {
 
-inline const std::vector<CChoice> kBorderStyles = {"none",   "dotted", "dashed", "solid", "double",
-                                                   "groove", "ridge",  "inset",  "outset"};
-inline const std::vector<CChoice> kFontWeights = {
-    "normal", "lighter", "light", "demi-light", "medium", "demi-bold", "bold", "extra-bold", "bolder"};
-inline const std::vector<CChoice> kFontStyles = {"italic", "oblique", "normal"};
-inline const std::vector<CChoice> kAligns = {"left", "center", "right"};
+inline constexpr CChoice kBorderStyles[] = {"none",   "dotted", "dashed", "solid", "double",
+                                            "groove", "ridge",  "inset",  "outset"};
+inline constexpr CChoice kFontWeights[] = {"normal",    "lighter", "light",      "demi-light", "medium",
+                                           "demi-bold", "bold",    "extra-bold", "bolder"};
+inline constexpr CChoice kFontStyles[] = {"italic", "oblique", "normal"};
+inline constexpr CChoice kAligns[] = {"left", "center", "right"};
 // "lineth-rough" as files and pages know it.
-inline const std::vector<CChoice> kDecorations = {"none", "underline", "overline", "lineth-rough", "blink"};
+inline constexpr CChoice kDecorations[] = {"none", "underline", "overline", "lineth-rough", "blink"};
 
 // The targets of a link, of which controls/link_target.h knows the words.
-inline const std::vector<CChoice> kLinkTargets = {"", "Same Frame(_self)", "Whole Page(_top)",
-                                                  "New Browser Window(_blank)", "Parent Frame(_parent)"};
+inline constexpr CChoice kLinkTargets[] = {"", "Same Frame(_self)", "Whole Page(_top)",
+                                           "New Browser Window(_blank)", "Parent Frame(_parent)"};
 
 } // namespace orrelix

@@ -32,7 +32,7 @@ struct CTitleStyle {
     CChoice m_Name;
     const char* m_Titles[7]; // Monday to Sunday
 };
-inline const CTitleStyle kTitleStyles[] = {
+inline constexpr CTitleStyle kTitleStyles[] = {
     {"M,T,W...", {"M", "T", "W", "T", "F", "S", "S"}},
     {"I,II,III...", {"I", "II", "III", "IV", "V", "VI", "VII"}},
     {{"\xd2\xbb,\xb6\xfe,\xc8\xfd...", "\u4e00,\u4e8c,\u4e09..."},

@@ -170,6 +170,10 @@ CDialogItem ComboBox(int nId, const char* pLabel, std::vector<CChoice> choices, 
                     .m_Choices = std::move(choices)});
 }
 
+CDialogItem ComboBox(int nId, const char* pLabel, std::span<const CChoice> choices, unsigned nStyle) {
+    return ComboBox(nId, pLabel, std::vector<CChoice>(choices.begin(), choices.end()), nStyle);
+}
+
 CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pTo, int nLower, int nUpper,
                    int nTicks) {
     return Control({.m_Kind = ControlKind::Slider,

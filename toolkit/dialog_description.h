@@ -18,6 +18,7 @@
 #include "platform/string.h"
 
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace orrelix {
@@ -57,7 +58,8 @@ enum ControlStyle : unsigned {
 // One row of a combo box: the value that the program reads, and, where that isn't fit to be read by a person,
 // the text that stands for it in the list.
 struct CChoice {
-    CChoice(const char* pValue, const char* pShown = nullptr) : m_pValue(pValue), m_pShown(pShown) {}
+    constexpr CChoice(const char* pValue, const char* pShown = nullptr)
+        : m_pValue(pValue), m_pShown(pShown) {}
 
     const char* m_pValue;
     const char* m_pShown; // in UTF-8, whatever the code page; null: the value itself
@@ -147,6 +149,8 @@ CDialogItem ListView(int nId, const char* pLabel, unsigned nStyle, const char* p
 // Choices are values, "bold", or values with the text that stands for them in a list without an edit part,
 // {"\xd2\xbb", "Chinese"}.
 CDialogItem ComboBox(int nId, const char* pLabel, std::vector<CChoice> choices, unsigned nStyle = STYLE_NONE);
+CDialogItem ComboBox(int nId, const char* pLabel, std::span<const CChoice> choices,
+                     unsigned nStyle = STYLE_NONE);
 CDialogItem Slider(int nId, const char* pName, const char* pFrom, const char* pTo, int nLower, int nUpper,
                    int nTicks);
 
