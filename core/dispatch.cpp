@@ -4,6 +4,7 @@
 #include "platform/wide_text.h"
 
 #include <new>
+#include <system_error>
 
 namespace orrelix {
 
@@ -54,6 +55,8 @@ HRESULT Guarded(EXCEPINFO* pException, TAct act) noexcept {
         }
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
+    } catch (const std::system_error& error) {
+        return error.code() == std::errc::not_enough_memory ? E_OUTOFMEMORY : E_UNEXPECTED;
     } catch (...) {
         return E_UNEXPECTED;
     }

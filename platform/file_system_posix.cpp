@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <new>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,11 +25,14 @@ std::error_code ErrorUnless(bool bSucceeded) {
 
 class CPosixFile final : public CSystemFile {
 public:
-    explicit CPosixFile(int nFile) : m_nFile(nFile) {}
+    CPosixFile() = default;
     ~CPosixFile() override { CPosixFile::Close(); }
     CPosixFile(const CPosixFile&) = delete;
     CPosixFile& operator=(const CPosixFile&) = delete;
 
+    int Open(const std::string& path, int nFlags, mode_t nMode) {
+        return m_nFile = open(path.c_str(), nFlags | O_CLOEXEC, nMode);
+    }
     std::error_code Read(char* pBuffer, size_t nSize, size_t& nRead) override {
         return Move([&] { return read(m_nFile, pBuffer, nSize); }, nRead);
     }
@@ -51,14 +55,15 @@ private:
         return ErrorUnless(nResult >= 0);
     }
 
-    int m_nFile;
+    int m_nFile = -1;
 };
 
-// The descriptor stays the file's.
+// The descriptor stays the file's, which is made first: nobody would close it where there is no memory for one.
 int Open(const std::string& path, int nFlags, mode_t nMode, CSystemFilePtr& pFile) {
-    const int nFile = open(path.c_str(), nFlags | O_CLOEXEC, nMode);
+    auto pOpened = std::make_unique<CPosixFile>();
+    const int nFile = pOpened->Open(path, nFlags, nMode);
     if (nFile >= 0)
-        pFile = std::make_unique<CPosixFile>(nFile);
+        pFile = std::move(pOpened);
     return nFile;
 }
 
@@ -75,12 +80,12 @@ public:
     }
 
     void List(const std::string& directory, const std::function<void(const char*)>& visit) override {
-        DIR* pDirectory = opendir(directory.empty() ? "." : directory.c_str());
-        if (!pDirectory)
-            return;
-        while (const dirent* pEntry = readdir(pDirectory))
+        const std::unique_ptr<DIR, int (*)(DIR*)> pDirectory(
+            opendir(directory.empty() ? "." : directory.c_str()), closedir);
+        if (!pDirectory && errno == ENOMEM)
+            throw std::bad_alloc();
+        while (const dirent* pEntry = pDirectory ? readdir(pDirectory.get()) : nullptr)
             visit(pEntry->d_name);
-        closedir(pDirectory);
     }
 
     std::error_code OpenToRead(const std::string& path, CSystemFilePtr& pFile,

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstdio>
 #include <filesystem>
+#include <mutex>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -54,14 +55,16 @@ void AddName(CDirectoryListing::CNames& names, std::string_view name) {
         entry->second = name;
 }
 
-// What lives for the thread is a mere pointer: a destructor at the thread's end would keep the library loaded.
-thread_local CDirectoryListing* t_pListing = nullptr;
+// The listings of all threads. What lives for a thread itself would take memory where the library is loaded late, and
+// end the process when there is none.
+std::mutex g_listingsMutex;
+CListedDirectories* g_pListings = nullptr;
 
 // The directory's path ends in "/", or is empty. Of several names, the first in byte order.
 std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
     const std::string wanted = LowerCase(name);
-    if (t_pListing)
-        return t_pListing->Find(directory, wanted);
+    if (CDirectoryListing* pListing = CListedDirectories::OfThisThread())
+        return pListing->Find(directory, wanted);
     std::optional<std::string> found;
     System().List(directory, [&](const char* pName) {
         if (LowerCase(pName) == wanted && (!found || pName < *found))
@@ -224,14 +227,26 @@ void CDirectoryListing::Note(const std::string& path) {
 }
 
 CListedDirectories::CListedDirectories()
-    : m_pListing(t_pListing ? nullptr : std::make_unique<CDirectoryListing>()) {
-    if (m_pListing)
-        t_pListing = m_pListing.get();
+    : m_pListing(OfThisThread() ? nullptr : std::make_unique<CDirectoryListing>()) {
+    const std::lock_guard lock(g_listingsMutex);
+    m_pNext = std::exchange(g_pListings, this);
 }
 
 CListedDirectories::~CListedDirectories() {
-    if (m_pListing)
-        t_pListing = nullptr;
+    const std::lock_guard lock(g_listingsMutex);
+    CListedDirectories** ppThis = &g_pListings;
+    while (*ppThis != this)
+        ppThis = &(*ppThis)->m_pNext;
+    *ppThis = m_pNext;
+}
+
+CDirectoryListing* CListedDirectories::OfThisThread() {
+    const std::lock_guard lock(g_listingsMutex);
+    for (const CListedDirectories* pListed = g_pListings; pListed; pListed = pListed->m_pNext) {
+        if (pListed->m_pListing && pListed->m_Thread == std::this_thread::get_id())
+            return pListed->m_pListing.get();
+    }
+    return nullptr;
 }
 
 std::error_code CopyWholeFile(const CString& from, const CString& to, Spelling spelling) {
@@ -375,8 +390,8 @@ std::error_code COutputFile::Commit(bool bDurable) {
         m_Error = System().Rename(m_Temporary, m_Target);
         if (!m_Error) {
             m_Temporary.clear();
-            if (t_pListing)
-                t_pListing->Note(m_Target);
+            if (CDirectoryListing* pListing = CListedDirectories::OfThisThread())
+                pListing->Note(m_Target);
         }
     }
     Discard();

@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <thread>
 
 namespace orrelix {
 
@@ -55,8 +56,13 @@ public:
     CListedDirectories(const CListedDirectories&) = delete;
     CListedDirectories& operator=(const CListedDirectories&) = delete;
 
+    // What one of them lists on this thread; null when there is none.
+    static CDirectoryListing* OfThisThread();
+
 private:
+    const std::thread::id m_Thread = std::this_thread::get_id();
     std::unique_ptr<CDirectoryListing> m_pListing; // null: an outer one is at work
+    CListedDirectories* m_pNext = nullptr;
 };
 
 // A file read from its start to its end. A pipe or a device is none.

@@ -5,6 +5,8 @@
 #include "platform/registry.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <new>
 
 namespace orrelix {
 
@@ -22,7 +24,12 @@ bool IsInside(std::string_view key, std::string_view above) {
 
 CString GetRegistered(const std::string& key) {
     char value[VIGNEL_PATH_SIZE];
-    return VignelGetRegistered(key.c_str(), "@", value, sizeof value) ? value : "";
+    errno = 0;
+    if (VignelGetRegistered(key.c_str(), "@", value, sizeof value))
+        return value;
+    if (errno == ENOMEM)
+        throw std::bad_alloc();
+    return {};
 }
 
 CRegistryKeys::CRegistryKeys(std::string_view fileText) : m_Keys(1) {

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <iconv.h>
+#include <new>
 
 namespace orrelix {
 
@@ -19,8 +20,11 @@ void SkipCharacter(char*& pInput, size_t& nLeft, bool bUtf8) {
 
 std::string ConvertPage(std::string_view text, const std::string& from, const std::string& to) {
     const iconv_t converter = iconv_open(to.c_str(), from.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1))
+    if (converter == reinterpret_cast<iconv_t>(-1)) {
+        if (errno == ENOMEM)
+            throw std::bad_alloc();
         return std::string(text.size(), '?');
+    }
     struct CCloser {
         ~CCloser() { iconv_close(m_Converter); }
         iconv_t m_Converter;
