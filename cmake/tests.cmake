@@ -77,3 +77,33 @@ if(ORRELIX_INSTALL AND ORRELIX_HOST AND ORRELIX_QT AND NOT CMAKE_CXX_FLAGS MATCH
     set_tests_properties(packages.registration packages.hosts packages.windows packages.debian PROPERTIES
         RESOURCE_LOCK installation)
 endif()
+
+# Hosts that know nothing but the public headers.
+function(orrelix_host name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE orrelix_headers orrelix_options)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_compile_definitions(${name} PRIVATE ORRELIX_LIBRARY="$<TARGET_FILE:orrelix>"
+        ORRELIX_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    add_dependencies(${name} orrelix orrelix_scripts)
+endfunction()
+
+set(host_file ${PROJECT_SOURCE_DIR}/examples/cool_link_rich.cfg)
+
+# "./dev faults" takes every allocation.
+orrelix_host(orrelix_faults tests/faults/faults.cpp tests/faults/failing_heap.cpp)
+add_test(NAME hosts.faults COMMAND orrelix_faults 50)
+
+foreach(form linked loaded)
+    orrelix_host(host_${form} tests/hosts/collisions.cpp)
+    set_target_properties(host_${form} PROPERTIES ENABLE_EXPORTS ON)
+    add_test(NAME hosts.collisions_${form} COMMAND host_${form} ${host_file} ${PROJECT_BINARY_DIR}/${form}.cfg)
+endforeach()
+target_link_libraries(host_linked PRIVATE orrelix)
+target_compile_definitions(host_loaded PRIVATE ORRELIX_LOADED)
+
+if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    orrelix_host(host_unloading tests/hosts/unloading.cpp tests/faults/failing_heap.cpp)
+    add_test(NAME hosts.unloading COMMAND host_unloading ${host_file})
+    add_test(NAME hosts.symbols COMMAND ${PROJECT_SOURCE_DIR}/tests/hosts/symbols_test.sh $<TARGET_FILE:orrelix>)
+endif()
