@@ -177,11 +177,11 @@ int RunProgram(int nArguments, char** ppArguments) {
                                        std::reverse_iterator(ppArguments + 1));
     if (!arguments.empty() && arguments.back() == kHelp) {
         arguments.pop_back();
-        const bool bCommand = !arguments.empty() && !arguments.back().starts_with('-');
-        if (bCommand && !program.get_subcommand_no_throw(arguments.back()))
-            return WrongUsage(
-                fmt::format("{} is unknown; {}", arguments.back(),
-                            DidYouMean(arguments.back(), CommandNames(program), "it is no command")));
+        const std::vector<std::string> names = CommandNames(program);
+        if (!arguments.empty() && !arguments.back().starts_with('-') &&
+            std::find(names.begin(), names.end(), arguments.back()) == names.end())
+            return WrongUsage(fmt::format("{} is unknown; {}", arguments.back(),
+                                          DidYouMean(arguments.back(), names, "it is no command")));
         arguments.insert(arguments.begin(), "--help");
     }
     try {
