@@ -26,15 +26,20 @@ add_library(orrelix_store OBJECT ${store_sources})
 # The upper floor: the gadgets, their dialogs, the object that hosts see and how they reach it.
 file(GLOB core_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} core/*.cpp)
 list(REMOVE_ITEM core_sources ${store_sources})
-file(GLOB component_sources CONFIGURE_DEPENDS gadgets/*.cpp dialogs/*.cpp controls/*.cpp resources/*.cpp)
-add_library(orrelix_component OBJECT ${core_sources} ${component_sources})
+file(GLOB gadget_sources CONFIGURE_DEPENDS gadgets/*.cpp)
+file(GLOB dialog_sources CONFIGURE_DEPENDS dialogs/*.cpp controls/*.cpp resources/*.cpp)
+add_library(orrelix_component OBJECT ${core_sources} ${gadget_sources} ${dialog_sources})
+
+# What waits for people need not be fast, and every host loads it.
+set_source_files_properties(${toolkit_sources} ${dialog_sources} PROPERTIES
+    COMPILE_OPTIONS "$<$<AND:$<CONFIG:Release>,$<CXX_COMPILER_ID:GNU,Clang>>:-Os>")
 
 set(floors orrelix_platform orrelix_toolkit orrelix_store orrelix_component)
 foreach(floor ${floors})
     target_link_libraries(${floor} PRIVATE orrelix_options)
     target_include_directories(${floor} PRIVATE ${PROJECT_SOURCE_DIR})
     # Without unique symbols, which would keep the library loaded for ever.
-    target_compile_options(${floor} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+    target_compile_options(${floor} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique> -ffunction-sections -fdata-sections)
     set_target_properties(${floor} PROPERTIES POSITION_INDEPENDENT_CODE ON
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endforeach()
@@ -55,6 +60,7 @@ add_library(VignelOrrelix::headers ALIAS orrelix_headers)
 add_library(orrelix SHARED ${objects})
 add_library(VignelOrrelix::VignelOrrelix ALIAS orrelix)
 target_link_libraries(orrelix PUBLIC orrelix_headers)
+target_link_options(orrelix PRIVATE -Wl,--gc-sections)
 set_target_properties(orrelix PROPERTIES OUTPUT_NAME VignelOrrelix EXPORT_NAME VignelOrrelix VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
 
