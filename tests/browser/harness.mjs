@@ -299,12 +299,16 @@ async function setHidden(page, bHidden) {
     }, bHidden);
 }
 
-// The page is scrolled to its end, far from what was in view, or back.
+// The page is scrolled to its end, far from what was in view, or back, and who watches for that has been told.
 async function setOutOfView(page, bOut) {
-    await page.evaluate((out) => {
+    await page.evaluate(async (out) => {
         if (out)
             document.body.insertAdjacentHTML("beforeend", '<div style="height: 5000px"></div>');
         window.scrollTo(0, out ? 9999 : 0);
+        await new Promise((told) => {
+            new IntersectionObserver((entries, observer) => { observer.disconnect(); told(); })
+                .observe(document.body.lastElementChild);
+        });
     }, bOut);
 }
 
