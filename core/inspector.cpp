@@ -226,8 +226,10 @@ CString CInspector::GetParameterValue(const CString& key) {
 }
 
 CItems CInspector::GetStoredResource(int nIndex) {
-    const VignelResource* pResource = ItemAt(m_Orrelix.m_Config.m_Resources, nIndex);
-    return pResource ? CItems{{pResource->m_Name, pResource->m_LocalPath, pResource->m_WebPath}} : CItems();
+    CItems items;
+    if (const VignelResource* pResource = ItemAt(m_Orrelix.m_Config.m_Resources, nIndex))
+        items.m_Items = {pResource->m_Name, pResource->m_LocalPath, pResource->m_WebPath};
+    return items;
 }
 
 CString CInspector::GetSegmentPosition(int nIndex) {

@@ -75,7 +75,10 @@ void WriteItemImage(CHtmlText& html, const CString& directory, const CString& pa
 
 bool RegisterImage(CVignelConfig& config, const CString& path, const CString& webPath) {
     const CString name = FileNameOnDisk(path);
-    return !name.IsEmpty() && config.AddResource({name, DirectoryOfPath(path) + "\\", webPath});
+    if (name.IsEmpty())
+        return false;
+    const VignelResource resource{name, DirectoryOfPath(path) + "\\", webPath};
+    return config.AddResource(resource);
 }
 
 void RegisterImages(CVignelConfig& config, CStringArray& images, const CString& webPath) {
