@@ -3,9 +3,6 @@
 #include "platform/string.h"
 #include "platform/wide_text.h"
 
-#include <new>
-#include <system_error>
-
 namespace orrelix {
 
 namespace {
@@ -29,6 +26,14 @@ HRESULT TakeAs(const VARIANT& argument, VARTYPE type, TTake take) {
     return FAILED(result) ? result : take(converted);
 }
 
+template <class TNumber>
+HRESULT TakeNumber(const VARIANT& argument, VARTYPE type, TNumber VARIANT::*pMember, TNumber& number) {
+    return TakeAs(argument, type, [&](const VARIANT& given) {
+        number = given.*pMember;
+        return S_OK;
+    });
+}
+
 // A name of a member, of which letters count in either case.
 bool IsName(const OLECHAR* pGiven, const char* pName) {
     for (; *pName && *pGiven; ++pName, ++pGiven) {
@@ -39,10 +44,10 @@ bool IsName(const OLECHAR* pGiven, const char* pName) {
     return !*pName && !*pGiven;
 }
 
-// Nothing that is thrown reaches the host.
+// Nothing that is thrown reaches the host, but for a refusal's sentence.
 template <class TAct>
 HRESULT Guarded(EXCEPINFO* pException, TAct act) noexcept {
-    try {
+    return CodeOf([&] {
         try {
             return act();
         } catch (const CRefusal& refusal) {
@@ -53,13 +58,7 @@ HRESULT Guarded(EXCEPINFO* pException, TAct act) noexcept {
             }
             return DISP_E_EXCEPTION;
         }
-    } catch (const std::bad_alloc&) {
-        return E_OUTOFMEMORY;
-    } catch (const std::system_error& error) {
-        return error.code() == std::errc::not_enough_memory ? E_OUTOFMEMORY : E_UNEXPECTED;
-    } catch (...) {
-        return E_UNEXPECTED;
-    }
+    });
 }
 
 void StoreText(VARIANT& result, BSTR text) {
@@ -129,24 +128,15 @@ HRESULT TakeArgument(const VARIANT& argument, CItems& items) {
 }
 
 HRESULT TakeArgument(const VARIANT& argument, short& number) {
-    return TakeAs(argument, VT_I2, [&](const VARIANT& given) {
-        number = given.iVal;
-        return S_OK;
-    });
+    return TakeNumber(argument, VT_I2, &VARIANT::iVal, number);
 }
 
 HRESULT TakeArgument(const VARIANT& argument, int& number) {
-    return TakeAs(argument, VT_I4, [&](const VARIANT& given) {
-        number = given.lVal;
-        return S_OK;
-    });
+    return TakeNumber(argument, VT_I4, &VARIANT::lVal, number);
 }
 
 HRESULT TakeArgument(const VARIANT& argument, double& date) {
-    return TakeAs(argument, VT_DATE, [&](const VARIANT& given) {
-        date = given.date;
-        return S_OK;
-    });
+    return TakeNumber(argument, VT_DATE, &VARIANT::date, date);
 }
 
 HRESULT CDispatch::QueryInterface(REFIID iid, void** ppObject) {

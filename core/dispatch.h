@@ -14,8 +14,10 @@
 #include "platform/automation.h"
 #include "platform/paths.h"
 
+#include <new>
 #include <span>
 #include <stdexcept>
+#include <system_error>
 #include <tuple>
 
 namespace orrelix {
@@ -31,6 +33,20 @@ class CRefusal : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+// What act() gives, or the code for what it throws.
+template <class TAct>
+HRESULT CodeOf(TAct act) noexcept {
+    try {
+        return act();
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (const std::system_error& error) {
+        return error.code() == std::errc::not_enough_memory ? E_OUTOFMEMORY : E_UNEXPECTED;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
 
 // A result of a member, to a variant that is empty.
 void StoreResult(VARIANT& result, const CString& text);

@@ -1,21 +1,9 @@
 // The library's four entry points.
+#include "core/dispatch.h"
 #include "core/registration.h"
 #include "core/server.h"
 
 using namespace orrelix;
-
-namespace {
-
-template <class TAct>
-HRESULT Guarded(TAct act) noexcept {
-    try {
-        return act();
-    } catch (...) {
-        return E_OUTOFMEMORY; // nothing else is thrown there
-    }
-}
-
-} // namespace
 
 extern "C" {
 
@@ -34,10 +22,10 @@ HRESULT DllCanUnloadNow() {
 }
 
 HRESULT DllRegisterServer() {
-    return Guarded(RegisterServer);
+    return CodeOf(RegisterServer);
 }
 
 HRESULT DllUnregisterServer() {
-    return Guarded(UnregisterServer);
+    return CodeOf(UnregisterServer);
 }
 }

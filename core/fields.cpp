@@ -64,22 +64,19 @@ public:
     void Fields(const char*, std::initializer_list<CParameterField> fields) override {
         for (const CParameterField& field : fields) {
             if (field.m_pText)
-                Add(field, true);
+                Text("", field);
         }
     }
-    void Text(const char*, CParameterField field) override { Add(field, false); }
-    void Unstored(CParameterField field) override { Add(field, false); }
+    void Text(const char*, CParameterField field) override {
+        m_Fields.push_back({field.m_pName, false, field.m_bFileName, {field.m_pText}});
+    }
+    void Unstored(CParameterField field) override { Text("", field); }
 
     std::vector<CNamedField> m_Fields;
 
 protected:
     void DoItems(const char*, const CParameterColumn& column) override {
-        m_Fields.push_back({column.m_pName, true, column.m_bFileName, false, column.m_Items});
-    }
-
-private:
-    void Add(const CParameterField& field, bool bInCommaList) {
-        m_Fields.push_back({field.m_pName, false, field.m_bFileName, bInCommaList, {field.m_pText}});
+        m_Fields.push_back({column.m_pName, true, column.m_bFileName, column.m_Items});
     }
 };
 

@@ -27,7 +27,6 @@ struct CNamedField {
     CString m_Name;
     bool m_bList = false;
     bool m_bFileName = false;
-    bool m_bInCommaList = false; // where reading takes an empty item for none
     std::vector<CString*> m_Values;
 };
 

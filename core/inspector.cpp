@@ -36,14 +36,19 @@ auto ItemAt(TList& list, int nIndex) {
                                                                            : nullptr;
 }
 
-const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString& name, bool bList) {
+const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString& name) {
     const CNamedField* pField = FindField(fields, name);
     if (!pField)
         throw CRefusal("the effect has no field " + std::string(name.View()));
-    if (pField->m_bList != bList)
-        throw CRefusal(std::string(pField->m_Name.View()) +
-                       (bList ? " is one text and no list" : " is a list"));
     return *pField;
+}
+
+const CNamedField& FieldOf(const std::vector<CNamedField>& fields, const CString& name, bool bList) {
+    const CNamedField& field = FieldOf(fields, name);
+    if (field.m_bList != bList)
+        throw CRefusal(std::string(field.m_Name.View()) +
+                       (bList ? " is one text and no list" : " is a list"));
+    return field;
 }
 
 // The system's form of a path of the effect's, which may be empty.
@@ -93,7 +98,7 @@ CItems CInspector::GetFieldNames() {
 
 CFieldType CInspector::FieldTypeOf(const CString& name) {
     const std::vector<CNamedField> fields = ListFields(Gadget());
-    return TypeOfField(fields, FieldOf(fields, name, IsFieldList(name)));
+    return TypeOfField(fields, FieldOf(fields, name));
 }
 
 CString CInspector::GetFieldKind(const CString& field) {

@@ -6,7 +6,6 @@
 #include "core/orrelix_members.h"
 
 #include <atomic>
-#include <new>
 
 namespace orrelix {
 
@@ -91,16 +90,12 @@ public:
         *ppObject = nullptr;
         if (pOuter)
             return CLASS_E_NOAGGREGATION;
-        try {
+        return CodeOf([&] {
             auto* pObject = new CServerObject;
             const HRESULT result = pObject->QueryInterface(iid, ppObject);
             pObject->Release();
             return result;
-        } catch (const std::bad_alloc&) {
-            return E_OUTOFMEMORY;
-        } catch (...) {
-            return E_UNEXPECTED;
-        }
+        });
     }
 
     HRESULT ORRELIX_STDCALL LockServer(BOOL bLock) override {

@@ -30,7 +30,6 @@ public:
     T Ask(const char* pName, TArguments&&... arguments) const {
         return m_Inspector.Call<T>(pName, std::forward<TArguments>(arguments)...);
     }
-    CString AskText(const char* pName) const { return Ask<std::string>(pName); }
 
     CString GetEffect() const { return m_Inspector.Get<std::string>("Effect"); }
     void SetEffect(const std::string& name) const { m_Inspector.Put("Effect", name); }

@@ -1,10 +1,11 @@
 /* vignel_server.h: how a host finds, loads and calls a component such as VignelServer.Orrelix, in C, in C++ or in
  * any language that calls C.
  *
- *     VignelUnknown* pUnknown;
- *     char library[VIGNEL_PATH_SIZE];
- *     if (VignelFindLibrary("VignelServer.Orrelix", library, sizeof library) &&
- *         VignelCreate(library, "VignelServer.Orrelix", &pUnknown) == VIGNEL_S_OK) ...
+ *     char path[VIGNEL_PATH_SIZE];
+ *     VignelDispatch* pObject;
+ *     void* pLibrary;
+ *     if (VignelFindLibrary("VignelServer.Orrelix", path, sizeof path) && (pLibrary = VignelLoad(path)) &&
+ *         VignelCreate(pLibrary, &VignelClsidOrrelix, &pObject) >= 0) ...
  *
  * The shapes and the calling order are those of the component object model: an object is a pointer to a table of
  * functions, each of which takes the object first; whoever gets an object releases it, whoever gets a string frees

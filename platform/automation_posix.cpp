@@ -11,9 +11,6 @@ namespace orrelix {
 
 namespace {
 
-// What is no text goes through a number on its way to any other type; every type in use fits a double.
-HRESULT ToNumber(const VARIANT& source, double& number);
-
 std::u16string_view ViewOf(BSTR text) {
     return text ? std::u16string_view(text, SysStringLen(text)) : std::u16string_view();
 }
@@ -47,6 +44,7 @@ bool EqualsWord(std::string_view text, std::string_view word) {
     return text.size() == word.size() && strncasecmp(text.data(), word.data(), word.size()) == 0;
 }
 
+// What is no text goes through a number on its way to any other type; every type in use fits a double.
 HRESULT ToNumber(const VARIANT& source, double& number) {
     switch (source.vt) {
     case VT_EMPTY:
@@ -123,6 +121,25 @@ HRESULT ToBstr(const VARIANT& source, BSTR& text) {
     return text ? S_OK : E_OUTOFMEMORY;
 }
 
+// Of a value in a variant; 0 for a type that isn't in use.
+size_t SizeOf(VARTYPE type) {
+    switch (type) {
+    case VT_I2:
+    case VT_BOOL:
+        return sizeof(VARIANT::iVal);
+    case VT_I4:
+    case VT_ERROR:
+        return sizeof(VARIANT::lVal);
+    case VT_R8:
+    case VT_DATE:
+        return sizeof(VARIANT::dblVal);
+    case VT_BSTR:
+        return sizeof(VARIANT::bstrVal);
+    default:
+        return 0;
+    }
+}
+
 // What a reference refers to, as a value that is somebody else's.
 HRESULT Follow(const VARIANT& source, VARIANT& value) {
     value = source;
@@ -132,35 +149,14 @@ HRESULT Follow(const VARIANT& source, VARIANT& value) {
         return E_INVALIDARG;
     value = {};
     value.vt = static_cast<VARTYPE>(source.vt & ~VT_BYREF);
-    switch (value.vt) {
-    case VT_VARIANT:
+    if (value.vt == VT_VARIANT) {
         if (source.pvarVal->vt == (VT_BYREF | VT_VARIANT))
             return DISP_E_TYPEMISMATCH; // or it could go in a circle
         return Follow(*source.pvarVal, value);
-    case VT_I2:
-        value.iVal = *source.piVal;
-        return S_OK;
-    case VT_I4:
-        value.lVal = *source.plVal;
-        return S_OK;
-    case VT_R8:
-        value.dblVal = *source.pdblVal;
-        return S_OK;
-    case VT_DATE:
-        value.date = *source.pdate;
-        return S_OK;
-    case VT_BOOL:
-        value.boolVal = *source.pboolVal;
-        return S_OK;
-    case VT_ERROR:
-        value.scode = *source.pscode;
-        return S_OK;
-    case VT_BSTR:
-        value.bstrVal = *source.pbstrVal;
-        return S_OK;
-    default:
-        return DISP_E_TYPEMISMATCH;
     }
+    const size_t nSize = SizeOf(value.vt);
+    memcpy(&value.widest, source.pvarVal, nSize);
+    return nSize > 0 ? S_OK : DISP_E_TYPEMISMATCH;
 }
 
 HRESULT Convert(const VARIANT& source, VARTYPE type, VARIANT& value) {
