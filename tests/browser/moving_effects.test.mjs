@@ -1,8 +1,8 @@
 // Animate Text, Slide Text, Color Link, Scroll Text and the clock of Calender: what moves by itself moves, rests when
 // a visitor asks for it and goes on. What Scroll Text and the calendars do besides is tested with them.
 import assert from "node:assert/strict";
-import { at, countTicks, givePage, nextFrame, pageText, partsOf, running, setCalm, styleOf, tap, testEverywhere, unseen, watch }
-    from "./harness.mjs";
+import { at, countTicks, givePage, hurry, nextFrame, pageText, partsOf, running, setCalm, styleOf, tap, testEverywhere, unseen,
+    watch } from "./harness.mjs";
 
 const animated = await pageText("animate_text_plain");
 const slid = await pageText("text_show_plain");
@@ -57,12 +57,13 @@ const moving = [
         rests: [pointer("[role=timer]"), focus("[role=timer]"), ["a tap", (page) => tap(page, page.locator("[role=timer]")),
             (page) => tap(page, { x: 990, y: 690 })]],
         calm: /^9:05 PM$/,
-        time: 1200,
+        time: 220,
+        before: `(${hurry})(); (${countTicks})()`,
         calmOptions: { before: at("2026-11-22T21:05:07") },
     },
 ];
 
-for (const { effect, name, look, rests, time = 150, calm = /./, calmOptions } of moving) {
+for (const { effect, name, look, rests, time = 150, before = countTicks, calm = /./, calmOptions } of moving) {
     const moves = (page) => watch(page, look, (values) => values.length > 1);
     const stands = async (page, why) => {
         await nextFrame(page);
@@ -87,7 +88,7 @@ for (const { effect, name, look, rests, time = 150, calm = /./, calmOptions } of
         }
         await page.evaluate(() => document.body.replaceChildren());
         assert.deepEqual(await running(page, time), [0, 0]);
-    }, { before: countTicks, shows: { [effect]: ["mouse", "keys", "touch"] } });
+    }, { before, shows: { [effect]: ["mouse", "keys", "touch"] } });
     testEverywhere(name, "stands for a visitor who wants calm", async ({ page }) => {
         assert.match(await stands(page), calm);
         if (effect !== "Animate Text") // whose texts still change, one for another
