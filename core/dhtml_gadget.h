@@ -9,7 +9,6 @@
 #include "core/parameters.h"
 #include "core/vignel_config.h"
 #include "platform/array.h"
-#include "platform/module.h"
 #include "platform/string.h"
 
 namespace orrelix {
@@ -62,37 +61,8 @@ inline bool RefersToScripts(short mode) {
     return mode == kPreview || mode == kPublish;
 }
 
-// A script file that lies beside the component, which copies it beside the page. Two other spellings of its name,
-// but for case the same, stand in pages' text and in the store's resources: files and pages know them so.
-struct CScriptFile {
-    constexpr CScriptFile(const char* pName, const char* pPageName = nullptr,
-                          const char* pResourceName = nullptr)
-        : m_pName(pName), m_pPageName(pPageName ? pPageName : pName),
-          m_pResourceName(pResourceName ? pResourceName : pName) {}
-
-    const char* m_pName;
-    const char* m_pPageName;
-    const char* m_pResourceName;
-};
-
-// The line by which a page loads a script file of a directory, which is empty or ends in its separator.
-CString ScriptInclude(const CString& directory, const CScriptFile& script);
-
 // The directory by which a text of this mode refers to files: the store's preview path, or the remote
 // directory. Other modes have none.
 CString DirectoryOfMode(CVignelConfig& config, short mode, const CString& remoteDirectory);
-
-// The target of a link as HTML has it, "_self" for "self"; empty for none.
-CString LinkTarget(const CString& target);
-
-// A border as CSS has it, of a width, a style and six hexadecimal digits: "1 solid #d2b48c".
-CString WholeBorder(const CString& width, const CString& style, const CString& color);
-
-// Copies it to a directory, given with a backslash at its end. Where the disk tells case apart, it is there under
-// its own name and the page's.
-void CopyScript(const CScriptFile& script, const CString& directory);
-
-// Adds its resource.
-void RegisterScript(CVignelConfig& config, const CScriptFile& script, const CString& webPath);
 
 } // namespace orrelix

@@ -3,6 +3,7 @@
 #include "controls/link_target.h"
 #include "controls/remote_directory.h"
 #include "core/dispatch.h"
+#include "gadgets/html_values.h"
 #include "resources/choices.h"
 
 #include <algorithm>

@@ -26,6 +26,7 @@
 #include "dialogs/today_ca_dlg.h"
 #include "dialogs/tool_tip_dlg.h"
 #include "gadgets/no_select.h"
+#include "platform/module.h"
 #include "platform/paths.h"
 #include "resources/effects.h"
 

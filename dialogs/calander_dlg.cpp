@@ -1,6 +1,7 @@
 #include "dialogs/calander_dlg.h"
 
 #include "controls/border_dlg.h"
+#include "gadgets/html_values.h"
 #include "resources/calander_description.h"
 
 namespace orrelix {

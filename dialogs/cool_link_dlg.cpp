@@ -1,6 +1,7 @@
 #include "dialogs/cool_link_dlg.h"
 
 #include "controls/padding_dlg.h"
+#include "gadgets/html_values.h"
 #include "resources/cool_link_description.h"
 
 namespace orrelix {

@@ -1,6 +1,7 @@
 #include "dialogs/fade_select_dlg.h"
 
 #include "controls/padding_dlg.h"
+#include "gadgets/html_values.h"
 #include "resources/fade_select_description.h"
 
 namespace orrelix {

@@ -1,5 +1,6 @@
 #include "dialogs/today_ca_dlg.h"
 
+#include "gadgets/html_values.h"
 #include "resources/today_ca_description.h"
 #include "toolkit/combo_box.h"
 

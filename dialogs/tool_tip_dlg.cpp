@@ -1,6 +1,7 @@
 #include "dialogs/tool_tip_dlg.h"
 
 #include "controls/image_file.h"
+#include "gadgets/html_values.h"
 #include "platform/paths.h"
 #include "resources/tool_tip_description.h"
 

@@ -1,5 +1,7 @@
 #include "gadgets/animate_text.h"
 
+#include "gadgets/script_files.h"
+
 namespace orrelix {
 
 namespace {

@@ -1,5 +1,7 @@
 #include "gadgets/calander.h"
 
+#include "gadgets/script_files.h"
+
 namespace orrelix {
 
 namespace {

@@ -1,5 +1,8 @@
 #include "gadgets/cool_link.h"
 
+#include "gadgets/html_values.h"
+#include "gadgets/script_files.h"
+
 namespace orrelix {
 
 namespace {

@@ -1,5 +1,7 @@
 #include "gadgets/dance_text.h"
 
+#include "gadgets/html_values.h"
+
 namespace orrelix {
 
 void CDanceText::ExchangeParameters(CParameterExchange& exchange) {

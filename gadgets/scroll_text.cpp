@@ -1,5 +1,7 @@
 #include "gadgets/scroll_text.h"
 
+#include "gadgets/script_files.h"
+
 namespace orrelix {
 
 void CScrollText::ExchangeParameters(CParameterExchange& exchange) {

@@ -1,5 +1,7 @@
 #include "gadgets/today_ca.h"
 
+#include "gadgets/script_files.h"
+
 namespace orrelix {
 
 namespace {

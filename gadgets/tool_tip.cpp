@@ -1,5 +1,6 @@
 #include "gadgets/tool_tip.h"
 
+#include "gadgets/script_files.h"
 #include "platform/paths.h"
 
 namespace orrelix {
