@@ -15,6 +15,7 @@
 #include <fmt/format.h>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <set>
 
 namespace orrelix {
 
@@ -134,6 +135,29 @@ bool WouldOverwrite(const CEffectObject& object, const CString& directory, CRepo
     return bTaken;
 }
 
+// Whether copying a file that the effect needs would write through a link out of the folder. The component takes a
+// name in any case for the file that is there.
+bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, CReport& report) {
+    std::set<CString> names;
+    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
+        if (object.GetResourceLocalPath(nIndex) != directory)
+            names.insert(CString(object.GetResourceName(nIndex)).MakeLower());
+    }
+    bool bElsewhere = false;
+    const fs::path folder = SystemPath(directory);
+    std::error_code noSuchFolder; // is told when the file is written
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, noSuchFolder)) {
+        if (!entry.is_symlink() || !names.contains(CString(entry.path().filename().string()).MakeLower()) ||
+            LiesBelow(entry.path(), folder))
+            continue;
+        report.Error(entry.path().string(),
+                     "is a link to a place outside of the folder, where the effect needs a file of its own; "
+                     "remove the link");
+        bElsewhere = true;
+    }
+    return bElsewhere;
+}
+
 // Writing makes the component forget files that are gone, which nobody asked for.
 bool HasLostFiles(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     bool bLost = false;
@@ -170,6 +194,8 @@ void Write(const CEffectObject& object, const CEditOptions& options, CReport& re
     // Who has worked in dialogs isn't sent away with nothing.
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
     if (HasLostFiles(object, options, report) && bByOptions)
+        return;
+    if (WouldWriteElsewhere(object, directory, report))
         return;
     if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
         WouldOverwrite(object, directory, report))
@@ -215,8 +241,8 @@ bool ChangeByOptions(const CEffectObject& object, const CEditOptions& options, C
 } // namespace
 
 void NewEffect(const CEditOptions& options, CReport& report) {
-    const std::string name = options.m_File.string();
-    if (!options.m_bListFields && fs::exists(options.m_File))
+    const std::string name = SpelledAsOnDisk(options.m_File).string();
+    if (!options.m_bListFields && fs::exists(name))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     const CEffectObject object;
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))

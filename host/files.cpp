@@ -4,6 +4,8 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 
+#include <algorithm>
+
 namespace orrelix {
 
 namespace fs = std::filesystem;
@@ -21,6 +23,25 @@ CString ComponentPath(const fs::path& path) {
 
 fs::path SystemPath(const CString& path) {
     return fs::path(SystemSpelling(path)).lexically_normal();
+}
+
+fs::path SpelledAsOnDisk(const fs::path& path) {
+    std::error_code none;
+    if (fs::exists(path, none))
+        return path;
+    const fs::path onDisk = PathOnDisk(ComponentPath(path));
+    if (onDisk.empty())
+        return path;
+    return path.is_absolute() ? onDisk : onDisk.lexically_proximate(fs::current_path());
+}
+
+bool LiesBelow(const fs::path& file, const fs::path& folder) {
+    std::error_code failed;
+    const fs::path end = fs::weakly_canonical(fs::absolute(file), failed);
+    const fs::path root = failed ? fs::path() : fs::weakly_canonical(fs::absolute(folder), failed);
+    // What is a link still, leads to nothing, and a file written there could land anywhere.
+    return !failed && !fs::is_symlink(fs::symlink_status(end, failed)) && end != root &&
+           std::mismatch(root.begin(), root.end(), end.begin(), end.end()).first == root.end();
 }
 
 std::error_code WriteFileContent(const fs::path& path, std::string_view content, Durability durability) {

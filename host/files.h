@@ -19,6 +19,12 @@ CString ComponentPath(const std::filesystem::path& path);
 // The other way round, for messages and for the system's own operations.
 std::filesystem::path SystemPath(const CString& path);
 
+// The path as the disk spells it, where that differs in case; otherwise as it is.
+std::filesystem::path SpelledAsOnDisk(const std::filesystem::path& path);
+
+// Whether a path, links followed, leads to a file below a folder, or to where one can be written.
+bool LiesBelow(const std::filesystem::path& file, const std::filesystem::path& folder);
+
 // Writes a file whole, under exactly this name. On an error the file is as it was.
 enum class Durability { Usual, PowerCut };
 std::error_code WriteFileContent(const std::filesystem::path& path, std::string_view content,

@@ -15,18 +15,21 @@ std::vector<CString> TextsOf(const vignel::Items& items) {
 // In a preview the page has all of its files beside it.
 std::vector<CEffectFile> PageFiles(const CEffectObject& object, EHtmlMode mode) {
     std::vector<CEffectFile> files;
+    const CString scriptFolder = object.GetScriptFolder();
     const int nFiles = object.Ask<int>("GetPageFileNumber");
-    for (int nFile = 0; nFile < nFiles; ++nFile)
-        files.push_back({FromSystemPath(object.Ask<std::string>("GetPageFileSource", nFile)),
-                         mode == kPreview ? "" : object.Ask<std::string>("GetPageFileWebPath", nFile),
-                         TextsOf(object.Ask<vignel::Items>("GetPageFileNames", nFile))});
+    for (int nFile = 0; nFile < nFiles; ++nFile) {
+        const CString source = FromSystemPath(object.Ask<std::string>("GetPageFileSource", nFile));
+        files.push_back({source, mode == kPreview ? "" : object.Ask<std::string>("GetPageFileWebPath", nFile),
+                         TextsOf(object.Ask<vignel::Items>("GetPageFileNames", nFile)),
+                         DirectoryOfPath(source) + "\\" == scriptFolder});
+    }
     return files;
 }
 
 // The script files bring along what today's browsers lack. An effect without one gets that from the host.
 void AddCompatibilityScript(CGeneratedEffect& effect, const CEffectObject& object) {
     effect.m_Files.push_back(
-        {object.GetScriptFolder() + kCompatibilityScript, "", {CString(kCompatibilityScript)}});
+        {object.GetScriptFolder() + kCompatibilityScript, "", {CString(kCompatibilityScript)}, true});
     effect.m_Script = CString("<script type=\"text/javascript\" src=\"") + kCompatibilityScript +
                       "\"></script>\r\n" + effect.m_Script;
 }

@@ -19,6 +19,7 @@ struct CEffectFile {
     // Its name as registered, and every other spelling of it in the page's text: a web server may tell case
     // apart.
     std::vector<CString> m_Names;
+    bool m_bScript; // one of our own, which the component brings along
 };
 
 struct CGeneratedEffect {

@@ -22,6 +22,7 @@ namespace orrelix {
 namespace {
 
 constexpr char kHelp[] = "help";
+constexpr char kOverwriteHelp[] = "Replace files that this program didn't put there";
 
 // One command of the program: its arguments, and what it does with them.
 struct CCommand {
@@ -47,6 +48,7 @@ CCommand AddPreview(CLI::App& program) {
     pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required()->check(NotEmpty);
     pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")->required()->type_name("DIR");
     pPreview->add_flag("--index", pOptions->m_bIndex, "Write an index.html that shows all of them");
+    pPreview->add_flag("--overwrite", pOptions->m_bOverwrite, kOverwriteHelp);
     return {pPreview, [pOptions](CReport& report) { Preview(*pOptions, report); }};
 }
 
@@ -60,6 +62,7 @@ CCommand AddPublish(CLI::App& program) {
     pPublish->add_option("--site", pOptions->m_Site, "The folder of the site's root")
         ->required()
         ->type_name("DIR");
+    pPublish->add_flag("--overwrite", pOptions->m_bOverwrite, kOverwriteHelp);
     return {pPublish, [pOptions](CReport& report) { Publish(*pOptions, report); }};
 }
 

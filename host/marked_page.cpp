@@ -230,10 +230,12 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
     m_Others = places.m_Others;
     const size_t nCursor = places.m_Marks.front().m_nEnd;
     std::vector<CEdit> edits = {{{nCursor, nCursor}, Enclose("cursor", title, cursor)}};
-    for (const CRange& old : places.m_Cursors)
-        edits.push_back({old, ""});
-    for (const CRange& old : places.m_Scripts)
-        edits.push_back({old, ""});
+    for (const auto& ranges : {places.m_Cursors, places.m_Scripts}) {
+        for (const CRange& old : ranges) {
+            edits.push_back({old, ""});
+            m_Replaced += m_Text.GetBytes().substr(old.m_nBegin, old.m_nEnd - old.m_nBegin);
+        }
+    }
     if (!script.empty()) {
         // Where it stood before, unless that has come to lie behind the head.
         const bool bKeepsPlace =
@@ -242,6 +244,15 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
         edits.insert(edits.begin(), {{nScript, nScript}, Enclose("script", title, script)});
     }
     return Apply(m_Text.GetBytes(), std::move(edits));
+}
+
+bool CMarkedPage::ReferredTo(std::string_view address) const {
+    for (const char* pQuote : {"\"", "'"}) {
+        if (m_Replaced.find(m_Text.ToPage(pQuote + std::string(address) + pQuote).m_Text) !=
+            std::string::npos)
+            return true;
+    }
+    return false;
 }
 
 // A text between comments; they get a number when the text holds the one that would end it.

@@ -48,6 +48,9 @@ public:
     // The other effects that Place found.
     const std::vector<COtherEffect>& GetOthers() const { return m_Others; }
 
+    // Whether what Place replaced refers to a file by this address, which is in the code page.
+    bool ReferredTo(std::string_view address) const;
+
     const std::string& GetOutline() const { return m_Text.GetOutline(); }
 
 private:
@@ -58,6 +61,7 @@ private:
     size_t m_nUnfitInScripts = 0;
     size_t m_nInvalid = 0;
     std::vector<COtherEffect> m_Others;
+    std::string m_Replaced; // as the page has it
 };
 
 } // namespace orrelix

@@ -3,12 +3,10 @@
 #include "host/effect_check.h"
 #include "host/files.h"
 #include "host/generated_effect.h"
+#include "host/planned_files.h"
 #include "host/preview_page.h"
-#include "host/site.h"
 #include "host/text_encoding.h"
-
-#include <fmt/format.h>
-#include <iostream>
+#include "platform/files.h"
 
 namespace orrelix {
 
@@ -18,26 +16,48 @@ namespace {
 
 constexpr char kIndexName[] = "index.html";
 
+// Tells that the folder was made for previews, whatever else has come to lie there.
+constexpr char kMarkName[] = ".orrelix-preview";
+constexpr char kMark[] = "This folder is for pages of 'orrelix preview', which replaces what lies in it.\n";
+
 class CPreviewRun {
 public:
     CPreviewRun(const CPreviewOptions& options, CReport& report)
         : m_Options(options), m_Report(report), m_Out(fs::canonical(options.m_Out)), m_Site(m_Out),
-          m_Copies(m_Site, report) {}
+          m_Files(m_Site, report) {}
 
     void Run() {
-        for (const fs::path& file : m_Options.m_Files) {
-            try {
-                AddPage(file);
-            } catch (const std::exception& error) {
-                m_Report.Error(file.string(), error.what());
-            }
-        }
-        m_Copies.Run();
+        for (const fs::path& file : m_Options.m_Files)
+            Try(file, [&] { AddPage(file); });
         if (m_Options.m_bIndex)
-            Write(kIndexName, IndexPage(m_Pages));
+            Try(m_Out / kIndexName,
+                [&] { m_Files.AddPage(m_Out / kIndexName, IndexPage(m_Pages), "all effects"); });
+        if (Claim() || m_Options.m_bOverwrite || !m_Files.HasObstacles())
+            m_Files.Write();
     }
 
 private:
+    // One that gives no page leaves the others alone.
+    template <class TAdd>
+    void Try(const fs::path& file, TAdd add) {
+        try {
+            add();
+        } catch (const std::exception& error) {
+            m_Report.Error(file.string(), error.what());
+        }
+    }
+
+    // Whether all of the folder is ours.
+    bool Claim() {
+        COutputFile::RemoveLeftovers(ComponentPath(m_Out));
+        const fs::path mark = m_Out / kMarkName;
+        if (!fs::is_empty(m_Out))
+            return fs::is_regular_file(fs::symlink_status(mark));
+        if (const std::error_code error = WriteFileContent(mark, kMark, Durability::Usual))
+            m_Report.Error(mark.string(), "can't be written: " + error.message());
+        return true;
+    }
+
     void AddPage(const fs::path& file) {
         const std::string name = file.stem().string() + ".html";
         const fs::path page = m_Out / name;
@@ -46,20 +66,14 @@ private:
             throw CFileError(file, "lies in the folder for the pages; name another one with --out");
         if (m_Options.m_bIndex && name == kIndexName)
             throw CFileError(file, "would have its page where the index belongs; rename the file");
-        for (const CPreviewPage& other : m_Pages) {
-            if (other.m_Name == name)
-                throw CFileError(file,
-                                 fmt::format("would have its page where that of {} is; rename one of them",
-                                             other.m_Source));
-        }
         const CEffectObject object;
         OpenEffect(file, object);
         const CGeneratedEffect effect = GenerateEffect(object, kPreview);
-        m_Copies.Plan(effect, page, file.string());
         CPreviewPage preview{name, file.string(), effect};
+        m_Files.AddPage(page, EffectPage(preview), preview.m_Source);
+        m_Files.AddFiles(effect, file, m_Out, page, [](std::string_view) { return false; });
         WarnOfInvalidText(preview);
         WarnOfHarmfulTexts(object, file.string(), m_Report);
-        Write(name, EffectPage(preview));
         m_Pages.push_back(std::move(preview));
     }
 
@@ -71,17 +85,11 @@ private:
         m_Report.WarnOfInvalidBytes(page.m_Source, nInvalid);
     }
 
-    void Write(const std::string& name, const std::string& content) {
-        if (const std::error_code error = WriteFileContent(m_Out / name, content, Durability::Usual))
-            return m_Report.Error((m_Out / name).string(), "can't be written: " + error.message());
-        std::cout << (m_Out / name).string() << '\n';
-    }
-
     const CPreviewOptions& m_Options;
     CReport& m_Report;
     const fs::path m_Out;
     const CSite m_Site;
-    CFileCopies m_Copies;
+    CPlannedFiles m_Files;
     std::vector<CPreviewPage> m_Pages;
 };
 

@@ -5,6 +5,7 @@
 #include "host/generated_effect.h"
 #include "host/marked_page.h"
 #include "host/page_check.h"
+#include "host/planned_files.h"
 #include "host/site.h"
 #include "platform/files.h"
 
@@ -70,16 +71,17 @@ bool WritePage(const fs::path& path, const std::string& before, const std::strin
 } // namespace
 
 void Publish(const CPublishOptions& options, CReport& report) {
-    const std::string pageName = options.m_Page.string();
+    const fs::path pagePlace = SpelledAsOnDisk(options.m_Page);
+    const std::string pageName = pagePlace.string();
     if (!fs::is_directory(options.m_Site))
         return report.Error(options.m_Site.string(), "is no folder; name the folder of the site with --site");
     std::string before;
-    if (fs::exists(options.m_Page) && !fs::is_regular_file(options.m_Page))
+    if (fs::exists(pagePlace) && !fs::is_regular_file(pagePlace))
         return report.Error(pageName, "is no file, so it can't be a page");
-    if (const std::error_code error = ReadWholeFile(ComponentPath(options.m_Page), before))
+    if (const std::error_code error = ReadWholeFile(ComponentPath(pagePlace), before))
         return report.Error(pageName, "can't be read: " + error.message());
     const CSite site(options.m_Site);
-    if (!site.Holds(options.m_Page))
+    if (!site.Holds(pagePlace))
         return report.Error(pageName, "doesn't lie in the site's folder " + options.m_Site.string());
 
     const CEffectObject object;
@@ -96,12 +98,15 @@ void Publish(const CPublishOptions& options, CReport& report) {
     WarnOfHarmfulTexts(object, options.m_File.string(), report);
 
     // The files first: a page never refers to what isn't there yet.
-    const fs::path pagePath =
-        fs::canonical(fs::absolute(options.m_Page).parent_path()) / options.m_Page.filename();
-    CFileCopies copies(site, report);
-    copies.Plan(effect, pagePath, options.m_File.string());
-    copies.Run();
-    if (*after == before || WritePage(pagePath, before, *after, pageName, report))
+    const fs::path folder = fs::canonical(fs::absolute(pagePlace).parent_path());
+    const fs::path pageFile = fs::canonical(pagePlace);
+    CPlannedFiles files(site, report);
+    files.AddFiles(effect, options.m_File, folder, pageFile,
+                   [&](std::string_view address) { return page.ReferredTo(address); });
+    if (!options.m_bOverwrite && files.HasObstacles())
+        return;
+    files.Write();
+    if (*after == before || WritePage(pageFile, before, *after, pageName, report))
         std::cout << pageName << '\n';
 }
 

@@ -1,14 +1,10 @@
 #include "host/site.h"
 
 #include "host/files.h"
-#include "host/text_encoding.h"
-#include "platform/files.h"
 
 #include <algorithm>
 #include <charconv>
-#include <fmt/format.h>
 #include <system_error>
-#include <vector>
 
 namespace orrelix {
 
@@ -63,10 +59,6 @@ std::string Decoded(std::string_view address) {
     return result;
 }
 
-bool IsBelow(const fs::path& path, const fs::path& root) {
-    return std::mismatch(root.begin(), root.end(), path.begin(), path.end()).first == root.end();
-}
-
 // Goes along an address's steps from a folder of the site. False when it climbs out.
 bool Walk(std::string_view steps, const fs::path& root, fs::path& place) {
     for (size_t nStart = 0; nStart <= steps.size();) {
@@ -89,7 +81,7 @@ bool Walk(std::string_view steps, const fs::path& root, fs::path& place) {
 CSite::CSite(const fs::path& root) : m_Root(fs::canonical(root)) {}
 
 bool CSite::Holds(const fs::path& file) const {
-    return IsBelow(fs::weakly_canonical(fs::absolute(file).parent_path()), m_Root);
+    return LiesBelow(file, m_Root);
 }
 
 fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std::string& problem) const {
@@ -104,81 +96,24 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
         return {};
     }
     fs::path place = cleaned.starts_with('/') ? m_Root : fs::weakly_canonical(pageFolder);
+    if (Walk(decoded, m_Root, place))
+        return FollowLinks(place, problem);
+    problem = LeadsOut();
+    return {};
+}
+
+fs::path CSite::FollowLinks(const fs::path& place, std::string& problem) const {
+    if (LiesBelow(place, m_Root))
+        return fs::weakly_canonical(place);
     std::error_code failed;
-    // Twice: along the address alone, and along the links that stand on its way.
-    const bool bInside =
-        Walk(decoded, m_Root, place) && IsBelow(fs::weakly_canonical(place.parent_path(), failed), m_Root) &&
-        !failed && (!fs::exists(place, failed) || IsBelow(fs::canonical(place, failed), m_Root)) && !failed;
-    if (!bInside) {
-        problem = "leads out of the site's folder " + m_Root.string();
-        return {};
-    }
-    if (fs::is_symlink(fs::symlink_status(place, failed)) && !fs::exists(place, failed)) {
-        problem = "is a link to nothing; a file written there could land outside of the site";
-        return {};
-    }
-    return place;
+    const bool bToNothing = fs::is_symlink(place, failed) && !fs::exists(place, failed);
+    problem =
+        bToNothing ? "is a link to nothing; a file written there could land outside of the site" : LeadsOut();
+    return {};
 }
 
-void CFileCopies::Plan(const CGeneratedEffect& effect, const fs::path& page, const std::string& subject) {
-    for (const CString& name : effect.m_Lost)
-        m_Report.Error(subject,
-                       fmt::format("the effect needs the file \"{}\", which is missing; put it beside "
-                                   "the configuration file",
-                                   name.View()));
-    for (const CEffectFile& file : effect.m_Files)
-        PlanFile(file, page, subject);
-}
-
-void CFileCopies::PlanFile(const CEffectFile& file, const fs::path& page, const std::string& subject) {
-    const std::string source = SystemPath(file.m_Source).string();
-    if (!FileExists(file.m_Source)) {
-        m_Report.Error(subject, fmt::format("the effect needs the file {}, which is missing", source));
-        return;
-    }
-    for (const CString& name : file.m_Names) {
-        // Browsers ask for names in UTF-8, whatever the page is in.
-        const std::string address = ToUtf8((file.m_WebPath + name).View()).m_Text;
-        std::string problem;
-        const fs::path target = m_Site.Locate(address, page.parent_path(), problem);
-        if (target.empty())
-            m_Report.Error(subject,
-                           fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
-        else if (target == page)
-            m_Report.Error(subject, fmt::format("the file {} would land on the page itself", source));
-        else if (!IsFree(target, file.m_Source))
-            m_Report.Error(
-                subject,
-                fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
-                            source, SystemPath(m_Sources.at(target)).string(), target.string()));
-        else
-            m_Sources.emplace(target, file.m_Source);
-        if (target.empty())
-            return; // the other spellings lie at the same place
-    }
-}
-
-bool CFileCopies::IsFree(const fs::path& target, const CString& source) const {
-    const auto found = m_Sources.find(target);
-    return found == m_Sources.end() || found->second == source || SameContent(found->second, source);
-}
-
-void CFileCopies::Run() {
-    fs::path folder; // the targets are sorted
-    for (const auto& [target, source] : m_Sources) {
-        if (fs::is_regular_file(target) && SameContent(source, ComponentPath(target)))
-            continue;
-        std::error_code failed;
-        fs::create_directories(target.parent_path(), failed);
-        if (folder != target.parent_path()) {
-            folder = target.parent_path();
-            COutputFile::RemoveLeftovers(ComponentPath(folder));
-        }
-        if (!failed)
-            failed = CopyWholeFile(source, ComponentPath(target), Spelling::Exact);
-        if (failed)
-            m_Report.Error(target.string(), "can't be written: " + failed.message());
-    }
+std::string CSite::LeadsOut() const {
+    return "leads out of the site's folder " + m_Root.string();
 }
 
 } // namespace orrelix

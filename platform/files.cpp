@@ -195,6 +195,11 @@ CString FileNameOnDisk(const CString& path) {
                                            : CString();
 }
 
+std::string PathOnDisk(const CString& path) {
+    const COnDisk found = FindOnDisk(path);
+    return found.m_Kind != FileKind::None ? found.m_Path : std::string();
+}
+
 CStringArray FindFiles(const CString& directory, const CString& pattern) {
     CStringArray names;
     const COnDisk found = FindOnDisk(directory);

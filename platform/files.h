@@ -34,6 +34,9 @@ bool DirectoryExists(const CString& path);
 // there is no such file.
 CString FileNameOnDisk(const CString& path);
 
+// The system's own path of what a path names, as the disk spells it; empty when there is nothing.
+std::string PathOnDisk(const CString& path);
+
 // The names of the files in a directory that match a pattern such as "*.gif", sorted. "*" stands for any
 // characters, "?" for one; case plays no part. Empty when the directory can't be read.
 CStringArray FindFiles(const CString& directory, const CString& pattern);

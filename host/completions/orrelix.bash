@@ -18,8 +18,8 @@ _orrelix() {
         new) options+=" --title --effect --set --list-fields --json --overwrite" ;;
         edit) options+=" --set --list-fields --json --overwrite" ;;
         show) options+=" --json" ;;
-        preview) options+=" --out --index" ;;
-        publish) options+=" --page --site" ;;
+        preview) options+=" --out --index --overwrite" ;;
+        publish) options+=" --page --site --overwrite" ;;
     esac
 
     COMPREPLY=()

@@ -30,3 +30,4 @@ complete -c orrelix -n "__fish_seen_subcommand_from preview" -l out -x -a "(__fi
 complete -c orrelix -n "__fish_seen_subcommand_from preview" -l index -d "Write an index.html"
 complete -c orrelix -n "__fish_seen_subcommand_from publish" -l page -r -F -d "The page"
 complete -c orrelix -n "__fish_seen_subcommand_from publish" -l site -x -a "(__fish_complete_directories)" -d "Folder of the site's root"
+complete -c orrelix -n "__fish_seen_subcommand_from preview publish" -l overwrite -d "Replace files that the program didn't put there"

@@ -1,0 +1,177 @@
+#include "host/planned_files.h"
+
+#include "host/files.h"
+#include "host/text_encoding.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <iostream>
+#include <system_error>
+
+namespace orrelix {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// What marks a folder as ours, and what is being written.
+constexpr char kOwnPrefix[] = ".orrelix-";
+
+// Every script that we have ever shipped begins with the same line, and so does the next one.
+bool IsOlderScript(const fs::path& file, const CString& script) {
+    std::string ours, theirs;
+    if (ReadWholeFile(script, ours) || ReadWholeFile(ComponentPath(file), theirs))
+        return false;
+    return theirs.starts_with(ours.substr(0, ours.find('\n') + 1));
+}
+
+} // namespace
+
+std::string CPlannedFiles::CPlannedFile::GetName() const {
+    return m_Source.IsEmpty() ? "the page of " + m_Subject : SystemPath(m_Source).string();
+}
+
+// Whether the file lies there as it is to be, in this very spelling.
+bool CPlannedFiles::CPlannedFile::IsWritten() const {
+    if (!fs::is_regular_file(m_Target))
+        return false;
+    if (!m_Source.IsEmpty())
+        return SameContent(m_Source, ComponentPath(m_Target));
+    std::string content;
+    return !ReadWholeFile(ComponentPath(m_Target), content) && content == m_Content;
+}
+
+std::error_code CPlannedFiles::CPlannedFile::Write() const {
+    std::error_code failed;
+    fs::create_directories(m_Target.parent_path(), failed);
+    if (failed || IsWritten())
+        return failed;
+    return m_Source.IsEmpty() ? WriteFileContent(m_Target, m_Content, Durability::Usual)
+                              : CopyWholeFile(m_Source, ComponentPath(m_Target), Spelling::Exact);
+}
+
+void CPlannedFiles::AddFiles(const CGeneratedEffect& effect, const fs::path& configFile,
+                             const fs::path& pageFolder, const fs::path& page,
+                             const CReferenceTest& isReferredTo) {
+    for (const CString& name : effect.m_Lost)
+        m_Report.Error(configFile.string(),
+                       fmt::format("the effect needs the file \"{}\", which is missing; put it beside "
+                                   "the configuration file",
+                                   name.View()));
+    for (const CEffectFile& file : effect.m_Files) {
+        if (!CheckSource(file, configFile))
+            continue;
+        const bool bReferredTo =
+            std::any_of(file.m_Names.begin(), file.m_Names.end(),
+                        [&](const CString& name) { return isReferredTo((file.m_WebPath + name).View()); });
+        AddFile(file, configFile, pageFolder, page, bReferredTo);
+    }
+}
+
+bool CPlannedFiles::CheckSource(const CEffectFile& file, const fs::path& configFile) const {
+    const std::string source = SystemPath(file.m_Source).string();
+    if (!FileExists(file.m_Source)) {
+        m_Report.Error(configFile.string(),
+                       fmt::format("the effect needs the file {}, which is missing", source));
+        return false;
+    }
+    const fs::path onDisk = PathOnDisk(file.m_Source);
+    if (file.m_bScript || LiesBelow(onDisk, fs::absolute(SpelledAsOnDisk(configFile)).parent_path()) ||
+        m_Site.Holds(onDisk))
+        return true;
+    m_Report.Error(configFile.string(),
+                   fmt::format("the file {} is a link to one outside of the configuration file's folder; "
+                               "put the file itself there",
+                               source));
+    return false;
+}
+
+void CPlannedFiles::AddFile(const CEffectFile& file, const fs::path& configFile, const fs::path& pageFolder,
+                            const fs::path& page, bool bReferredTo) {
+    const std::string subject = configFile.string();
+    const std::string source = SystemPath(file.m_Source).string();
+    for (const CString& name : file.m_Names) {
+        // Browsers ask for names in UTF-8, whatever the page is in.
+        const std::string address = ToUtf8((file.m_WebPath + name).View()).m_Text;
+        std::string problem;
+        const fs::path target = m_Site.Locate(address, pageFolder, problem);
+        if (target.empty()) {
+            m_Report.Error(subject,
+                           fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
+            return; // the other spellings lie at the same place
+        }
+        const CPlannedFile* pOther = FindAt(target);
+        if (target.filename().native().starts_with(kOwnPrefix))
+            m_Report.Error(subject, fmt::format("the file {} has a name that this program keeps for itself; "
+                                                "give it another one",
+                                                source));
+        else if (target == page)
+            m_Report.Error(subject, fmt::format("the file {} would land on the page itself", source));
+        else if (!pOther)
+            Add({target, subject, file.m_Source, "", file.m_bScript, bReferredTo});
+        else if (pOther->m_Source != file.m_Source &&
+                 (pOther->m_Source.IsEmpty() || !SameContent(pOther->m_Source, file.m_Source)))
+            m_Report.Error(
+                subject,
+                fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
+                            source, pOther->GetName(), target.string()));
+    }
+}
+
+void CPlannedFiles::AddPage(const fs::path& page, const std::string& content, const std::string& subject) {
+    std::string problem;
+    const fs::path target = m_Site.FollowLinks(page, problem);
+    if (target.empty())
+        throw CFileError(subject, fmt::format("would have its page at {}, which {}", page.string(), problem));
+    if (const CPlannedFile* pOther = FindAt(target))
+        throw CFileError(
+            subject, fmt::format("would have its page where {} is; rename one of them", pOther->GetName()));
+    Add({target, subject, "", content});
+}
+
+void CPlannedFiles::Add(CPlannedFile file) {
+    m_Indices.emplace(file.m_Target.native(), m_Files.size());
+    m_Files.push_back(std::move(file));
+}
+
+const CPlannedFiles::CPlannedFile* CPlannedFiles::FindAt(const fs::path& target) const {
+    const auto found = m_Indices.find(target.native());
+    return found == m_Indices.end() ? nullptr : &m_Files[found->second];
+}
+
+bool CPlannedFiles::HasObstacles() const {
+    bool bObstacles = false;
+    for (const CPlannedFile& file : m_Files) {
+        if (!fs::exists(file.m_Target) || file.m_bReferredTo || file.IsWritten() ||
+            (file.m_bScript && IsOlderScript(file.m_Target, file.m_Source)))
+            continue;
+        m_Report.Error(file.m_Target.string(),
+                       fmt::format("is there already and would be replaced by {}; give one of them another "
+                                   "name, or say --overwrite. Nothing has been written",
+                                   file.GetName()));
+        bObstacles = true;
+    }
+    return bObstacles;
+}
+
+// Pages last: they never refer to what isn't there yet.
+void CPlannedFiles::Write() const {
+    fs::path folder;
+    for (const bool bPages : {false, true}) {
+        for (const CPlannedFile& file : m_Files) {
+            if (file.m_Source.IsEmpty() != bPages)
+                continue;
+            if (folder != file.m_Target.parent_path()) {
+                folder = file.m_Target.parent_path();
+                COutputFile::RemoveLeftovers(ComponentPath(folder));
+            }
+            if (const std::error_code error = file.Write())
+                m_Report.Error(file.m_Target.string(), "can't be written: " + error.message());
+            else if (bPages)
+                std::cout << file.m_Target.string() << '\n';
+        }
+    }
+}
+
+} // namespace orrelix
