@@ -334,19 +334,21 @@ int CVignelConfig::AddSegment(VignelSegment record) {
 
 bool CVignelConfig::ReadFile(const CString& path, CConfigForm* pForm) {
     CInputFile file;
-    const bool bOpen = !file.Open(path);
-    if (bOpen) {
+    if (!file.Open(path)) {
+        CVignelConfig read = *this;
         CConfigLines lines(file, pForm);
-        ReadKeys(lines, kDescriptionPart, m_DescriptionMap, &CConfigForm::m_DescriptionKeys);
-        ReadKeys(lines, kParameterPart, m_ParameterMap, &CConfigForm::m_ParameterKeys);
-        ReadResources(lines, m_Resources);
-        ReadSegments(lines, m_Segments);
+        ReadKeys(lines, kDescriptionPart, read.m_DescriptionMap, &CConfigForm::m_DescriptionKeys);
+        ReadKeys(lines, kParameterPart, read.m_ParameterMap, &CConfigForm::m_ParameterKeys);
+        ReadResources(lines, read.m_Resources);
+        ReadSegments(lines, read.m_Segments);
         while (pForm && lines.Next()) {
         }
+        if (!file.GetError())
+            *this = std::move(read);
     }
     if (pForm)
         pForm->m_Error = file.GetError();
-    return bOpen;
+    return !file.GetError();
 }
 
 std::error_code CVignelConfig::WriteFile(const CString& path) const {

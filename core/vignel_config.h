@@ -90,10 +90,10 @@ public:
     int AddSegment(VignelSegment record);
 
     // Reads a file into the store: keys, records and segments of the file are added to or overwrite what the
-    // store holds; nothing is emptied first. False, and nothing changes, when the file can't be opened.
-    // Whatever else is wrong with the file, what could be read of it is in the store and the result is true.
-    // The time is in proportion to the file, the memory beside the store's own is that of the longest line.
-    // A form, if one is given, is to be empty.
+    // store holds; nothing is emptied first. False, and nothing changes, when the file can't be opened or the
+    // disk fails before its end. Whatever else is wrong with the file, what could be read of it is in the store
+    // and the result is true. The time is in proportion to the file, the memory beside the store's own is that
+    // of the longest line. A form, if one is given, is to be empty.
     bool ReadFile(const CString& path, CConfigForm* pForm = nullptr);
 
     // Writes the store, replacing the file as a whole. On an error an old file is as it was. At most 65,535

@@ -1,6 +1,7 @@
 #include "core/vignel_config.h"
 #include "platform/paths.h"
 #include "tests/support/code_page_in_force.h"
+#include "tests/support/failing_files.h"
 #include "tests/support/session.h"
 #include "tests/support/temporary_directory.h"
 
@@ -164,6 +165,22 @@ TEST_F(VignelConfig, SurvivesFilesOfRandomPieces) {
         ASSERT_EQ(again.m_Resources.GetSize(), config.m_Resources.GetSize());
         ASSERT_EQ(again.m_Segments.GetSize(), config.m_Segments.GetSize());
     }
+}
+
+TEST_F(VignelConfig, StaysAsItWasWhereTheDiskFailsInTheMidstOfAFile) {
+    const CString path =
+        m_Directory.Write("long.cfg", FileOf("<D|Title = new|D>||<P|K = v|") + std::string(600'000, 'x'));
+    CVignelConfig config;
+    config.SetTitle("old");
+    bool bFailed = true;
+    for (int nCall = 1; bFailed; ++nCall) {
+        const CFailingFiles files(nCall, std::make_error_code(std::errc::io_error));
+        EXPECT_EQ(config.GetTitle(), "old") << "before " << nCall;
+        const bool bRead = config.ReadFile(path);
+        bFailed = !files.GetFailed().empty();
+        EXPECT_EQ(bRead, !bFailed) << files.GetFailed();
+    }
+    EXPECT_EQ(config.GetTitle(), "new");
 }
 
 TEST_F(VignelConfig, FindsResourcesByIndexAndByName) {
