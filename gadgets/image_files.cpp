@@ -30,7 +30,9 @@ bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& han
         return true;
     if (FileExists(destination + name))
         return false;
-    CopyWholeFile(source + name, destination + name);
+    // What isn't there must not be referred to: the file would be taken for lost.
+    if (CopyWholeFile(source + name, destination + name))
+        return true;
     handled.Add(path);
     path = destination + name;
     return true;

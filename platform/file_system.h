@@ -39,19 +39,18 @@ public:
     // What a path names, links followed.
     virtual std::error_code GetKind(const std::string& path, FileKind& kind) = 0;
 
-    // Tells every name in a directory, of which "" is the current one. None where it can't be read.
-    virtual void List(const std::string& directory, const std::function<void(const char*)>& visit) = 0;
+    // Tells every name in a directory, of which "" is the current one; those up to the error where there is one.
+    virtual std::error_code List(const std::string& directory,
+                                 const std::function<void(const char*)>& visit) = 0;
 
     // Opens a plain file and nothing else.
     virtual std::error_code OpenToRead(const std::string& path, CSystemFilePtr& pFile,
                                        std::uintmax_t& nSize) = 0;
 
-    // Opens what is there, to write to it. A pipe that nobody reads is an error, and not waited for.
-    virtual std::error_code OpenToWrite(const std::string& path, CSystemFilePtr& pFile) = 0;
-
     // Creates a file that is to take the place of another one: with that one's permissions and, where the
-    // system allows it, its owner. An error, and no new file, where that one exists and must not be written, or
-    // where `path` exists. While it is open, RemoveAbandoned leaves it alone.
+    // system allows it, its owner and its group; whom the new ones would let in for want of that stays out. An error,
+    // and no new file, where that one exists and must not be written, or where `path` exists. While it is open,
+    // RemoveAbandoned leaves it alone.
     virtual std::error_code CreateFor(const std::string& replaced, const std::string& path,
                                       CSystemFilePtr& pFile) = 0;
 

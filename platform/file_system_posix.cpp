@@ -58,6 +58,13 @@ private:
     int m_nFile = -1;
 };
 
+// Of a file that can have its predecessor's owner or not, its group or not: without the owner it doesn't run as
+// somebody else, and a group of strangers may do what everybody may.
+mode_t PermissionsFor(const struct stat& old, bool bOwner, bool bGroup) {
+    const mode_t mode = old.st_mode & (bOwner && bGroup ? 07777 : 01777);
+    return bGroup ? mode : (mode & ~mode_t{S_IRWXG}) | (mode & S_IRWXO) << 3;
+}
+
 // The descriptor stays the file's, which is made first: nobody would close it where there is no memory for one.
 int Open(const std::string& path, int nFlags, mode_t nMode, CSystemFilePtr& pFile) {
     auto pOpened = std::make_unique<CPosixFile>();
@@ -79,13 +86,21 @@ public:
         return {};
     }
 
-    void List(const std::string& directory, const std::function<void(const char*)>& visit) override {
+    std::error_code List(const std::string& directory,
+                         const std::function<void(const char*)>& visit) override {
         const std::unique_ptr<DIR, int (*)(DIR*)> pDirectory(
             opendir(directory.empty() ? "." : directory.c_str()), closedir);
         if (!pDirectory && errno == ENOMEM)
             throw std::bad_alloc();
-        while (const dirent* pEntry = pDirectory ? readdir(pDirectory.get()) : nullptr)
+        if (!pDirectory)
+            return LastError();
+        for (;;) {
+            errno = 0; // by which alone the end differs from an error
+            const dirent* pEntry = readdir(pDirectory.get());
+            if (!pEntry)
+                return ErrorUnless(errno == 0);
             visit(pEntry->d_name);
+        }
     }
 
     std::error_code OpenToRead(const std::string& path, CSystemFilePtr& pFile,
@@ -101,27 +116,24 @@ public:
                                                             : std::errc::operation_not_supported);
     }
 
-    std::error_code OpenToWrite(const std::string& path, CSystemFilePtr& pFile) override {
-        const int nFile = Open(path, O_WRONLY | O_NONBLOCK, 0, pFile);
-        return ErrorUnless(nFile >= 0 && fcntl(nFile, F_SETFL, 0) == 0); // only the opening mustn't wait
-    }
-
     std::error_code CreateFor(const std::string& replaced, const std::string& path,
                               CSystemFilePtr& pFile) override {
         struct stat old {};
         const bool bReplaces = stat(replaced.c_str(), &old) == 0;
         if (bReplaces ? access(replaced.c_str(), W_OK) != 0 : errno != ENOENT)
             return LastError();
-        const int nFile =
-            Open(path, O_WRONLY | O_CREAT | O_EXCL, bReplaces ? old.st_mode & 0777 : 0666, pFile);
+        // Nobody else gets in before owner and group are what they are to be.
+        const int nFile = Open(path, O_WRONLY | O_CREAT | O_EXCL, bReplaces ? 0600 : 0666, pFile);
         if (nFile < 0)
             return LastError();
         flock(nFile, LOCK_EX | LOCK_NB);
         if (!bReplaces)
             return {};
-        // Only a privileged process may give a file away; the permissions come after, which this resets.
-        [[maybe_unused]] const int nGiven = fchown(nFile, old.st_uid, old.st_gid);
-        if (fchmod(nFile, old.st_mode & 07777) == 0)
+        // Only a privileged process may give a file away, but any to a group of its own. The permissions come after,
+        // of which this resets some.
+        const bool bOwner = fchown(nFile, old.st_uid, old.st_gid) == 0;
+        const bool bGroup = bOwner || fchown(nFile, static_cast<uid_t>(-1), old.st_gid) == 0;
+        if (fchmod(nFile, PermissionsFor(old, bOwner, bGroup)) == 0)
             return {};
         const std::error_code error = LastError();
         unlink(path.c_str());

@@ -20,11 +20,16 @@ namespace fs = std::filesystem;
 // The names of directories by their lower-case form; of several, the first in byte order.
 struct CDirectoryListing {
     using CNames = std::unordered_map<std::string, std::string>;
+    struct CListed {
+        CNames m_Names;
+        std::error_code m_Error; // which kept some of them back
+    };
 
     // Directories by their path with "/" at its end.
-    std::unordered_map<std::string, CNames> m_Directories;
+    std::unordered_map<std::string, CListed> m_Directories;
 
-    std::optional<std::string> Find(const std::string& directory, const std::string& lowerName);
+    std::error_code Find(const std::string& directory, const std::string& lowerName,
+                         std::optional<std::string>& found);
     // Tells of a file that may be new.
     void Note(const std::string& path);
 };
@@ -40,9 +45,10 @@ CFileSystem& System() {
     return g_pFileSystem ? *g_pFileSystem : GetSystemFiles();
 }
 
-FileKind KindOf(const std::string& path) {
-    FileKind kind = FileKind::None;
-    return System().GetKind(path, kind) ? FileKind::None : kind;
+// Whether an error says for certain that there is no such file. Any other one, of the disk or for want of rights or
+// of descriptors, leaves that open.
+bool IsAbsence(const std::error_code& error) {
+    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
 }
 
 std::string LowerCase(std::string_view name) {
@@ -60,44 +66,63 @@ void AddName(CDirectoryListing::CNames& names, std::string_view name) {
 std::mutex g_listingsMutex;
 CListedDirectories* g_pListings = nullptr;
 
-// The directory's path ends in "/", or is empty. Of several names, the first in byte order.
-std::optional<std::string> NameWithoutCase(const std::string& directory, const std::string& name) {
+// Gives `name` the spelling of a name in the directory, whose path ends in "/" or is empty. Of several, the first in
+// byte order. An error, and no change, where there is none.
+std::error_code SpellAsInDirectory(const std::string& directory, std::string& name) {
     const std::string wanted = LowerCase(name);
-    if (CDirectoryListing* pListing = CListedDirectories::OfThisThread())
-        return pListing->Find(directory, wanted);
     std::optional<std::string> found;
-    System().List(directory, [&](const char* pName) {
-        if (LowerCase(pName) == wanted && (!found || pName < *found))
-            found = pName;
-    });
-    return found;
+    std::error_code error;
+    if (CDirectoryListing* pListing = CListedDirectories::OfThisThread()) {
+        error = pListing->Find(directory, wanted, found);
+    } else {
+        error = System().List(directory, [&](const char* pName) {
+            if (LowerCase(pName) == wanted && (!found || pName < *found))
+                found = pName;
+        });
+    }
+    if (found)
+        name = *found;
+    else if (!error)
+        error = std::make_error_code(std::errc::no_such_file_or_directory);
+    return found ? std::error_code() : error;
 }
 
-// A path as the disk spells it; as it was given, with the system's error, when no spelling of it exists.
+// A path as the disk spells it; as it was given, with the system's error, where none of its spellings is known to
+// exist.
 struct COnDisk {
     std::string m_Path;
     FileKind m_Kind = FileKind::None;
     std::error_code m_Error;
+
+    bool MayBe(FileKind kind) const { return m_Error ? !IsAbsence(m_Error) : m_Kind == kind; }
 };
 
-// The same path in the spelling of names that exist; empty when one of them does in none.
-std::string SpellWithoutCase(const std::string& path) {
-    std::string found;
+// What exactly this path names.
+COnDisk LookAt(const std::string& path) {
+    COnDisk found{path, FileKind::None, {}};
+    found.m_Error = System().GetKind(path, found.m_Kind);
+    return found;
+}
+
+// The same path in the spelling of names that exist.
+std::error_code SpellWithoutCase(const std::string& path, std::string& found) {
+    FileKind kind = FileKind::None;
     for (size_t nStart = 0; nStart < path.size();) {
         const size_t nEnd = std::min(path.find('/', nStart), path.size());
-        const std::string name = path.substr(nStart, nEnd - nStart);
-        if (name.empty() || KindOf(found + name) != FileKind::None) {
-            found += name;
-        } else if (const auto otherName = NameWithoutCase(found, name)) {
-            found += *otherName;
-        } else {
-            return {};
-        }
+        std::string name = path.substr(nStart, nEnd - nStart);
+        std::error_code error;
+        if (!name.empty())
+            error = System().GetKind(found + name, kind);
+        if (IsAbsence(error))
+            error = SpellAsInDirectory(found, name);
+        if (error)
+            return error;
+        found += name;
         if (nEnd < path.size())
             found += '/';
         nStart = nEnd + 1;
     }
-    return found;
+    return {};
 }
 
 COnDisk FindOnDisk(const CString& path) {
@@ -105,36 +130,42 @@ COnDisk FindOnDisk(const CString& path) {
                   std::make_error_code(std::errc::no_such_file_or_directory)};
     if (found.m_Path.empty() || found.m_Path.find('\0') != std::string::npos)
         return found;
-    found.m_Error = System().GetKind(found.m_Path, found.m_Kind);
-    if (!found.m_Error)
+    found = LookAt(found.m_Path);
+    if (!IsAbsence(found.m_Error))
         return found;
-    const std::string other = SpellWithoutCase(found.m_Path);
-    const FileKind kind = KindOf(other);
-    return kind != FileKind::None ? COnDisk{other, kind, {}} : found;
+    std::string spelled;
+    found.m_Error = SpellWithoutCase(found.m_Path, spelled);
+    const COnDisk other = found.m_Error ? found : LookAt(spelled);
+    if (other.m_Error)
+        found.m_Error = other.m_Error;
+    return other.m_Error ? found : other;
 }
 
 // What a chain of symbolic links leads to, be it there or not.
-std::string BehindLinks(std::string path) {
-    std::error_code none;
-    for (int nLink = 0; nLink < 40; ++nLink) {
-        const fs::path link = fs::read_symlink(path, none);
-        if (none)
-            break;
+std::error_code FollowLinks(std::string& path) {
+    constexpr int kMostLinks = 40; // as many as the system follows
+    std::error_code error;
+    for (int nLink = 0; nLink < kMostLinks; ++nLink) {
+        const fs::path link = fs::read_symlink(path, error);
+        if (error == std::errc::invalid_argument || IsAbsence(error)) // no link, or nothing
+            return {};
+        if (error)
+            return error;
         path = (fs::path(path).parent_path() / link).string();
     }
-    return path;
+    return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
 
 // Where a file of this path is to be written: its directory as the disk spells it, and no symbolic link,
 // which replacing would break.
-std::string TargetOf(const CString& path, Spelling spelling) {
-    std::string target = SystemSpelling(path);
+std::error_code FindTarget(const CString& path, Spelling spelling, std::string& target) {
+    target = SystemSpelling(path);
     const size_t nName = target.rfind('/') + 1;
     const COnDisk found = spelling == Spelling::AnyCase ? FindOnDisk(path) : COnDisk();
     target = found.m_Kind != FileKind::None
                  ? found.m_Path
                  : FindOnDisk(target.substr(0, nName)).m_Path + target.substr(nName);
-    return BehindLinks(target);
+    return FollowLinks(target);
 }
 
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
@@ -160,10 +191,23 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
 
 // The process by which a temporary file of this name was made; 0 when it is no such name.
 int MakerOf(const char* pName) {
+    if (!std::string_view(pName).starts_with(kTemporaryPrefix)) // as nearly all of a large directory
+        return 0;
     int nProcess = 0, nEnd = 0;
     const std::string format = std::string(kTemporaryPrefix) + "%d-%*u%n";
     const bool bOurs = sscanf(pName, format.c_str(), &nProcess, &nEnd) == 1 && nEnd > 0 && !pName[nEnd];
     return bOurs ? std::max(nProcess, 0) : 0;
+}
+
+// The directory's path ends in "/", or is empty.
+void RemoveLeftoversIn(const std::string& directory) {
+    std::vector<std::pair<std::string, int>> leftovers;
+    System().List(directory, [&](const char* pName) {
+        if (const int nMaker = MakerOf(pName); nMaker > 0)
+            leftovers.emplace_back(directory + pName, nMaker);
+    });
+    for (const auto& [path, nMaker] : leftovers)
+        System().RemoveAbandoned(path, nMaker);
 }
 
 // Hands a file's bytes on, up to its end or an error.
@@ -182,17 +226,17 @@ void SetFileSystem(CFileSystem* pFileSystem) {
 }
 
 bool FileExists(const CString& path) {
-    return FindOnDisk(path).m_Kind == FileKind::Plain;
+    return FindOnDisk(path).MayBe(FileKind::Plain);
 }
 
 bool DirectoryExists(const CString& path) {
-    return FindOnDisk(path).m_Kind == FileKind::Directory;
+    return FindOnDisk(path).MayBe(FileKind::Directory);
 }
 
 CString FileNameOnDisk(const CString& path) {
     const COnDisk found = FindOnDisk(path);
-    return found.m_Kind == FileKind::Plain ? CString(found.m_Path.substr(found.m_Path.rfind('/') + 1))
-                                           : CString();
+    return found.MayBe(FileKind::Plain) ? CString(found.m_Path.substr(found.m_Path.rfind('/') + 1))
+                                        : CString();
 }
 
 std::string PathOnDisk(const CString& path) {
@@ -208,27 +252,28 @@ CStringArray FindFiles(const CString& directory, const CString& pattern) {
     const CString lowerPattern = CString(pattern).MakeLower();
     System().List(found.m_Path, [&](const char* pName) {
         if (MatchesPattern(CString(pName).MakeLower(), lowerPattern) &&
-            KindOf(found.m_Path + "/" + pName) == FileKind::Plain)
+            LookAt(found.m_Path + "/" + pName).MayBe(FileKind::Plain))
             names.Add(pName);
     });
     std::sort(names.begin(), names.end());
     return names;
 }
 
-std::optional<std::string> CDirectoryListing::Find(const std::string& directory,
-                                                   const std::string& lowerName) {
+std::error_code CDirectoryListing::Find(const std::string& directory, const std::string& lowerName,
+                                        std::optional<std::string>& found) {
     const auto [listed, bNew] = m_Directories.try_emplace(directory);
-    CNames& names = listed->second;
+    auto& [names, error] = listed->second;
     if (bNew)
-        System().List(directory, [&names](const char* pName) { AddName(names, pName); });
-    const auto found = names.find(lowerName);
-    return found == names.end() ? std::nullopt : std::optional(found->second);
+        error = System().List(directory, [&names](const char* pName) { AddName(names, pName); });
+    if (const auto name = names.find(lowerName); name != names.end())
+        found = name->second;
+    return error;
 }
 
 void CDirectoryListing::Note(const std::string& path) {
     const size_t nName = path.rfind('/') + 1;
     if (const auto listed = m_Directories.find(path.substr(0, nName)); listed != m_Directories.end())
-        AddName(listed->second, std::string_view(path).substr(nName));
+        AddName(listed->second.m_Names, std::string_view(path).substr(nName));
 }
 
 CListedDirectories::CListedDirectories()
@@ -258,8 +303,9 @@ std::error_code CopyWholeFile(const CString& from, const CString& to, Spelling s
     CInputFile input;
     if (const std::error_code error = input.Open(from))
         return error;
+    std::string target;
     std::error_code different;
-    if (fs::equivalent(FindOnDisk(from).m_Path, TargetOf(to, spelling), different))
+    if (!FindTarget(to, spelling, target) && fs::equivalent(FindOnDisk(from).m_Path, target, different))
         return {};
     COutputFile output;
     if (const std::error_code error = output.Open(to, spelling))
@@ -302,17 +348,7 @@ std::error_code ReadWholeFile(const CString& path, std::string& content, std::ui
 }
 
 void COutputFile::RemoveLeftovers(const CString& directory) {
-    const COnDisk found = FindOnDisk(directory);
-    if (found.m_Kind != FileKind::Directory)
-        return;
-    std::vector<std::pair<std::string, int>> leftovers;
-    System().List(found.m_Path, [&](const char* pName) {
-        const std::string path = found.m_Path + "/" + pName;
-        if (const int nMaker = MakerOf(pName); nMaker > 0 && KindOf(path) == FileKind::Plain)
-            leftovers.emplace_back(path, nMaker);
-    });
-    for (const auto& [path, nMaker] : leftovers)
-        System().RemoveAbandoned(path, nMaker);
+    RemoveLeftoversIn(FindOnDisk(directory).m_Path + "/");
 }
 
 COutputFile::COutputFile() = default;
@@ -331,17 +367,22 @@ void COutputFile::Discard() {
 std::error_code COutputFile::Open(const CString& path, Spelling spelling) {
     Discard();
     m_Pending.clear();
-    m_Target = TargetOf(path, spelling);
-    m_Error = OpenTarget();
+    m_Error = FindTarget(path, spelling, m_Target);
+    if (!m_Error)
+        m_Error = OpenTarget();
     return m_Error;
 }
 
 std::error_code COutputFile::OpenTarget() {
     if (m_Target.empty() || m_Target.find('\0') != std::string::npos)
         return std::make_error_code(std::errc::invalid_argument);
-    const FileKind kind = KindOf(m_Target);
-    return kind == FileKind::Plain || kind == FileKind::None ? CreateTemporary()
-                                                             : System().OpenToWrite(m_Target, m_pFile);
+    const COnDisk found = LookAt(m_Target);
+    if (found.m_Error ? IsAbsence(found.m_Error) : found.m_Kind == FileKind::Plain)
+        return CreateTemporary();
+    if (found.m_Error)
+        return found.m_Error;
+    return std::make_error_code(found.m_Kind == FileKind::Directory ? std::errc::is_a_directory
+                                                                    : std::errc::operation_not_supported);
 }
 
 // Under a name that no other writer uses, in the directory of the target.
@@ -387,17 +428,18 @@ std::error_code COutputFile::Commit(bool bDurable) {
     if (!m_pFile)
         return m_Error ? m_Error : std::make_error_code(std::errc::bad_file_descriptor);
     Flush();
-    if (!m_Error && bDurable && !m_Temporary.empty())
+    if (bDurable)
+        RemoveLeftoversIn(m_Target.substr(0, m_Target.rfind('/') + 1));
+    if (!m_Error && bDurable)
         m_Error = m_pFile->Sync();
     if (const std::error_code closing = m_pFile->Close(); !m_Error)
         m_Error = closing;
-    if (!m_Error && !m_Temporary.empty()) {
+    if (!m_Error)
         m_Error = System().Rename(m_Temporary, m_Target);
-        if (!m_Error) {
-            m_Temporary.clear();
-            if (CDirectoryListing* pListing = CListedDirectories::OfThisThread())
-                pListing->Note(m_Target);
-        }
+    if (!m_Error) {
+        m_Temporary.clear();
+        if (CDirectoryListing* pListing = CListedDirectories::OfThisThread())
+            pListing->Note(m_Target);
     }
     Discard();
     return m_Error;

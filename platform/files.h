@@ -4,8 +4,9 @@
 // on a system with slashes, "\home\ann\page.cfg" is /home/ann/page.cfg. A backslash that is the second byte
 // of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
 // up part by part without regard to case, so that paths from systems that don't still work. A directory is
-// never a file, and "*" and "?" in a path are characters like others. Nothing here throws, but for want of
-// memory: what can fail gives the system's error, or none.
+// never a file, and "*" and "?" in a path are characters like others. Only what is certainly absent counts as that:
+// where the disk, its rights or the process's limits keep from looking, a file is taken to be there. Nothing here
+// throws, but for want of memory: what can fail gives the system's error, or none.
 #pragma once
 
 #include "platform/array.h"
@@ -31,7 +32,7 @@ bool FileExists(const CString& path);
 bool DirectoryExists(const CString& path);
 
 // The last part of the path as the disk spells it, e.g. "Photo.GIF" for "\home\ann\photo.gif"; empty when
-// there is no such file.
+// there is no such file; as it was given where nobody can tell.
 CString FileNameOnDisk(const CString& path);
 
 // The system's own path of what a path names, as the disk spells it; empty when there is nothing.
@@ -99,11 +100,12 @@ std::error_code ReadWholeFile(const CString& path, std::string& content, std::ui
 // A file that is replaced as a whole: what is written goes to a temporary file beside it, which takes its
 // name on Commit. Until then, and for ever if anything fails or the process dies, the old file stays as it
 // was. So the directory has to be writable too. The new file has the old one's permissions and, where the
-// system allows it, its owner; a hard link to the old one keeps the old content. What exists but is no plain
-// file (a device, a pipe that somebody reads) is written directly.
+// system allows it, its owner and group; a hard link to the old one keeps the old content. What exists but is no plain
+// file (a device, a pipe) isn't written to: its reader could leave, and the process with it.
 class COutputFile {
 public:
-    // Deletes the temporary files that processes left in the directory when they were killed.
+    // Deletes the temporary files that processes left in the directory when they were killed. A durable Commit does
+    // that by itself.
     static void RemoveLeftovers(const CString& directory);
 
     COutputFile();
@@ -116,7 +118,8 @@ public:
     void Write(std::string_view bytes);
 
     // Ends the writing; no error when every byte is in place under the file's name. With bDurable the bytes
-    // are on the disk before the old file goes, so that not even a power cut leaves less than one of the two.
+    // are on the disk before the old file goes, so that not even a power cut leaves less than one of the two; and what
+    // earlier writers left behind in the directory is deleted, which is little beside waiting for the disk.
     std::error_code Commit(bool bDurable = true);
 
 private:
@@ -129,7 +132,7 @@ private:
     std::unique_ptr<CSystemFile> m_pFile;
     std::error_code m_Error; // the first one
     std::string m_Target;
-    std::string m_Temporary; // empty when the target is written directly
+    std::string m_Temporary;
     std::string m_Pending;
 };
 

@@ -16,7 +16,7 @@ constexpr const char* kFileName = "\\settings.ini";
 constexpr const char* kLockName = "\\settings.lock";
 constexpr int kLockMilliseconds = 2000;
 
-// A file beyond this size was not written here.
+// A file beyond this size was not written here. It is left alone.
 constexpr size_t kMostBytes = 4u << 20;
 
 constexpr std::string_view kHexDigits = "0123456789abcdef";
@@ -89,13 +89,12 @@ std::optional<std::pair<CString, CString>> EntryOf(std::string_view line) {
     return std::pair(Unescaped(Trim(line.substr(0, nEqual))), Unescaped(Trim(line.substr(nEqual + 1))));
 }
 
-// The file's text, "" for a file that is absent or too large to be ours; nothing when it can't be read now.
+// The file's text, "" for a file that is absent; nothing when it can't be read.
 std::optional<std::string> ReadSettings(const CString& path) {
     std::string text;
-    const std::error_code error = ReadWholeFile(path, text, kMostBytes);
-    if (error == std::errc::file_too_large || !FileExists(path))
-        return "";
-    return error ? std::nullopt : std::optional(text);
+    if (ReadWholeFile(path, text, kMostBytes))
+        return FileExists(path) ? std::nullopt : std::optional("");
+    return text;
 }
 
 } // namespace
@@ -170,7 +169,6 @@ bool ChangeProfileSection(const CString& section, const std::function<void(CProf
     CFileLock lock;
     if (folder.IsEmpty() || !lock.Acquire(folder + kLockName, kLockMilliseconds))
         return false;
-    COutputFile::RemoveLeftovers(folder);
     const auto text = ReadSettings(folder + kFileName);
     if (!text)
         return false;

@@ -82,7 +82,6 @@ bool ChangeRegistry(const std::function<bool(CRegistryKeys&)>& change) {
     CFileLock lock;
     if (folder.IsEmpty() || !lock.Acquire(folder + "\\registry.lock", kLockMilliseconds))
         return false;
-    COutputFile::RemoveLeftovers(folder);
     const CString path = folder + "\\registry.ini";
     std::string text;
     if (ReadWholeFile(path, text, kMostBytes) && FileExists(path))

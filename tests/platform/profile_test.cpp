@@ -105,7 +105,7 @@ TEST_F(Profile, ADamagedFileCostsNoMoreThanWhatIsDamaged) {
         {"a key twice", "[s]\nk=first\nk=second\n", "first"},
         {"no keys", "=\n[]\n==\n[s]\n=\n", "default"},
         {"every byte", "\xff\xfe\x80[s]\n\x01\x02=\x03\n[s]\nk=\xff", "\xff"},
-        {"too large to be ours", "[s]\nk=v\n" + std::string(5000000, 'x'), "default"}};
+    };
     for (const auto& [pName, content, pValue] : cases) {
         WriteFile(content);
         EXPECT_EQ(GetProfileString("s", "k", "default"), pValue) << pName;
@@ -119,6 +119,11 @@ TEST_F(Profile, WhatCantBeReadIsAbsentAndWhatCantBeWrittenIsFalse) {
     const std::pair<const char*, std::function<void()>> cases[] = {
         {"a folder in place of the file", [&] { fs::create_directories(m_User.File()); }},
         {"a folder in place of the lock", [&] { fs::create_directories(m_User.Folder() / "settings.lock"); }},
+        {"a file too large to be ours",
+         [&] {
+             WriteFile("[s]\nk=v\n");
+             fs::resize_file(m_User.File(), 5'000'000);
+         }},
         {"a file in place of the folder", [&] { std::ofstream(root / kCompanyWord) << "x"; }},
         {"a configuration folder below a file", [&] { setenv("XDG_CONFIG_HOME", "/dev/null/settings", 1); }},
         {"a home that isn't there", [&] {

@@ -24,15 +24,13 @@ public:
     std::error_code GetKind(const std::string& path, FileKind& kind) override {
         return Try("look", [&] { return m_System.GetKind(path, kind); });
     }
-    void List(const std::string& directory, const std::function<void(const char*)>& visit) override {
-        m_System.List(directory, visit);
+    std::error_code List(const std::string& directory,
+                         const std::function<void(const char*)>& visit) override {
+        return Try("list", [&] { return m_System.List(directory, visit); });
     }
     std::error_code OpenToRead(const std::string& path, CSystemFilePtr& pFile,
                                std::uintmax_t& nSize) override {
         return Opened(Try("open", [&] { return m_System.OpenToRead(path, pFile, nSize); }), pFile);
-    }
-    std::error_code OpenToWrite(const std::string& path, CSystemFilePtr& pFile) override {
-        return Opened(Try("open", [&] { return m_System.OpenToWrite(path, pFile); }), pFile);
     }
     std::error_code CreateFor(const std::string& replaced, const std::string& path,
                               CSystemFilePtr& pFile) override {
