@@ -26,7 +26,8 @@ target_sources(qt_tests PRIVATE tests/qt/make_person.cpp tests/qt/qt_person.cpp)
 target_link_libraries(qt_test PRIVATE dialogs_tests orrelix_qt_objects)
 target_compile_definitions(qt_tests PRIVATE
     ORRELIX_TEST_PLUGINS="${test_plugins}"
+    ORRELIX_PROGRAM="$<TARGET_FILE:orrelix_program>"
     ORRELIX_TEST_GUEST="$<TARGET_FILE:qt_test_guest>"
     ORRELIX_LATE_HOST="$<TARGET_FILE:qt_test_late_host>"
     ORRELIX_QT_HOST="$<TARGET_FILE:qt_test_qt_host>")
-add_dependencies(qt_test orrelix_qt qt_test_guest qt_test_late_host qt_test_qt_host qt_test_keyboard)
+add_dependencies(qt_test orrelix_qt orrelix_program qt_test_guest qt_test_late_host qt_test_qt_host qt_test_keyboard)

@@ -120,6 +120,7 @@ void ListFields(const CEffectObject& object, const CEditOptions& options) {
 // Whether a file that the effect needs would land on another one. Without a screen nobody can be asked, and a
 // name that is taken would leave the effect without its image.
 bool WouldOverwrite(const CEffectObject& object, const CString& directory, CReport& report) {
+    const CListedDirectories listed;
     bool bTaken = false;
     for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
         const CString name = object.GetResourceName(nIndex);
@@ -160,6 +161,7 @@ bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, 
 
 // Writing makes the component forget files that are gone, which nobody asked for.
 bool HasLostFiles(const CEffectObject& object, const CEditOptions& options, CReport& report) {
+    const CListedDirectories listed;
     bool bLost = false;
     for (const CNamedField& field : ListFields(object)) {
         for (const CString& value : field.m_Values) {
@@ -225,6 +227,53 @@ bool RunDialogs(const CEffectObject& object, const CEditOptions& options, const 
     return false;
 }
 
+// What is in the file; nothing when there is none.
+std::optional<std::string> ContentOf(const fs::path& file) {
+    std::string content;
+    const CString path = ComponentPath(file);
+    const std::error_code error = ReadWholeFile(path, content);
+    if (error && FileExists(path))
+        throw CFileError(file, "can't be read: " + error.message());
+    return error ? std::nullopt : std::optional(content);
+}
+
+// Whether the name is taken, in whatever case and by whatever.
+bool IsThere(const fs::path& file) {
+    return FileExists(ComponentPath(file)) || fs::exists(file);
+}
+
+fs::path FreeNameBeside(const fs::path& file) {
+    for (int nNumber = 2;; ++nNumber) {
+        const std::string name =
+            fmt::format("{}-{}{}", file.stem().string(), nNumber, file.extension().string());
+        const fs::path free = file.parent_path() / name;
+        if (!IsThere(free))
+            return free;
+    }
+}
+
+// The dialogs have been open for any time, in which others could write the file. Then theirs stays, and what has been
+// made here gets a name of its own.
+void WriteAfterDialogs(const CEffectObject& object, CEditOptions options,
+                       const std::optional<std::string>& before, CReport& report) {
+    CFileLock lock;
+    const fs::path file = options.m_File;
+    std::string problem;
+    try {
+        lock = LockFile(file);
+        if (ContentOf(file) != before)
+            problem = "has been changed meanwhile by somebody else";
+    } catch (const CFileError& error) {
+        problem = error.what();
+    }
+    if (!problem.empty()) {
+        options.m_File = FreeNameBeside(file);
+        report.Error(file.string(), fmt::format("{}; it is left as it is, and what you have made is in {}",
+                                                problem, options.m_File.string()));
+    }
+    Write(object, options, report);
+}
+
 bool ChangeByOptions(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     CFieldValues values;
     if (!ParseSets(options.m_Sets, values, report))
@@ -241,8 +290,13 @@ bool ChangeByOptions(const CEffectObject& object, const CEditOptions& options, C
 } // namespace
 
 void NewEffect(const CEditOptions& options, CReport& report) {
-    const std::string name = SpelledAsOnDisk(options.m_File).string();
-    if (!options.m_bListFields && fs::exists(name))
+    const fs::path file = SpelledAsOnDisk(options.m_File);
+    const std::string name = file.string();
+    const bool bByOptions = !options.m_Effect.empty();
+    CFileLock lock;
+    if (bByOptions && !options.m_bListFields)
+        lock = LockFile(file);
+    if (!options.m_bListFields && fs::exists(file))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     const CEffectObject object;
     if (options.m_Effect.empty() && (options.m_bListFields || !options.m_Sets.empty()))
@@ -259,10 +313,10 @@ void NewEffect(const CEditOptions& options, CReport& report) {
     object.SetDescription("");
     object.SetBitmapFileName("");
     object.SetPreviewPath("");
-    if (options.m_Effect.empty()) {
+    if (!bByOptions) {
         if (RunDialogs(object, options, "name one of the effects with --effect: " + AllEffects(object),
                        report))
-            Write(object, options, report);
+            WriteAfterDialogs(object, options, std::nullopt, report);
         return;
     }
     vignel::Result known;
@@ -280,16 +334,20 @@ void NewEffect(const CEditOptions& options, CReport& report) {
 
 void EditEffect(const CEditOptions& options, CReport& report) {
     const CEffectObject object;
-    OpenEffect(options.m_File, object);
-    if (options.m_bListFields)
-        return ListFields(object, options);
-    const bool bChanged =
-        options.m_Sets.empty()
-            ? RunDialogs(object, options, "set fields with --set NAME=VALUE; --list-fields shows them",
-                         report)
-            : ChangeByOptions(object, options, report);
-    if (bChanged)
-        Write(object, options, report);
+    if (options.m_bListFields) {
+        OpenEffect(options.m_File, object);
+        ListFields(object, options);
+    } else if (options.m_Sets.empty()) {
+        const auto before = ContentOf(options.m_File);
+        OpenEffect(options.m_File, object);
+        if (RunDialogs(object, options, "set fields with --set NAME=VALUE; --list-fields shows them", report))
+            WriteAfterDialogs(object, options, before, report);
+    } else {
+        const CFileLock lock = LockFile(options.m_File);
+        OpenEffect(options.m_File, object);
+        if (ChangeByOptions(object, options, report))
+            Write(object, options, report);
+    }
 }
 
 } // namespace orrelix

@@ -29,8 +29,8 @@ fs::path SpelledAsOnDisk(const fs::path& path) {
     std::error_code none;
     if (fs::exists(path, none))
         return path;
-    const fs::path onDisk = PathOnDisk(ComponentPath(path));
-    if (onDisk.empty())
+    const fs::path onDisk = SystemPath(PathOnDisk(ComponentPath(path)));
+    if (!fs::exists(onDisk, none))
         return path;
     return path.is_absolute() ? onDisk : onDisk.lexically_proximate(fs::current_path());
 }
@@ -46,10 +46,19 @@ bool LiesBelow(const fs::path& file, const fs::path& folder) {
 
 std::error_code WriteFileContent(const fs::path& path, std::string_view content, Durability durability) {
     COutputFile file;
-    if (const std::error_code error = file.Open(ComponentPath(path), Spelling::Exact))
+    if (const std::error_code error = file.Open(ComponentPath(path), Spelling::Exact, durability))
         return error;
     file.Write(content);
-    return file.Commit(durability == Durability::PowerCut);
+    return file.Commit();
+}
+
+CFileLock LockFile(const fs::path& path) {
+    constexpr int kMilliseconds = 5000;
+    CFileLock lock;
+    if (!lock.AcquireFor(PathOnDisk(ComponentPath(path)), kMilliseconds))
+        throw CFileError(path,
+                         "is being changed by somebody else, who doesn't come to an end; try again later");
+    return lock;
 }
 
 bool SameContent(const CString& left, const CString& right) {

@@ -1,6 +1,8 @@
 // The edge between the system's paths and the component's, which are full and have backslashes.
 #pragma once
 
+#include "platform/file_lock.h"
+#include "platform/files.h"
 #include "platform/string.h"
 
 #include <filesystem>
@@ -26,9 +28,12 @@ std::filesystem::path SpelledAsOnDisk(const std::filesystem::path& path);
 bool LiesBelow(const std::filesystem::path& file, const std::filesystem::path& folder);
 
 // Writes a file whole, under exactly this name. On an error the file is as it was.
-enum class Durability { Usual, PowerCut };
 std::error_code WriteFileContent(const std::filesystem::path& path, std::string_view content,
                                  Durability durability);
+
+// Locks a file that is going to be read, changed and written: other runs of this program wait until the result goes.
+// Throws CFileError when one of them keeps it too long.
+CFileLock LockFile(const std::filesystem::path& path);
 
 // Whether both are files that hold the same bytes.
 bool SameContent(const CString& left, const CString& right);

@@ -76,7 +76,7 @@ bool CPlannedFiles::CheckSource(const CEffectFile& file, const fs::path& configF
                        fmt::format("the effect needs the file {}, which is missing", source));
         return false;
     }
-    const fs::path onDisk = PathOnDisk(file.m_Source);
+    const fs::path onDisk = SystemPath(PathOnDisk(file.m_Source));
     if (file.m_bScript || LiesBelow(onDisk, fs::absolute(SpelledAsOnDisk(configFile)).parent_path()) ||
         m_Site.Holds(onDisk))
         return true;

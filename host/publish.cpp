@@ -56,7 +56,6 @@ void WarnOfSurroundings(const CMarkedPage& page, const CGeneratedEffect& effect,
 // The page as it was when it was read is `before`.
 bool WritePage(const fs::path& path, const std::string& before, const std::string& after,
                const std::string& subject, CReport& report) {
-    COutputFile::RemoveLeftovers(ComponentPath(path.parent_path()));
     std::string now;
     if (ReadWholeFile(ComponentPath(path), now) || now != before) {
         report.Error(subject, "has been changed meanwhile by somebody else; publish again");
@@ -78,6 +77,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
     std::string before;
     if (fs::exists(pagePlace) && !fs::is_regular_file(pagePlace))
         return report.Error(pageName, "is no file, so it can't be a page");
+    const CFileLock lock = LockFile(pagePlace);
     if (const std::error_code error = ReadWholeFile(ComponentPath(pagePlace), before))
         return report.Error(pageName, "can't be read: " + error.message());
     const CSite site(options.m_Site);

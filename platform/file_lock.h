@@ -1,29 +1,31 @@
 // CFileLock: keeps other processes, and other threads, out while a file is read, changed and written back.
 //
 //     CFileLock lock;
-//     if (lock.Acquire(folder + "\\settings.lock", 2000))
+//     if (lock.AcquireFor(page, 2000))
 //         ... until the end of the block, or of the process, whichever comes first
 //
-// It holds among those who use the same lock file, which stays on the disk, empty.
+// It holds among those who ask for it; others aren't kept from anything.
 #pragma once
 
 #include "platform/string.h"
+
+#include <memory>
 
 namespace orrelix {
 
 class CFileLock {
 public:
-    CFileLock() = default;
-    ~CFileLock();
-    CFileLock(const CFileLock&) = delete;
-    CFileLock& operator=(const CFileLock&) = delete;
-
-    // False when the lock file can't be opened or made, or when somebody
-    // else keeps the lock for longer than that.
+    // Locks a lock file, which is made for it and stays on the disk, empty. False when it can't be opened or made, or
+    // when somebody else keeps the lock for longer than that.
     bool Acquire(const CString& path, int nMilliseconds);
 
+    // Locks a file that its users replace as a whole, whether it is there yet or not, and leaves nothing behind.
+    // False only when somebody else keeps the lock for longer than that: where the disk or the rights don't let one
+    // lock, the work goes on without.
+    bool AcquireFor(const CString& path, int nMilliseconds);
+
 private:
-    int m_nFile = -1;
+    std::shared_ptr<void> m_pHeld;
 };
 
 } // namespace orrelix

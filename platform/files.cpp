@@ -239,9 +239,8 @@ CString FileNameOnDisk(const CString& path) {
                                         : CString();
 }
 
-std::string PathOnDisk(const CString& path) {
-    const COnDisk found = FindOnDisk(path);
-    return found.m_Kind != FileKind::None ? found.m_Path : std::string();
+CString PathOnDisk(const CString& path) {
+    return FromSystemPath(FindOnDisk(path).m_Path);
 }
 
 CStringArray FindFiles(const CString& directory, const CString& pattern) {
@@ -308,11 +307,11 @@ std::error_code CopyWholeFile(const CString& from, const CString& to, Spelling s
     if (!FindTarget(to, spelling, target) && fs::equivalent(FindOnDisk(from).m_Path, target, different))
         return {};
     COutputFile output;
-    if (const std::error_code error = output.Open(to, spelling))
+    if (const std::error_code error = output.Open(to, spelling, Durability::Usual))
         return error;
     if (const std::error_code error = ReadBlocks(input, [&](std::string_view block) { output.Write(block); }))
         return error;
-    return output.Commit(false);
+    return output.Commit();
 }
 
 CInputFile::CInputFile() = default;
@@ -364,9 +363,10 @@ void COutputFile::Discard() {
     m_Temporary.clear();
 }
 
-std::error_code COutputFile::Open(const CString& path, Spelling spelling) {
+std::error_code COutputFile::Open(const CString& path, Spelling spelling, Durability durability) {
     Discard();
     m_Pending.clear();
+    m_Durability = durability;
     m_Error = FindTarget(path, spelling, m_Target);
     if (!m_Error)
         m_Error = OpenTarget();
@@ -388,8 +388,11 @@ std::error_code COutputFile::OpenTarget() {
 // Under a name that no other writer uses, in the directory of the target.
 std::error_code COutputFile::CreateTemporary() {
     static std::atomic<unsigned> s_nCounter = 0;
-    const std::string prefix = m_Target.substr(0, m_Target.rfind('/') + 1).append(kTemporaryPrefix) +
-                               std::to_string(GetProcessNumber()) + "-";
+    const std::string directory = m_Target.substr(0, m_Target.rfind('/') + 1);
+    if (m_Durability == Durability::PowerCut)
+        RemoveLeftoversIn(directory);
+    const std::string prefix =
+        directory + std::string(kTemporaryPrefix) + std::to_string(GetProcessNumber()) + "-";
     std::error_code error = std::make_error_code(std::errc::file_exists);
     for (int nTry = 0; nTry < 100 && error == std::errc::file_exists; ++nTry) {
         m_Temporary = prefix + std::to_string(++s_nCounter);
@@ -424,13 +427,11 @@ void COutputFile::Flush() {
     m_Pending.clear();
 }
 
-std::error_code COutputFile::Commit(bool bDurable) {
+std::error_code COutputFile::Commit() {
     if (!m_pFile)
         return m_Error ? m_Error : std::make_error_code(std::errc::bad_file_descriptor);
     Flush();
-    if (bDurable)
-        RemoveLeftoversIn(m_Target.substr(0, m_Target.rfind('/') + 1));
-    if (!m_Error && bDurable)
+    if (!m_Error && m_Durability == Durability::PowerCut)
         m_Error = m_pFile->Sync();
     if (const std::error_code closing = m_pFile->Close(); !m_Error)
         m_Error = closing;

@@ -35,8 +35,8 @@ bool DirectoryExists(const CString& path);
 // there is no such file; as it was given where nobody can tell.
 CString FileNameOnDisk(const CString& path);
 
-// The system's own path of what a path names, as the disk spells it; empty when there is nothing.
-std::string PathOnDisk(const CString& path);
+// The path in the spelling of the disk; as it was given where there is no such file.
+CString PathOnDisk(const CString& path);
 
 // The names of the files in a directory that match a pattern such as "*.gif", sorted. "*" stands for any
 // characters, "?" for one; case plays no part. Empty when the directory can't be read.
@@ -97,6 +97,11 @@ private:
 // of more than nMost bytes isn't read (file_too_large).
 std::error_code ReadWholeFile(const CString& path, std::string& content, std::uintmax_t nMost = UINTMAX_MAX);
 
+// What a written file outlives. Where it is a power cut, its bytes are on the disk before the old file goes, so that
+// one of the two is always there; and its writer first deletes what those left in the directory who were killed, which
+// is little beside waiting for the disk.
+enum class Durability { Usual, PowerCut };
+
 // A file that is replaced as a whole: what is written goes to a temporary file beside it, which takes its
 // name on Commit. Until then, and for ever if anything fails or the process dies, the old file stays as it
 // was. So the directory has to be writable too. The new file has the old one's permissions and, where the
@@ -104,23 +109,21 @@ std::error_code ReadWholeFile(const CString& path, std::string& content, std::ui
 // file (a device, a pipe) isn't written to: its reader could leave, and the process with it.
 class COutputFile {
 public:
-    // Deletes the temporary files that processes left in the directory when they were killed. A durable Commit does
-    // that by itself.
+    // Deletes the temporary files that processes left in the directory when they were killed.
     static void RemoveLeftovers(const CString& directory);
 
     COutputFile();
     ~COutputFile();
 
     // An error when a file can't be created there, or when the one that is there must not be written.
-    std::error_code Open(const CString& path, Spelling spelling = Spelling::AnyCase);
+    std::error_code Open(const CString& path, Spelling spelling = Spelling::AnyCase,
+                         Durability durability = Durability::PowerCut);
 
     // Appends. A failure is remembered for Commit.
     void Write(std::string_view bytes);
 
-    // Ends the writing; no error when every byte is in place under the file's name. With bDurable the bytes
-    // are on the disk before the old file goes, so that not even a power cut leaves less than one of the two; and what
-    // earlier writers left behind in the directory is deleted, which is little beside waiting for the disk.
-    std::error_code Commit(bool bDurable = true);
+    // Ends the writing; no error when every byte is in place under the file's name.
+    std::error_code Commit();
 
 private:
     std::error_code OpenTarget();
@@ -131,6 +134,7 @@ private:
 
     std::unique_ptr<CSystemFile> m_pFile;
     std::error_code m_Error; // the first one
+    Durability m_Durability = Durability::PowerCut;
     std::string m_Target;
     std::string m_Temporary;
     std::string m_Pending;
