@@ -88,7 +88,7 @@ public:
     void Text(const char*, CParameterField) override {}
 
 protected:
-    CStringArray::Index CountFor(CStringArray::Index) const override { return m_nItems; }
+    CStringArray::Index CountFor(const char*, CStringArray::Index) override { return m_nItems; }
     void DoItems(const char*, const CParameterColumn&) override {}
 
 private:

@@ -199,16 +199,13 @@ CString CInspector::RemarkOn(const CString& name) {
     const CNamedField* pField = FindField(fields, name);
     const CNamedField* pRead = FindField(readFields, name);
     for (size_t nValue = 0; nValue < pField->m_Values.size(); ++nValue) {
-        CString expected = *pField->m_Values[nValue];
-        if (pField->m_bFileName)
-            expected = FileNameOfPath(expected);
+        const CString& value = *pField->m_Values[nValue];
+        const CString expected = pField->m_bFileName ? FileNameOfPath(value) : value;
         if (nValue >= pRead->m_Values.size())
             return pField->m_Name + ": a file brings back only " + ToText(std::ssize(pRead->m_Values)) +
                    " items";
-        CString read = *pRead->m_Values[nValue];
-        read.Replace("<br>", "\r\n"); // what stands for a line break is one
-        expected.Replace("<br>", "\r\n");
-        if (read != expected)
+        // What stands for a line break is one.
+        if (WithoutLineBreaks(*pRead->m_Values[nValue]) != WithoutLineBreaks(expected))
             return pField->m_Name + ": a file brings it back as \"" + *pRead->m_Values[nValue] + "\"";
     }
     return {};

@@ -19,6 +19,14 @@ std::string_view TakeItem(std::string_view& left) {
     return item;
 }
 
+// Those that end in a comma, and one behind the last.
+CStringArray::Index CountItems(std::string_view list) {
+    CStringArray::Index nItems = 0;
+    for (; !list.empty(); ++nItems)
+        TakeItem(list);
+    return nItems;
+}
+
 CString Unmask(std::string_view item) {
     CString text(item);
     text.Replace(kCommaMask, ",");
@@ -38,15 +46,6 @@ void AppendItem(CString& value, const CString& item, bool bMasked, bool bFileNam
     }
 }
 
-// A line break within a value would end its line in the file.
-CString WithoutLineBreaks(CString value) {
-    if (value.View().find_first_of("\r\n") != std::string_view::npos) {
-        for (const char* pBreak : {"\r\n", "\r", "\n"})
-            value.Replace(pBreak, "<br>");
-    }
-    return value;
-}
-
 } // namespace
 
 CString CListItems::Next() {
@@ -63,7 +62,7 @@ CString GetListItem(const CString& text, int nIndex) {
 }
 
 void CParameterExchange::Items(const char* pKey, CParameterField list) {
-    FixedItems(pKey, list, CountFor(list.m_pList->GetSize()));
+    FixedItems(pKey, list, CountFor(pKey, list.m_pList->GetSize()));
 }
 
 void CParameterExchange::FixedItems(const char* pKey, CParameterField list, CStringArray::Index nItems) {
@@ -81,15 +80,25 @@ void CParameterReader::Fields(const char* pKey, std::initializer_list<CParameter
     CListItems items(value);
     for (const CParameterField& field : fields) {
         const CString item = items.Next();
-        if (field.m_pList)
-            m_nCount = std::clamp(ToInteger(item), 0, kMaxListItems);
-        else if (!item.IsEmpty())
+        if (field.m_pList) {
+            m_nPromised = std::max(ToInteger(item), 0);
+            m_nCount = std::min<CStringArray::Index>(m_nPromised, kMaxListItems);
+        } else if (!item.IsEmpty()) {
             *field.m_pText = FromStored(item, field.m_bFileName);
+        }
     }
 }
 
 void CParameterReader::Text(const char* pKey, CParameterField field) {
     *field.m_pText = m_Config.GetParameter(pKey, "");
+}
+
+CStringArray::Index CParameterReader::CountFor(const char* pKey, CStringArray::Index) {
+    if (m_nPromised > m_nCount) {
+        const CString value = m_Config.GetParameter(pKey, "");
+        m_nCount = std::clamp(CountItems(value), m_nCount, m_nPromised);
+    }
+    return m_nCount;
 }
 
 void CParameterReader::DoItems(const char* pKey, const CParameterColumn& column) {

@@ -36,7 +36,8 @@ private:
     std::string_view m_Left;
 };
 
-// The most items that a stored count is believed: a damaged file must not take the host's memory.
+// The most items that a stored count is believed where its values have fewer: a damaged file must not take the host's
+// memory.
 inline constexpr int kMaxListItems = 65535;
 
 // A field of an effect, with the name by which people and programs call it. The field has to outlive it.
@@ -101,7 +102,7 @@ public:
     template <class TRecord>
     void Column(const char* pKey, const char* pName, CArray<TRecord>& records, CString TRecord::*pMember,
                 bool bMasked = false) {
-        records.SetSize(CountFor(records.GetSize()));
+        records.SetSize(CountFor(pKey, records.GetSize()));
         CParameterColumn column{pName, {}, bMasked};
         column.m_Items.reserve(static_cast<size_t>(records.GetSize()));
         for (TRecord& record : records)
@@ -114,7 +115,7 @@ public:
 
 protected:
     // How many items a list of the given size is to have.
-    virtual CArray<CString>::Index CountFor(CArray<CString>::Index nSize) const { return nSize; }
+    virtual CArray<CString>::Index CountFor(const char*, CArray<CString>::Index nSize) { return nSize; }
     virtual void DoItems(const char* pKey, const CParameterColumn& column) = 0;
 };
 
@@ -127,7 +128,7 @@ public:
     void Text(const char* pKey, CParameterField field) override;
 
 protected:
-    CArray<CString>::Index CountFor(CArray<CString>::Index) const override { return m_nCount; }
+    CArray<CString>::Index CountFor(const char* pKey, CArray<CString>::Index nSize) override;
     void DoItems(const char* pKey, const CParameterColumn& column) override;
 
 private:
@@ -135,7 +136,8 @@ private:
 
     const CVignelConfig& m_Config;
     CString m_Directory;
-    int m_nCount = 0;
+    CArray<CString>::Index m_nPromised = 0; // by the count read last
+    CArray<CString>::Index m_nCount = 0;    // so many of these are believed; lists of one count are as long
 };
 
 // Puts fields into a store. The fields stay as they are.

@@ -18,9 +18,13 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-constexpr std::string_view kResourceNumber = "Resource Number";
-constexpr std::string_view kSegmentNumber = "Segment Number";
-constexpr std::string_view kSegmentPosition = "Segment Position";
+constexpr char kResourceNumber[] = "Resource Number";
+constexpr char kSegmentNumber[] = "Segment Number";
+constexpr char kSegmentPosition[] = "Segment Position";
+
+bool HasLineBreak(std::string_view text) {
+    return text.find_first_of(kLineEnd) != text.npos;
+}
 
 struct CKeyLine {
     std::string_view m_Key;
@@ -185,10 +189,17 @@ void WritePartEnd(COutputFile& file, const CPartMarkers& markers) {
     file.Write("\r\n\r\n");
 }
 
-void WriteKeyLine(COutputFile& file, std::string_view key, std::string_view value) {
-    file.Write(key);
+void WriteOnOneLine(COutputFile& file, const CString& text) {
+    if (HasLineBreak(text))
+        file.Write(WithoutLineBreaks(text));
+    else
+        file.Write(text);
+}
+
+void WriteKeyLine(COutputFile& file, const CString& key, const CString& value) {
+    WriteOnOneLine(file, key);
     file.Write(" = ");
-    file.Write(value);
+    WriteOnOneLine(file, value);
     file.Write(kLineEnd);
 }
 
@@ -210,10 +221,12 @@ void WriteResources(COutputFile& file, const CArray<VignelResource>& resources) 
     WriteKeyLine(file, kResourceNumber, ToText(nCount));
     for (int nIndex = 0; nIndex < nCount; ++nIndex) {
         const VignelResource& resource = resources[nIndex];
-        for (std::string_view piece :
-             {resource.m_Name.View(), std::string_view("="), resource.m_LocalPath.View(),
-              std::string_view("="), resource.m_WebPath.View(), kLineEnd})
-            file.Write(piece);
+        WriteOnOneLine(file, resource.m_Name);
+        file.Write("=");
+        WriteOnOneLine(file, resource.m_LocalPath);
+        file.Write("=");
+        WriteOnOneLine(file, resource.m_WebPath);
+        file.Write(kLineEnd);
     }
     WritePartEnd(file, kResourcePart);
 }
@@ -236,7 +249,7 @@ void WriteSegments(COutputFile& file, const CArray<VignelSegment>& segments) {
 double ToDouble(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n\v\f"), text.size()));
     if (text.starts_with('+'))
-        text.remove_prefix(1);
+        text.remove_prefix(text.starts_with("+-") ? text.size() : 1);
     double number = 0;
     if (text.find_first_of("0123456789.") <= (text.starts_with('-') ? 1u : 0u)) // not of "inf" or "nan"
         std::from_chars(text.data(), text.data() + text.size(), number);
@@ -256,6 +269,14 @@ const VignelResource& ResourceNamed(const CArray<VignelResource>& resources, con
 }
 
 } // namespace
+
+CString WithoutLineBreaks(CString text) {
+    if (HasLineBreak(text)) {
+        for (const char* pBreak : {"\r\n", "\r", "\n"})
+            text.Replace(pBreak, "<br>");
+    }
+    return text;
+}
 
 bool CVignelConfig::SetProperty(const char* pKey, const CString& text) {
     m_DescriptionMap[pKey] = text;

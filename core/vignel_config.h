@@ -47,6 +47,9 @@ struct CConfigForm {
     std::error_code m_Error;
 };
 
+// The text with "<br>" for its line breaks, CR LF, CR or LF: in a file each of them would end its line.
+CString WithoutLineBreaks(CString text);
+
 class CVignelConfig {
 public:
     // The properties of the Description Part. A getter creates a key that is absent, with an empty value, so
@@ -97,7 +100,8 @@ public:
     bool ReadFile(const CString& path, CConfigForm* pForm = nullptr);
 
     // Writes the store, replacing the file as a whole. On an error an old file is as it was. At most 65,535
-    // resources and segments fit the format; what lies behind them is not written.
+    // resources and segments fit the format; what lies behind them is not written. A line break in a key, a value or a
+    // resource stands in the file as "<br>".
     std::error_code WriteFile(const CString& path) const;
 
     CMapStringToString m_DescriptionMap;

@@ -193,6 +193,8 @@ void CheckCopies(const CEffectObject& object, const CString& directory, CReport&
 void Write(const CEffectObject& object, const CEditOptions& options, CReport& report) {
     const CString path = ComponentPath(options.m_File);
     const CString directory = DirectoryOfPath(path) + "\\";
+    if (const std::string problem = WhyNotInFile(ListFields(object)); !problem.empty())
+        return report.Error(options.m_File.string(), problem);
     // Who has worked in dialogs isn't sent away with nothing.
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
     if (HasLostFiles(object, options, report) && bByOptions)

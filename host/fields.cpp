@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <sstream>
 
 namespace orrelix {
 
@@ -66,6 +67,23 @@ std::vector<CNamedField> ListFields(const CEffectObject& effect) {
         fields.push_back(std::move(field));
     }
     return fields;
+}
+
+std::string WhyNotInFile(const std::vector<CNamedField>& fields) {
+    constexpr std::string_view kEnd = "===== Segment End =====";
+    for (const CNamedField& field : fields) {
+        for (const CString& value : field.m_Values) {
+            std::istringstream lines{std::string(value.View())};
+            for (std::string line; std::getline(lines, line);) {
+                if (EqualsNoCase(Trim(line), kEnd))
+                    return fmt::format(
+                        "{} has the line \"{}\", with which a file ends the effect's HTML; write "
+                        "it in another way",
+                        field.m_Name, kEnd);
+            }
+        }
+    }
+    return {};
 }
 
 std::string SetFields(const CEffectObject& effect, const CFieldValues& values,

@@ -19,6 +19,10 @@ struct CNamedField {
 // Every field of the effect with what it holds, in the order of its parameters.
 std::vector<CNamedField> ListFields(const CEffectObject& effect);
 
+// Why an effect of these fields can't be in a file; empty when it can. A file takes a line of a text for the end of the
+// effect's HTML.
+std::string WhyNotInFile(const std::vector<CNamedField>& fields);
+
 // Values by name, with "m_" or without: one for a field, as many as it is to have items for a list.
 using CFieldValues = std::map<std::string, std::vector<CString>>;
 

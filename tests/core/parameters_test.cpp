@@ -102,34 +102,31 @@ TEST(Parameters, LeaveFieldsAloneWhereItemsAreEmptyOrMissing) {
 }
 
 TEST(Parameters, BelieveACountUpToTheMostThatAListMayHold) {
-    const std::pair<const char*, int> cases[] = {
-        {"3", 3}, {"-3", 0}, {"x", 0}, {"", 0}, {"65535", 65535}, {"70000", 65535}, {"4294967295", 0}};
-    for (const auto& [pCount, nItems] : cases) {
+    const std::tuple<const char*, int, int> cases[] = {{"3", 1, 3},
+                                                       {"-3", 1, 0},
+                                                       {"x", 1, 0},
+                                                       {"", 1, 0},
+                                                       {"65535", 1, 65535},
+                                                       {"70000", 1, 65535},
+                                                       {"4294967295", 1, 0},
+                                                       {"70000", 69999, 69999},
+                                                       {"70000", 70001, 70000}};
+    for (const auto& [pCount, nThere, nItems] : cases) {
         CVignelConfig config;
         config.SetParameter("Para", CString("1,2,") + pCount);
-        config.SetParameter("Texts", "a,");
+        CString texts = "a,";
+        for (int nText = 1; nText < nThere; ++nText)
+            texts += "b,";
+        config.SetParameter("Texts", texts);
         CFields fields;
         fields.Read(config);
         EXPECT_EQ(fields.m_Texts.GetSize(), nItems) << pCount;
         EXPECT_EQ(fields.m_Sizes.GetSize(), nItems) << pCount;
         if (nItems > 1) {
             EXPECT_EQ(fields.m_Texts[0], "a");
-            EXPECT_EQ(fields.m_Texts[1], "");
+            EXPECT_EQ(fields.m_Texts[1], nThere > 1 ? "b" : "");
         }
     }
-}
-
-TEST(Parameters, HoldNoLineBreaks) {
-    CVignelConfig config;
-    CFields fields;
-    fields.m_Speed = "1\r\n2";
-    fields.m_Title = "a\rb\nc\r\n\r\n";
-    fields.m_Texts = {"x\ny"};
-    fields.Write(config);
-    EXPECT_EQ(config.GetParameter("Para", ""), "1<br>2,Arial,1");
-    EXPECT_EQ(config.GetParameter("Title", ""), "a<br>b<br>c<br><br>");
-    EXPECT_EQ(config.GetParameter("Texts", ""), "x<br>y,");
-    EXPECT_EQ(fields.m_Speed, "1\r\n2") << "the field stays";
 }
 
 } // namespace orrelix

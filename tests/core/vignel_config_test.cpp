@@ -96,6 +96,18 @@ TEST_F(VignelConfig, WritesWhatItHoldsAndReadsItBack) {
     EXPECT_EQ(again.GetLastUpdateTime(), 37622.75);
 }
 
+TEST_F(VignelConfig, WritesLineBreaksOfOneLineTextsAsTags) {
+    CVignelConfig config;
+    config.SetTitle("a\rb\nc\r\n\r\n");
+    config.SetParameter("Key", "\n1\r\n2\n\r");
+    config.AddResource({"a\nb", "\\c\r\\", "d\r\ne/"});
+    const std::string bytes =
+        FileOf("<D|Title = a<br>b<br>c<br><br>|D>||<P|Key = <br>1<br>2<br><br>|P>||"
+               "<R|Resource Number = 1|a<br>b=\\c<br>\\=d<br>e/|R>||<H|Segment Number = 0|H>||");
+    EXPECT_EQ(Written(config), bytes);
+    EXPECT_EQ(config.GetTitle(), "a\rb\nc\r\n\r\n") << "what it holds stays";
+}
+
 TEST_F(VignelConfig, AskingForAPropertyCreatesItAndForAParameterDoesNot) {
     CVignelConfig config;
     EXPECT_EQ(config.GetPreviewPath(), "");
@@ -114,9 +126,9 @@ TEST_F(VignelConfig, ReadsFilesAsTheSessionSays) {
 }
 
 TEST_F(VignelConfig, ReadsTheTimeFromTheNumberInFrontWhateverTheLocale) {
-    const std::pair<const char*, double> cases[] = {{" +15.5x", 15.5}, {"-2,5", -2.0}, {".5", 0.5},
-                                                    {"1e2", 100.0},    {"0x10", 0.0},  {"inf", 0.0},
-                                                    {"-nan", 0.0},     {"-", 0.0},     {"", 0.0}};
+    const std::pair<const char*, double> cases[] = {
+        {" +15.5x", 15.5}, {"-2,5", -2.0}, {".5", 0.5},   {"1e2", 100.0}, {"0x10", 0.0},
+        {"inf", 0.0},      {"+-5", 0.0},   {"-nan", 0.0}, {"-", 0.0},     {"", 0.0}};
     for (const auto& [pText, time] : cases) {
         CVignelConfig config;
         config.m_DescriptionMap["LastUpdateTime"] = pText;
