@@ -11,6 +11,10 @@
 #include "platform/array.h"
 #include "platform/string.h"
 
+#include <memory>
+#include <type_traits>
+#include <utility>
+
 namespace orrelix {
 
 // How generated text refers to script and image files. Hosts may give any other number: such text refers to
@@ -50,11 +54,28 @@ public:
     // Says of each field where it lives in the Parameter Part.
     virtual void ExchangeParameters(CParameterExchange&) {}
 
+    // A copy of the fields, and the taking over of a copy's, which can't fail.
+    virtual std::unique_ptr<CDhtmlGadget> Copy() const = 0;
+    virtual void Take(CDhtmlGadget& copy) noexcept = 0;
+
 protected:
     // What most gadgets' ReadParameters and WriteParameters are: all fields, as ExchangeParameters places
     // them. The directory, with a backslash at its end, goes in front of the names of user's files.
     bool ReadFields(const CVignelConfig& config, const CString& directory = {});
     void WriteFields(CVignelConfig& config);
+};
+
+// What a gadget's class is derived from.
+template <class TGadget>
+class CGadget : public CDhtmlGadget {
+public:
+    std::unique_ptr<CDhtmlGadget> Copy() const override {
+        return std::make_unique<TGadget>(static_cast<const TGadget&>(*this));
+    }
+    void Take(CDhtmlGadget& copy) noexcept override {
+        static_assert(std::is_nothrow_move_assignable_v<TGadget>);
+        static_cast<TGadget&>(*this) = std::move(static_cast<TGadget&>(copy));
+    }
 };
 
 inline bool RefersToScripts(short mode) {

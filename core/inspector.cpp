@@ -29,6 +29,9 @@ CString ValueOf(const CMapStringToString& map, const CString& key) {
     return pValue ? *pValue : CString();
 }
 
+// Of a file's name in a page's text, for each of which a server may need a copy.
+constexpr size_t kMostSpellings = 16;
+
 // Null for an index outside of the list.
 template <class TList>
 auto ItemAt(TList& list, int nIndex) {
@@ -139,11 +142,14 @@ CItems CInspector::GetFieldItems(const CString& name) {
 }
 
 CString CInspector::SetField(const CString& name, const CString& value) {
-    const std::vector<CNamedField> fields = ListFields(Gadget());
-    const CNamedField& field = FieldOf(fields, name, false);
-    *field.m_Values[0] = KeptValue(field, AsDialogStores(field, TypeOfField(fields, field).m_Kind, value));
-    UpdateBorder(fields, field);
-    return RemarkOn(name);
+    return m_Orrelix.ChangeEffect([&] {
+        const std::vector<CNamedField> fields = ListFields(Gadget());
+        const CNamedField& field = FieldOf(fields, name, false);
+        *field.m_Values[0] =
+            KeptValue(field, AsDialogStores(field, TypeOfField(fields, field).m_Kind, value));
+        UpdateBorder(fields, field);
+        return RemarkOn(name);
+    });
 }
 
 // How many items all lists get when one of them gets these.
@@ -156,14 +162,16 @@ CStringArray::Index CInspector::ItemsBeside(const std::vector<CNamedField>& fiel
 }
 
 CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
-    const std::vector<CNamedField> fields = ListFields(Gadget());
-    const CNamedField& field = FieldOf(fields, name, true);
-    const FieldKind kind = TypeOfField(fields, field).m_Kind;
-    CItems values; // all of them are good before one is set
-    for (CStringArray::Index nItem = 0; nItem < items.m_Items.GetSize(); ++nItem)
-        values.m_Items.Add(AsDialogStores(field, kind, items.m_Items[nItem]));
-    PutFieldItems(name, values);
-    return RemarkOn(name);
+    return m_Orrelix.ChangeEffect([&] {
+        const std::vector<CNamedField> fields = ListFields(Gadget());
+        const CNamedField& field = FieldOf(fields, name, true);
+        const FieldKind kind = TypeOfField(fields, field).m_Kind;
+        CItems values;
+        for (const CString& item : items.m_Items)
+            values.m_Items.Add(AsDialogStores(field, kind, item));
+        SetItems(name, values);
+        return RemarkOn(name);
+    });
 }
 
 void CInspector::PutField(const CString& name, const CString& value) {
@@ -173,6 +181,10 @@ void CInspector::PutField(const CString& name, const CString& value) {
 }
 
 void CInspector::PutFieldItems(const CString& name, const CItems& items) {
+    m_Orrelix.ChangeEffect([&] { SetItems(name, items); });
+}
+
+void CInspector::SetItems(const CString& name, const CItems& items) {
     std::vector<CNamedField> fields = ListFields(Gadget());
     ResizeLists(Gadget(), ItemsBeside(fields, FieldOf(fields, name, true), items));
     fields = ListFields(Gadget()); // their items have moved
@@ -290,7 +302,14 @@ CString CInspector::GetError() {
 }
 
 int CInspector::GetPageFileNumber() {
-    m_PageFiles = FindPageFiles(m_Orrelix);
+    CPageFiles found = FindPageFiles(m_Orrelix);
+    for (const CPageFile& file : found.m_Files) {
+        if (file.m_Names.size() > kMostSpellings)
+            throw CRefusal("the effect spells the name of the file " + std::string(file.m_Names[0].View()) +
+                           " in " + std::to_string(file.m_Names.size()) +
+                           " ways, and its page would need a copy for each; spell it in one");
+    }
+    m_PageFiles = std::move(found);
     return static_cast<int>(m_PageFiles.m_Files.size());
 }
 

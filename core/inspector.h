@@ -70,7 +70,7 @@ public:
 
     // The files that the effect's page needs, as they were when GetPageFileNumber looked for them: where each lies; its directory
     // as the page's text has it, empty or ending in "/"; its name and the other spellings of it in the text, because a
-    // web server may tell case apart.
+    // web server may tell case apart. An effect with very many spellings of one name is refused.
     int GetPageFileNumber();
     CPath GetPageFileSource(int nIndex);
     CString GetPageFileWebPath(int nIndex);
@@ -106,6 +106,7 @@ private:
     CDhtmlGadget& Gadget() { return *m_Orrelix.m_pGadget; }
     const CConfigForm& Form() const { return m_Orrelix.m_Form; }
     CFieldType FieldTypeOf(const CString& field);
+    void SetItems(const CString& field, const CItems& items);
     CString RemarkOn(const CString& field);
     CStringArray::Index ItemsBeside(const std::vector<CNamedField>& fields, const CNamedField& field,
                                     const CItems& items) const;

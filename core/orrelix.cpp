@@ -4,16 +4,6 @@ namespace orrelix {
 
 namespace {
 
-// Nothing that is thrown, for want of memory or by a desktop, reaches the host.
-template <class TAct>
-bool SucceedsIn(TAct act) noexcept {
-    try {
-        return act();
-    } catch (...) {
-        return false;
-    }
-}
-
 template <class TDialog, class TGadget>
 int RunDialog(TGadget& gadget) {
     TDialog dialog;
@@ -39,12 +29,15 @@ const CEffectParts* FindParts(const CString& type) {
 
 } // namespace
 
-CVignelConfig& COrrelix::Registered() {
-    if (!m_bResourcesRegistered) {
-        m_pGadget->RegisterResources(m_Config);
-        m_bResourcesRegistered = true;
+// What is told of a call that doesn't come to the end of its act.
+template <class TAct>
+bool COrrelix::SucceedsIn(TAct act) noexcept {
+    m_Error = std::make_error_code(std::errc::not_enough_memory);
+    try {
+        return act();
+    } catch (...) { // for want of memory or by a desktop; nothing of it reaches the host
+        return false;
     }
-    return m_Config;
 }
 
 bool COrrelix::ReadConfigFile(const CPath& path) {
@@ -52,7 +45,6 @@ bool COrrelix::ReadConfigFile(const CPath& path) {
 }
 
 bool COrrelix::Config() {
-    m_Error = std::make_error_code(std::errc::not_enough_memory); // unless they come to their end
     return SucceedsIn([&] {
         const bool bOk = RunDialogs();
         m_Error = {};
@@ -61,20 +53,32 @@ bool COrrelix::Config() {
 }
 
 bool COrrelix::WriteConfigFileEx(const CPath& path, short force) {
-    m_Error = std::make_error_code(std::errc::not_enough_memory); // unless writing tells another
-    return SucceedsIn([&] { return Write(path, force); });
+    return SucceedsIn([&] {
+        Compose(DirectoryOfPath(path) + "\\", force);
+        m_Error = m_Config.WriteFile(path);
+        return !m_Error;
+    });
 }
 
+// Reads into copies, which are taken over when nothing can fail any more.
 bool COrrelix::Read(const CString& path) {
-    m_Form = {};
-    const bool bRead = m_Config.ReadFile(path, m_bKeepForm ? &m_Form : nullptr);
-    m_Error = m_Form.m_Error;
-    if (!bRead)
+    CVignelConfig config = m_Config;
+    CConfigForm form;
+    if (!config.ReadFile(path, m_bKeepForm ? &form : nullptr)) {
+        m_Error = form.m_Error;
         return false;
-    if (m_Config.GetProgID() != kProgID)
-        return true;
-    SelectType(GetListItem(m_Config.GetParameter("DhtmlType", ""), 0));
-    m_pGadget->ReadParameters(m_Config, DirectoryOfPath(path) + "\\");
+    }
+    if (config.GetProgID() == kProgID) {
+        CString type = GetListItem(config.GetParameter("DhtmlType", ""), 0);
+        CDhtmlGadget& gadget = GadgetOf(type);
+        const auto pRead = gadget.Copy();
+        pRead->ReadParameters(config, DirectoryOfPath(path) + "\\");
+        gadget.Take(*pRead);
+        SelectType(std::move(type));
+    }
+    m_Error = form.m_Error;
+    m_Config = std::move(config);
+    m_Form = std::move(form);
     return true;
 }
 
@@ -86,7 +90,7 @@ bool COrrelix::RunDialogs() {
             return false;
         m_Type = TypeOf(kEffects[m_SelectDlg.m_nSelected]);
     }
-    SelectType(CString(m_Type));
+    SelectType(m_Type);
     // A type that is none of ours has nothing to ask.
     const CEffectParts* pParts = FindParts(m_Type);
     if (pParts && pParts->m_pRunDialog(*this) == IDCANCEL)
@@ -95,30 +99,40 @@ bool COrrelix::RunDialogs() {
     return true;
 }
 
-void COrrelix::SelectType(const CString& type) {
-    m_Type = type;
-    if (m_Type == "0")
-        m_pGadget = &m_NoSelect;
-    else if (const CEffectParts* pParts = FindParts(m_Type))
-        m_pGadget = &pParts->m_pGadget(*this);
+CDhtmlGadget& COrrelix::GadgetOf(const CString& type) {
+    if (type == "0")
+        return m_NoSelect;
+    const CEffectParts* pParts = FindParts(type);
+    return pParts ? pParts->m_pGadget(*this) : *m_pGadget;
 }
 
-bool COrrelix::Write(const CString& path, short force) {
-    m_Config.ClearParameters();
-    m_Config.ClearResources();
-    m_Config.ClearSegments();
-    m_Config.SetProgID(kProgID);
-    // May change the gadget's image paths, which the next steps store.
-    m_pGadget->CopyResources(DirectoryOfPath(path) + "\\", force);
-    m_Config.SetParameter("DhtmlType", m_Type);
-    m_pGadget->WriteParameters(m_Config);
-    m_pGadget->RegisterResources(m_Config);
-    if (m_pGadget->GetHTMLSegmentNumber() == 2)
-        m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
-    m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
+void COrrelix::SelectType(CString type) {
+    m_pGadget = &GadgetOf(type);
+    m_Type = std::move(type);
+}
+
+// Everything that a file is to hold, into a store of which the description stays; nothing of it where that fails.
+void COrrelix::Compose(const CString& directory, short force) {
+    CVignelConfig before;
+    before.m_DescriptionMap = m_Config.m_DescriptionMap;
+    std::swap(before, m_Config);
+    try {
+        ChangeEffect([&] {
+            m_Config.SetProgID(kProgID);
+            // May change the gadget's image paths, which the next steps store.
+            m_pGadget->CopyResources(directory, force);
+            m_Config.SetParameter("DhtmlType", m_Type);
+            m_pGadget->WriteParameters(m_Config);
+            m_pGadget->RegisterResources(m_Config);
+            if (m_pGadget->GetHTMLSegmentNumber() == 2)
+                m_Config.AddSegment({GetHTMLPosition(1), GetHTMLBody(1, kPreview)});
+            m_Config.AddSegment({GetHTMLPosition(0), GetHTMLBody(0, kPreview)});
+        });
+    } catch (...) {
+        m_Config = std::move(before);
+        throw;
+    }
     m_bResourcesRegistered = true;
-    m_Error = m_Config.WriteFile(path);
-    return !m_Error;
 }
 
 } // namespace orrelix

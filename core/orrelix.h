@@ -58,8 +58,8 @@ public:
     double GetLastUpdateTime() { return m_Config.GetLastUpdateTime(); }
     void SetLastUpdateTime(double time) { m_Config.SetLastUpdateTime(time); }
 
-    // Reads a file and brings its gadget back. False, and nothing changes, when it can't be opened. A file of
-    // another component is read into the store, and the gadget stays.
+    // Reads a file and brings its gadget back. False, and nothing changes, when it can't be opened or memory runs out.
+    // A file of another component is read into the store, and the gadget stays.
     bool ReadConfigFile(const CPath& path);
 
     // WriteConfigFileEx without force.
@@ -104,21 +104,50 @@ public:
     bool SetResourceLocalPath(const CString& path) { return Registered().SetResourceLocalPath(path); }
 
     // Copies the gadget's files into the directory of `path` and writes the file there. With `force` not 0
-    // nobody is asked about names that are taken. False when the file can't be written; the copies have been
-    // made by then.
+    // nobody is asked about names that are taken. False when the file can't be written: the copies have been made by
+    // then, and the object is as if it were. Where memory runs out the object is as it was.
     bool WriteConfigFileEx(const CPath& path, short force);
 
     // The form of the file read last, kept for those who look into files.
     bool m_bKeepForm = false;
     CConfigForm m_Form;
 
-    // Why the last writing of a file failed, or the last reading whose form was kept, or the last dialogs for another
-    // reason than the user's Cancel.
+    // Why the last of these calls failed: writing a file, reading one whose form is kept, or the dialogs, which have
+    // another reason than the user's Cancel.
     std::error_code m_Error;
 
     // Selects an effect by its type, "1" to "9", as the first dialog of Config does: for hosts without a
     // screen. Another type is kept, and the gadget stays.
-    void SelectType(const CString& type);
+    void SelectType(CString type);
+
+    // Gives what act() does, which may change the current effect. If it throws, the effect is as it was.
+    template <class TAct>
+    auto ChangeEffect(TAct act) {
+        CDhtmlGadget& gadget = *m_pGadget;
+        const auto pBefore = gadget.Copy();
+        try {
+            return act();
+        } catch (...) {
+            gadget.Take(*pBefore);
+            throw;
+        }
+    }
+
+    // Gives what use(resources) makes of the files that the page needs, which the effect has registered then. If it
+    // throws, nothing has been registered.
+    template <class TUse>
+    auto WithResources(TUse use) {
+        if (m_bResourcesRegistered)
+            return use(m_Config.m_Resources);
+        return ChangeEffect([&] {
+            CVignelConfig registered;
+            m_pGadget->RegisterResources(registered);
+            auto result = use(registered.m_Resources);
+            m_Config.m_Resources = std::move(registered.m_Resources);
+            m_bResourcesRegistered = true;
+            return result;
+        });
+    }
 
     CVignelConfig m_Config;
     CDhtmlGadget* m_pGadget = &m_NoSelect; // the current one
@@ -131,10 +160,16 @@ public:
 #undef EFFECT
 
 private:
+    template <class TAct>
+    bool SucceedsIn(TAct act) noexcept;
     bool Read(const CString& path);
-    bool Write(const CString& path, short force);
+    void Compose(const CString& directory, short force);
+    CDhtmlGadget& GadgetOf(const CString& type);
     bool RunDialogs();
-    CVignelConfig& Registered();
+    CVignelConfig& Registered() {
+        WithResources([](const auto&) { return true; });
+        return m_Config;
+    }
 };
 
 } // namespace orrelix

@@ -279,7 +279,7 @@ CString WithoutLineBreaks(CString text) {
 }
 
 bool CVignelConfig::SetProperty(const char* pKey, const CString& text) {
-    m_DescriptionMap[pKey] = text;
+    m_DescriptionMap.SetAt(pKey, text);
     return true;
 }
 
@@ -299,7 +299,7 @@ CString CVignelConfig::GetParameter(const CString& key, const CString& defaultVa
 }
 
 bool CVignelConfig::SetParameter(const CString& key, CString value) {
-    m_ParameterMap[key] = std::move(value);
+    m_ParameterMap.SetAt(key, std::move(value));
     return true;
 }
 
@@ -339,8 +339,10 @@ CString CVignelConfig::GetResourceWebPathByName(const CString& name) const {
 }
 
 bool CVignelConfig::SetResourceLocalPath(const CString& path) {
-    for (VignelResource& resource : m_Resources)
+    CArray<VignelResource> resources = m_Resources;
+    for (VignelResource& resource : resources)
         resource.m_LocalPath = path;
+    m_Resources = std::move(resources);
     return true;
 }
 

@@ -7,7 +7,7 @@
 
 namespace orrelix {
 
-class CAnimateText : public CDhtmlGadget {
+class CAnimateText : public CGadget<CAnimateText> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

@@ -6,7 +6,7 @@
 
 namespace orrelix {
 
-class CCalander : public CDhtmlGadget {
+class CCalander : public CGadget<CCalander> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

@@ -8,7 +8,7 @@
 
 namespace orrelix {
 
-class CCoolLink : public CDhtmlGadget {
+class CCoolLink : public CGadget<CCoolLink> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

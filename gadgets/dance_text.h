@@ -6,7 +6,7 @@
 
 namespace orrelix {
 
-class CDanceText : public CDhtmlGadget {
+class CDanceText : public CGadget<CDanceText> {
 public:
     // The same for every mode and position. The store's title is part of all names in the script and has to
     // be fit for that.

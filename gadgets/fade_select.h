@@ -19,7 +19,7 @@ struct CFadeSelectFont {
     friend bool operator==(const CFadeSelectFont&, const CFadeSelectFont&) = default;
 };
 
-class CFadeSelect : public CDhtmlGadget {
+class CFadeSelect : public CGadget<CFadeSelect> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

@@ -5,7 +5,7 @@
 
 namespace orrelix {
 
-class CNoSelect : public CDhtmlGadget {
+class CNoSelect : public CGadget<CNoSelect> {
 public:
     CString GetHTMLBody(CVignelConfig&, short, short) override { return "Not Select DHTML Script\r\n"; }
     void CopyResources(const CString&, short) override {}

@@ -7,7 +7,7 @@
 
 namespace orrelix {
 
-class CScrollText : public CDhtmlGadget {
+class CScrollText : public CGadget<CScrollText> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

@@ -6,7 +6,7 @@
 
 namespace orrelix {
 
-class CTextShow : public CDhtmlGadget {
+class CTextShow : public CGadget<CTextShow> {
 public:
     // The same for every mode and position.
     CString GetHTMLBody(CVignelConfig&, short, short) override;

@@ -18,7 +18,7 @@ struct CTodayCaStyle {
     CString m_FontWeight = "normal";
 };
 
-class CTodayCa : public CDhtmlGadget {
+class CTodayCa : public CGadget<CTodayCa> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

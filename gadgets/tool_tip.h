@@ -8,7 +8,7 @@
 
 namespace orrelix {
 
-class CToolTip : public CDhtmlGadget {
+class CToolTip : public CGadget<CToolTip> {
 public:
     CString GetHTMLBody(CVignelConfig& config, short mode, short position) override;
     void CopyResources(const CString& directory, short force) override;

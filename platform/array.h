@@ -23,6 +23,9 @@ public:
     // Grows with empty items or drops the last ones.
     void SetSize(Index nSize) { m_Items.resize(static_cast<size_t>(nSize)); }
 
+    // Makes room for so many, so that growing up to them can't fail.
+    void Reserve(Index nSize) { m_Items.reserve(static_cast<size_t>(nSize)); }
+
     // Appends at the end; the result is the item's index.
     Index Add(TItem item) {
         m_Items.push_back(std::move(item));
@@ -48,9 +51,10 @@ private:
 
 using CStringArray = CArray<CString>;
 
-// Gives lists that are shorter than nSize empty items up to it.
+// Gives lists that are shorter than nSize empty items up to it, all of them or none.
 template <class... TItem>
 void GrowTo(std::ptrdiff_t nSize, CArray<TItem>&... lists) {
+    (lists.Reserve(nSize), ...);
     ((lists.GetSize() < nSize ? lists.SetSize(nSize) : void()), ...);
 }
 
