@@ -14,6 +14,7 @@
 #include "platform/automation.h"
 #include "platform/paths.h"
 
+#include <cerrno>
 #include <new>
 #include <span>
 #include <stdexcept>
@@ -34,9 +35,14 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// What act() gives, or the code for what it throws.
+// What act() gives, or the code for what it throws. The caller's errno stays: a call that has succeeded may have met
+// errors of the system, such as of a file that isn't there yet.
 template <class TAct>
 HRESULT CodeOf(TAct act) noexcept {
+    struct CKeep {
+        ~CKeep() { errno = m_nError; }
+        const int m_nError = errno;
+    } keep;
     try {
         return act();
     } catch (const std::bad_alloc&) {

@@ -2,6 +2,7 @@
 
 #include "platform/wide_text.h"
 
+#include <cerrno>
 #include <deque>
 #include <sstream>
 #include <vector>
@@ -195,10 +196,14 @@ std::string CLateCaller::Answer(const std::string& question) const {
     VARIANT result{};
     EXCEPINFO exception{};
     UINT nWrong = 99;
+    errno = 0;
     if (!FAILED(code))
         code = pObject->Invoke(nMember, IID_NULL, 0, flags, &arguments, &result, &exception, &nWrong);
+    const int nErrno = errno;
     pObject->Release();
     std::string answer = FAILED(code) ? NameOf(code) : Shown(result);
+    if (nErrno != 0)
+        answer += ", errno " + std::to_string(nErrno);
     if (nWrong != 99)
         answer += ", argument " + std::to_string(nWrong);
     if (exception.bstrDescription)
