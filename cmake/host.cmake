@@ -32,5 +32,5 @@ target_include_directories(orrelix_program PRIVATE ${PROJECT_SOURCE_DIR})
 target_link_libraries(orrelix_program PRIVATE orrelix_options CLI11::CLI11 fmt::fmt-header-only
     nlohmann_json::nlohmann_json ${CMAKE_DL_LIBS})
 target_compile_definitions(orrelix_program PRIVATE ORRELIX_VERSION="${PROJECT_VERSION}"
-    ORRELIX_LIBRARY_DIR="${ORRELIX_LIBRARY_DIR}")
+    ORRELIX_LIBRARY_DIR="${ORRELIX_LIBRARY_DIR}" ORRELIX_LIBRARY_VERSION="${PROJECT_VERSION_MAJOR}")
 add_dependencies(orrelix_program orrelix)

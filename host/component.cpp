@@ -14,7 +14,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char kLibraryName[] = "libVignelOrrelix.so";
+// The second name is all that a package has which isn't for developers.
+constexpr const char* kLibraryNames[] = {"libVignelOrrelix.so",
+                                         "libVignelOrrelix.so." ORRELIX_LIBRARY_VERSION};
 
 vignel::Library LoadComponent() {
     char registered[VIGNEL_PATH_SIZE];
@@ -33,10 +35,12 @@ vignel::Library LoadComponent() {
 fs::path FindComponentBesideProgram() {
     const fs::path program = SystemSpelling(GetModuleFile());
     for (const char* pFolder : {"../lib", "../" ORRELIX_LIBRARY_DIR}) {
-        const fs::path library = program.parent_path() / pFolder / kLibraryName;
-        std::error_code unknown;
-        if (fs::exists(library, unknown))
-            return fs::canonical(library.parent_path(), unknown) / kLibraryName;
+        for (const char* pName : kLibraryNames) {
+            const fs::path library = program.parent_path() / pFolder / pName;
+            std::error_code unknown;
+            if (fs::exists(library, unknown))
+                return fs::canonical(library.parent_path(), unknown) / pName;
+        }
     }
     return {};
 }
