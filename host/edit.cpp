@@ -241,7 +241,8 @@ std::optional<std::string> ContentOf(const fs::path& file) {
 
 // Whether the name is taken, in whatever case and by whatever.
 bool IsThere(const fs::path& file) {
-    return FileExists(ComponentPath(file)) || fs::exists(file);
+    std::error_code unknown;
+    return FileExists(ComponentPath(file)) || fs::exists(file, unknown);
 }
 
 fs::path FreeNameBeside(const fs::path& file) {
@@ -270,8 +271,9 @@ void WriteAfterDialogs(const CEffectObject& object, CEditOptions options,
     }
     if (!problem.empty()) {
         options.m_File = FreeNameBeside(file);
-        report.Error(file.string(), fmt::format("{}; it is left as it is, and what you have made is in {}",
-                                                problem, options.m_File.string()));
+        report.Error(file.string(),
+                     fmt::format("{}; it is left as it is, and what you have made goes into {}", problem,
+                                 options.m_File.string()));
     }
     Write(object, options, report);
 }

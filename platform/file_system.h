@@ -59,7 +59,7 @@ public:
 
     virtual void Remove(const std::string& path) = 0;
 
-    // Removes a file that a process created, unless that process still lives.
+    // Removes a file that a process created, unless somebody has it open to write or that process may still live.
     virtual void RemoveAbandoned(const std::string& path, int nProcess) = 0;
 
 protected:

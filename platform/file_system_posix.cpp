@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <new>
@@ -147,12 +148,15 @@ public:
     void Remove(const std::string& path) override { unlink(path.c_str()); }
 
     void RemoveAbandoned(const std::string& path, int nProcess) override {
-        if (kill(nProcess, 0) == 0 || errno != ESRCH)
-            return;
-        // The number may be that of a process on another machine, or in a container: the lock tells.
+        const bool bLives = kill(nProcess, 0) == 0 || errno != ESRCH;
+        // The number may be that of a process on another machine or in a container, or of another one by now: the
+        // lock tells, which a file has from the moment after its creation.
+        constexpr time_t kMoment = 60;
+        struct stat status {};
         CSystemFilePtr pFile;
         const int nFile = Open(path, O_RDONLY | O_NONBLOCK, 0, pFile);
-        if (nFile >= 0 && flock(nFile, LOCK_EX | LOCK_NB) == 0)
+        if (nFile >= 0 && flock(nFile, LOCK_EX | LOCK_NB) == 0 && fstat(nFile, &status) == 0 &&
+            (!bLives || status.st_mtime < time(nullptr) - kMoment))
             unlink(path.c_str());
     }
 };

@@ -213,9 +213,14 @@ TEST(Files, OnlyWhatADeadWriterLeftIsRemoved) {
                                 ".orrelix-" + std::to_string(getpid()) + "-1"};
     for (const std::string& name : kept)
         directory.Write(name, "");
-    directory.Write(leftover, "");
+    // A number of a process that lives now, but not when the file was written.
+    const std::string older = ".orrelix-1-1";
+    for (const std::string& name : {leftover, older})
+        directory.Write(name, "");
+    fs::last_write_time(directory.File(older), fs::file_time_type::clock::now() - std::chrono::hours(1));
     COutputFile::RemoveLeftovers(directory.Path());
-    EXPECT_FALSE(fs::exists(directory.File(leftover)));
+    for (const std::string& name : {leftover, older})
+        EXPECT_FALSE(fs::exists(directory.File(name))) << name;
     for (const std::string& name : kept)
         EXPECT_TRUE(fs::exists(directory.File(name))) << name;
 }
