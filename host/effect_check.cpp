@@ -120,7 +120,7 @@ struct CAuthorText {
 class CEffectCheck {
 public:
     CEffectCheck(const CEffectObject& object, const std::string& subject, CReport& report)
-        : m_Name(subject), m_Report(report), m_Object(object) {
+        : m_Name(subject), m_Report(report), m_Object(object), m_Syntax(Engine()) {
         const CString title = m_Object.GetTitle();
         m_Texts.push_back({"", 0, false, title, TitleFrom(title.View())});
         for (const CNamedField& field : ListFields(m_Object)) {
@@ -131,6 +131,9 @@ public:
         std::stable_sort(
             m_Texts.begin(), m_Texts.end(),
             [](const CAuthorText& left, const CAuthorText& right) { return left.m_nItem < right.m_nItem; });
+        m_Put.reserve(m_Texts.size());
+        for (const CAuthorText& text : m_Texts)
+            m_Put.push_back(text.m_Text);
     }
 
     void Run() {
@@ -142,6 +145,12 @@ public:
     }
 
 private:
+    // Of a run over many files, making engines would take most of the time.
+    static CScriptSyntax& Engine() {
+        static CScriptSyntax engine;
+        return engine;
+    }
+
     struct CRows {
         size_t m_nBegin;
         size_t m_nEnd;
@@ -163,6 +172,13 @@ private:
         return {nFirst, std::max(m_Texts[nEnd - 1].m_nItem, nFirst) + 1};
     }
 
+    void Put(size_t nText, const CString& text) {
+        if (m_Put[nText] == text)
+            return;
+        m_Object.Ask("PutField", m_Texts[nText].m_Field, std::string(text.View()));
+        m_Put[nText] = text;
+    }
+
     // The effect of the texts that textOf(index) gives.
     template <class TTextOf>
     std::vector<CHtmlElement> Generate(const CRows& rows, TTextOf textOf) {
@@ -171,7 +187,7 @@ private:
         for (size_t i = 1; i < m_Texts.size(); ++i) {
             const size_t nItem = m_Texts[i].m_nItem;
             if (nItem == 0)
-                m_Object.Ask("PutField", m_Texts[i].m_Field, std::string(textOf(i).View()));
+                Put(i, textOf(i));
             else if (nItem >= rows.m_nBegin && nItem < rows.m_nEnd)
                 lists[m_Texts[i].m_Field].emplace_back(textOf(i).View());
         }
@@ -329,8 +345,9 @@ private:
     const std::string m_Name;
     CReport& m_Report;
     const CEffectObject& m_Object;
-    CScriptSyntax m_Syntax;
+    CScriptSyntax& m_Syntax;
     std::vector<CAuthorText> m_Texts; // the title, the other texts, the lists row by row
+    std::vector<CString> m_Put;       // what the object has of them by now, but for the lists
     int m_nWarnings = 0;
 };
 

@@ -25,6 +25,20 @@ std::string WhyNoField(const std::vector<CNamedField>& fields, const std::string
                        DidYouMean(name, names, "--list-fields shows those that it has"));
 }
 
+// The fields without what they hold. They are the same whenever the effect is, and asked for once.
+const std::vector<CNamedField>& EmptyFields(const CEffectObject& effect) {
+    static std::map<CString, std::vector<CNamedField>> s_ByEffect;
+    const auto [known, bNew] = s_ByEffect.try_emplace(effect.GetEffect());
+    if (bNew) {
+        for (const std::string& name : effect.Ask<vignel::Items>("GetFieldNames"))
+            known->second.push_back({name,
+                                     effect.Ask<std::string>("GetFieldKind", name),
+                                     effect.Ask<bool>("IsFieldList", name),
+                                     {}});
+    }
+    return known->second;
+}
+
 // What is given to one field.
 struct CSetting {
     const CNamedField* m_pField;
@@ -54,17 +68,14 @@ std::string Set(const CEffectObject& effect, const CSetting& setting, std::vecto
 } // namespace
 
 std::vector<CNamedField> ListFields(const CEffectObject& effect) {
-    std::vector<CNamedField> fields;
-    for (const std::string& name : effect.Ask<vignel::Items>("GetFieldNames")) {
-        CNamedField field{
-            name, effect.Ask<std::string>("GetFieldKind", name), effect.Ask<bool>("IsFieldList", name), {}};
+    std::vector<CNamedField> fields = EmptyFields(effect);
+    for (CNamedField& field : fields) {
         if (field.m_bList) {
-            for (const std::string& item : effect.Ask<vignel::Items>("GetFieldItems", name))
+            for (const std::string& item : effect.Ask<vignel::Items>("GetFieldItems", field.m_Name))
                 field.m_Values.emplace_back(item);
         } else {
-            field.m_Values.emplace_back(effect.Ask<std::string>("GetField", name));
+            field.m_Values.emplace_back(effect.Ask<std::string>("GetField", field.m_Name));
         }
-        fields.push_back(std::move(field));
     }
     return fields;
 }

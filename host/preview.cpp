@@ -31,7 +31,7 @@ public:
             Try(file, [&] { AddPage(file); });
         if (m_Options.m_bIndex)
             Try(m_Out / kIndexName,
-                [&] { m_Files.AddPage(m_Out / kIndexName, IndexPage(m_Pages), "all effects"); });
+                [&] { m_Files.AddPage(m_Out / kIndexName, IndexPage(m_Cards), "all effects"); });
         if (Claim() || m_Options.m_bOverwrite || !m_Files.HasObstacles())
             m_Files.Write();
     }
@@ -68,13 +68,12 @@ private:
             throw CFileError(file, "would have its page where the index belongs; rename the file");
         const CEffectObject object;
         OpenEffect(file, object);
-        const CGeneratedEffect effect = GenerateEffect(object, kPreview);
-        CPreviewPage preview{name, file.string(), effect};
+        const CPreviewPage preview{name, file.string(), GenerateEffect(object, kPreview)};
         m_Files.AddPage(page, EffectPage(preview), preview.m_Source);
-        m_Files.AddFiles(effect, file, m_Out, page, [](std::string_view) { return false; });
+        m_Files.AddFiles(preview.m_Effect, file, m_Out, page, [](std::string_view) { return false; });
         WarnOfInvalidText(preview);
         WarnOfHarmfulTexts(object, file.string(), m_Report);
-        m_Pages.push_back(std::move(preview));
+        m_Cards.push_back(IndexCard(preview));
     }
 
     void WarnOfInvalidText(const CPreviewPage& page) {
@@ -90,7 +89,7 @@ private:
     const fs::path m_Out;
     const CSite m_Site;
     CPlannedFiles m_Files;
-    std::vector<CPreviewPage> m_Pages;
+    std::vector<std::string> m_Cards; // of the index
 };
 
 } // namespace

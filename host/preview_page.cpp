@@ -219,22 +219,6 @@ std::string InKnownCharset(TMake make) {
     return charset.empty() ? ToUtf8(make("utf-8")).m_Text : make(charset);
 }
 
-std::string Card(const CPreviewPage& page) {
-    const std::string heading = HeadingOf(page);
-    const std::string address = AddressOf(page.m_Name);
-    return Fill(R"(
-<article>
-<div class="picture"><iframe src="{}#effect" title="{}" loading="lazy"></iframe></div>
-<div class="about">
-<h2>{}</h2>
-<p>{}</p>
-<a href="{}">Open {}</a>
-</div>
-</article>
-)",
-                address, heading, heading, Escaped(page.m_Effect.m_Description), address, address);
-}
-
 } // namespace
 
 std::string EffectPage(const CPreviewPage& page) {
@@ -255,11 +239,24 @@ std::string EffectPage(const CPreviewPage& page) {
     });
 }
 
-std::string IndexPage(const std::vector<CPreviewPage>& pages) {
+std::string IndexCard(const CPreviewPage& page) {
+    const std::string heading = HeadingOf(page);
+    const std::string address = AddressOf(page.m_Name);
+    return Fill(R"(
+<article>
+<div class="picture"><iframe src="{}#effect" title="{}" loading="lazy"></iframe></div>
+<div class="about">
+<h2>{}</h2>
+<p>{}</p>
+<a href="{}">Open {}</a>
+</div>
+</article>
+)",
+                address, heading, heading, Escaped(page.m_Effect.m_Description), address, address);
+}
+
+std::string IndexPage(const std::vector<std::string>& cards) {
     return InKnownCharset([&](const std::string& label) {
-        std::string cards;
-        for (const CPreviewPage& page : pages)
-            cards += Card(page);
         const std::string body = Fill(R"(
 <header class="orrelix-header">
 <h1>Effects</h1>
@@ -268,7 +265,7 @@ std::string IndexPage(const std::vector<CPreviewPage>& pages) {
 <main>
 {}</main>
 )",
-                                      Counted(pages.size(), "effect"), cards);
+                                      Counted(cards.size(), "effect"), fmt::join(cards, ""));
         return Page("", label, "Effects", kIndexStyle, "", body);
     });
 }

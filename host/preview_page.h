@@ -17,7 +17,10 @@ struct CPreviewPage {
 // A page that shows one effect, in the code page, or in UTF-8 where browsers don't know the code page.
 std::string EffectPage(const CPreviewPage& page);
 
+// What the index shows of one, in the code page.
+std::string IndexCard(const CPreviewPage& page);
+
 // A page that shows all of them, live.
-std::string IndexPage(const std::vector<CPreviewPage>& pages);
+std::string IndexPage(const std::vector<std::string>& cards);
 
 } // namespace orrelix
