@@ -7,6 +7,7 @@
 #include "resources/choices.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 
 namespace orrelix {
@@ -60,8 +61,13 @@ constexpr CNameEnding kEndings[] = {
     {"m_Border", FieldKind::Number, {}, kMostOfArrows},
 };
 
+bool IsNameOf(std::string_view field, std::string_view name) {
+    return field == name || field.substr(2) == name;
+}
+
 class CFieldLister : public CParameterExchange {
 public:
+    explicit CFieldLister(std::optional<std::string_view> only = {}) : m_Only(only) {}
     void Fields(const char*, std::initializer_list<CParameterField> fields) override {
         for (const CParameterField& field : fields) {
             if (field.m_pText)
@@ -69,7 +75,8 @@ public:
         }
     }
     void Text(const char*, CParameterField field) override {
-        m_Fields.push_back({field.m_pName, false, field.m_bFileName, {field.m_pText}});
+        if (Takes(field.m_pName))
+            m_Fields.push_back({field.m_pName, false, field.m_bFileName, {field.m_pText}});
     }
     void Unstored(CParameterField field) override { Text("", field); }
 
@@ -77,8 +84,14 @@ public:
 
 protected:
     void DoItems(const char*, const CParameterColumn& column) override {
-        m_Fields.push_back({column.m_pName, true, column.m_bFileName, column.m_Items});
+        if (Takes(column.m_pName))
+            m_Fields.push_back({column.m_pName, true, column.m_bFileName, column.m_Items});
     }
+
+private:
+    bool Takes(const char* pName) const { return !m_Only || IsNameOf(pName, *m_Only); }
+
+    const std::optional<std::string_view> m_Only;
 };
 
 class CListSizer : public CParameterExchange {
@@ -137,9 +150,15 @@ std::vector<CNamedField> ListFields(CDhtmlGadget& gadget) {
     return std::move(lister.m_Fields);
 }
 
+std::vector<CNamedField> ListFields(CDhtmlGadget& gadget, std::string_view name) {
+    CFieldLister lister(name);
+    gadget.ExchangeParameters(lister);
+    return std::move(lister.m_Fields);
+}
+
 const CNamedField* FindField(const std::vector<CNamedField>& fields, std::string_view name) {
     const auto found = std::find_if(fields.begin(), fields.end(), [&](const CNamedField& field) {
-        return field.m_Name == name || field.m_Name.View().substr(2) == name;
+        return IsNameOf(field.m_Name.View(), name);
     });
     return found == fields.end() ? nullptr : &*found;
 }

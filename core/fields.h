@@ -33,6 +33,9 @@ struct CNamedField {
 // Every field of the gadget in the order of its parameters.
 std::vector<CNamedField> ListFields(CDhtmlGadget& gadget);
 
+// The same, but for those of other names than this one, with "m_" or without.
+std::vector<CNamedField> ListFields(CDhtmlGadget& gadget, std::string_view name);
+
 // What one of them holds. A border is one beside which its width, its style and its colour stand too.
 CFieldType TypeOfField(const std::vector<CNamedField>& fields, const CNamedField& field);
 

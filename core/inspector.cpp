@@ -127,13 +127,13 @@ int CInspector::GetFieldMaximum(const CString& field) {
 }
 
 CString CInspector::GetField(const CString& name) {
-    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const std::vector<CNamedField> fields = ListFields(Gadget(), name.View());
     const CNamedField& field = FieldOf(fields, name, false);
     return ShownValue(field, *field.m_Values[0]);
 }
 
 CItems CInspector::GetFieldItems(const CString& name) {
-    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const std::vector<CNamedField> fields = ListFields(Gadget(), name.View());
     const CNamedField& field = FieldOf(fields, name, true);
     CItems items;
     for (const CString* pValue : field.m_Values)
@@ -175,7 +175,7 @@ CString CInspector::SetFieldItems(const CString& name, const CItems& items) {
 }
 
 void CInspector::PutField(const CString& name, const CString& value) {
-    const std::vector<CNamedField> fields = ListFields(Gadget());
+    const std::vector<CNamedField> fields = ListFields(Gadget(), name.View());
     const CNamedField& field = FieldOf(fields, name, false);
     *field.m_Values[0] = KeptValue(field, value);
 }
