@@ -25,8 +25,7 @@ CItems ItemsOf(const std::vector<CString>& texts) {
 }
 
 CString ValueOf(const CMapStringToString& map, const CString& key) {
-    const CString* pValue = map.Find(key);
-    return pValue ? *pValue : CString();
+    return map.Find(key).value_or("");
 }
 
 // Of a file's name in a page's text, for each of which a server may need a copy.

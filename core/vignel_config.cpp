@@ -18,9 +18,9 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-constexpr char kResourceNumber[] = "Resource Number";
-constexpr char kSegmentNumber[] = "Segment Number";
-constexpr char kSegmentPosition[] = "Segment Position";
+constexpr std::string_view kResourceNumber = "Resource Number";
+constexpr std::string_view kSegmentNumber = "Segment Number";
+constexpr std::string_view kSegmentPosition = "Segment Position";
 
 bool HasLineBreak(std::string_view text) {
     return text.find_first_of(kLineEnd) != text.npos;
@@ -99,24 +99,19 @@ void ReadKeys(CConfigLines& lines, const CPartMarkers& markers, CMapStringToStri
               std::vector<CString> CConfigForm::*pKeys) {
     if (!SkipTo(lines, markers.m_Begin))
         return;
-    // A pair is stored after the next line has been parsed: meanwhile the part of the map's index that it needs
-    // is fetched. At a million keys this takes a third off the time.
-    std::optional<std::pair<CString, CString>> waiting;
-    const auto store = [&] {
-        if (!waiting)
-            return;
-        if (lines.m_pForm)
-            (lines.m_pForm->*pKeys).push_back(waiting->first);
-        map.SetAt(std::move(waiting->first), std::move(waiting->second));
-    };
-    while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
-        if (const auto pair = SplitKeyLine(lines.Line())) {
-            map.Prefetch(pair->m_Key);
-            store();
-            waiting.emplace(pair->m_Key, pair->m_Value);
+    map.SetAll([&](std::string_view& key, std::string_view& value) {
+        while (lines.Next() && !EqualsNoCase(lines.Line(), markers.m_End)) {
+            const auto pair = SplitKeyLine(lines.Line());
+            if (!pair)
+                continue;
+            if (lines.m_pForm)
+                (lines.m_pForm->*pKeys).emplace_back(pair->m_Key);
+            key = pair->m_Key;
+            value = pair->m_Value;
+            return true;
         }
-    }
-    store();
+        return false;
+    });
     if (lines.m_pForm)
         KeepFirst(lines.m_pForm->*pKeys);
 }
@@ -189,14 +184,14 @@ void WritePartEnd(COutputFile& file, const CPartMarkers& markers) {
     file.Write("\r\n\r\n");
 }
 
-void WriteOnOneLine(COutputFile& file, const CString& text) {
+void WriteOnOneLine(COutputFile& file, std::string_view text) {
     if (HasLineBreak(text))
         file.Write(WithoutLineBreaks(text));
     else
         file.Write(text);
 }
 
-void WriteKeyLine(COutputFile& file, const CString& key, const CString& value) {
+void WriteKeyLine(COutputFile& file, std::string_view key, std::string_view value) {
     WriteOnOneLine(file, key);
     file.Write(" = ");
     WriteOnOneLine(file, value);
@@ -205,7 +200,7 @@ void WriteKeyLine(COutputFile& file, const CString& key, const CString& value) {
 
 void WriteKeys(COutputFile& file, const CPartMarkers& markers, const CMapStringToString& map) {
     WritePartBegin(file, markers);
-    map.ForEach([&](const CString& key, const CString& value) { WriteKeyLine(file, key, value); });
+    map.ForEach([&](std::string_view key, std::string_view value) { WriteKeyLine(file, key, value); });
     WritePartEnd(file, markers);
 }
 
@@ -278,13 +273,20 @@ CString WithoutLineBreaks(CString text) {
     return text;
 }
 
+CString CVignelConfig::GetProperty(const char* pKey) {
+    const auto value = m_DescriptionMap.Find(pKey);
+    if (!value)
+        m_DescriptionMap.SetAt(pKey, "");
+    return value ? CString(*value) : CString();
+}
+
 bool CVignelConfig::SetProperty(const char* pKey, const CString& text) {
     m_DescriptionMap.SetAt(pKey, text);
     return true;
 }
 
 double CVignelConfig::GetLastUpdateTime() {
-    return ToDouble(m_DescriptionMap["LastUpdateTime"]);
+    return ToDouble(GetProperty("LastUpdateTime"));
 }
 
 bool CVignelConfig::SetLastUpdateTime(double time) {
@@ -294,12 +296,12 @@ bool CVignelConfig::SetLastUpdateTime(double time) {
 }
 
 CString CVignelConfig::GetParameter(const CString& key, const CString& defaultValue) const {
-    const CString* pValue = m_ParameterMap.Find(key);
-    return pValue ? *pValue : defaultValue;
+    const auto value = m_ParameterMap.Find(key);
+    return value ? CString(*value) : defaultValue;
 }
 
-bool CVignelConfig::SetParameter(const CString& key, CString value) {
-    m_ParameterMap.SetAt(key, std::move(value));
+bool CVignelConfig::SetParameter(const CString& key, const CString& value) {
+    m_ParameterMap.SetAt(key, value);
     return true;
 }
 

@@ -54,11 +54,11 @@ class CVignelConfig {
 public:
     // The properties of the Description Part. A getter creates a key that is absent, with an empty value, so
     // that the next written file has it. A setter returns true.
-    CString GetProgID() { return m_DescriptionMap["ProgID"]; }
-    CString GetTitle() { return m_DescriptionMap["Title"]; }
-    CString GetDescription() { return m_DescriptionMap["Description"]; }
-    CString GetBitmapFileName() { return m_DescriptionMap["BitmapFileName"]; }
-    CString GetPreviewPath() { return m_DescriptionMap["PreviewPath"]; }
+    CString GetProgID() { return GetProperty("ProgID"); }
+    CString GetTitle() { return GetProperty("Title"); }
+    CString GetDescription() { return GetProperty("Description"); }
+    CString GetBitmapFileName() { return GetProperty("BitmapFileName"); }
+    CString GetPreviewPath() { return GetProperty("PreviewPath"); }
     bool SetProgID(const CString& text) { return SetProperty("ProgID", text); }
     bool SetTitle(const CString& text) { return SetProperty("Title", text); }
     bool SetDescription(const CString& text) { return SetProperty("Description", text); }
@@ -71,7 +71,7 @@ public:
 
     // The value of a parameter, or `defaultValue` when the key is absent; creates nothing.
     CString GetParameter(const CString& key, const CString& defaultValue) const;
-    bool SetParameter(const CString& key, CString value);
+    bool SetParameter(const CString& key, const CString& value);
     bool ClearParameters();
 
     // Counts and indices of resources are 16 bits wide, as hosts have them. A field of an index outside of
@@ -110,6 +110,7 @@ public:
     CArray<VignelSegment> m_Segments;
 
 private:
+    CString GetProperty(const char* pKey);
     bool SetProperty(const char* pKey, const CString& text);
 };
 

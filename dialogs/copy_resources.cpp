@@ -19,6 +19,7 @@ CCopyResourcesDlg::CCopyResourcesDlg() : CDialog(CopyResourcesDescription()) {
 
 void CCopyResourcesDlg::AddClash(CString& path) {
     m_Clashes[path].push_back(&path);
+    m_Sources.SetAt(path, "");
     ++m_nClashes;
 }
 
@@ -27,7 +28,7 @@ void CCopyResourcesDlg::OnInitDialog() {
     CListCtrl& list = Item<CListCtrl>(CopyResourcesId::Clashes);
     list.InsertColumn(0, "Destination File Name", 0);
     list.InsertColumn(1, "Resource File", 140, STYLE_PATH);
-    m_Clashes.ForEach([&list](const CString& source, const std::vector<CString*>&) {
+    m_Sources.ForEach([&list](const CString& source, std::string_view) {
         const int nRow = list.InsertItem(list.GetItemCount(), FileNameOfPath(source));
         list.SetItemText(nRow, 1, source);
     });
@@ -63,7 +64,7 @@ void CCopyResourcesDlg::OnOK() {
         // Nobody hears of a failure here. The texts stay then: at the copy's place is nothing, or another picture.
         if (CopyWholeFile(source, copy))
             continue;
-        for (CString* pPath : *m_Clashes.Find(source))
+        for (CString* pPath : m_Clashes.at(source))
             *pPath = copy;
     }
     EndDialog(IDOK);

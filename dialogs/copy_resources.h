@@ -16,6 +16,7 @@
 #include "platform/string_map.h"
 #include "toolkit/dialog.h"
 
+#include <map>
 #include <vector>
 
 namespace orrelix {
@@ -40,7 +41,8 @@ private:
     void OnRename();
     void OnRenamed();
 
-    CStringMap<std::vector<CString*>> m_Clashes; // by source path
+    std::map<CString, std::vector<CString*>> m_Clashes; // by source path
+    CMapStringToString m_Sources;                       // those paths, in the order of the rows
 };
 
 // CBrowseFilesDlg: lists the files of a directory.

@@ -1,4 +1,4 @@
-// CStringMap: a map from texts to values whose iteration order is part of the configuration file's format.
+// CMapStringToString: a map from texts to texts whose iteration order is part of the configuration file's format.
 //
 // The order: 17 buckets, always. A key's hash starts at 0 and takes each byte as a signed value, hash * 33 +
 // byte, modulo 2^32; its bucket is hash modulo 17. Iteration walks the buckets from 0 to 16 and in each
@@ -6,88 +6,73 @@
 // is. Keys compare byte for byte.
 //
 // Finding a key does not follow the chains: an index of its own keeps it constant in time however many keys
-// there are.
+// there are. The texts lie behind each other in large blocks, because a million of them, each with memory of its own,
+// would take several times as long as reading them. What runs out of memory changes nothing.
 #pragma once
 
 #include "platform/string.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
-#include <deque>
-#include <functional>
-#include <utility>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace orrelix {
 
-template <class TValue>
-class CStringMap {
+class CMapStringToString {
 public:
-    struct CEntry {
-        CString m_Key;
-        TValue m_Value;
-    };
+    CMapStringToString() = default;
+    CMapStringToString(const CMapStringToString& other);
+    CMapStringToString(CMapStringToString&& other) noexcept { Swap(other); }
+    CMapStringToString& operator=(CMapStringToString other) noexcept {
+        Swap(other);
+        return *this;
+    }
 
     size_t GetCount() const { return m_Entries.size(); }
     bool IsEmpty() const { return m_Entries.empty(); }
 
-    void RemoveAll() { *this = CStringMap(); }
+    void RemoveAll() { *this = CMapStringToString(); }
 
-    // The value of the key, or null when there is none. Valid until RemoveAll; adding keys does not move it.
-    const TValue* Find(std::string_view key) const {
-        if (m_Index.empty())
-            return nullptr;
-        const std::uint32_t nEntry = m_Index[SlotOf(key, HashOf(key))].m_nEntry;
-        return nEntry ? &m_Entries[nEntry - 1].m_Value : nullptr;
+    // The value of the key, or nothing when there is none. Valid until a value is set.
+    std::optional<std::string_view> Find(std::string_view key) const;
+
+    void SetAt(std::string_view key, std::string_view value);
+
+    // Sets the pairs that next(key, value) gives, until it gives false. For very many of them this is faster, since the
+    // index is built at the end: what takes the time is waiting for its memory, and all keys' places are known then.
+    template <class TNext>
+    void SetAll(TNext next) {
+        const size_t nOld = m_Entries.size();
+        try {
+            for (std::string_view key, value; next(key, value);)
+                m_Entries.push_back(Store(key, value));
+            ReserveIndex();
+        } catch (...) {
+            m_Entries.erase(m_Entries.begin() + static_cast<std::ptrdiff_t>(nOld), m_Entries.end());
+            throw;
+        }
+        IndexFrom(nOld);
     }
 
-    // The value of the key, which is created with an empty value when it is new.
-    TValue& operator[](std::string_view key) { return ValueOf(key); }
-
-    void SetAt(CString key, TValue value) { ValueOf(std::move(key)) = std::move(value); }
-
-    // Prefetches the key's slot of the index. With very many keys, waiting for that memory is what SetAt and
-    // operator[] spend their time on.
-    void Prefetch(std::string_view key) const {
-#ifdef __GNUC__
-        if (!m_Index.empty())
-            __builtin_prefetch(&m_Index[FirstSlotOf(HashOf(key))], 1);
-#endif
-    }
-
-    // Calls visit(const CString& key, const TValue& value) for each entry, in the prescribed order.
+    // Calls visit(std::string_view key, std::string_view value) for each entry, in the prescribed order.
     template <class TVisit>
     void ForEach(TVisit visit) const {
-        for (const std::vector<std::uint32_t>& bucket : m_Buckets) {
-            for (auto pEntry = bucket.rbegin(); pEntry != bucket.rend(); ++pEntry)
-                visit(m_Entries[*pEntry - 1].m_Key, m_Entries[*pEntry - 1].m_Value);
-        }
+        for (const std::uint32_t nEntry : GetOrder())
+            visit(m_Entries[nEntry].GetKey(), m_Entries[nEntry].GetValue());
     }
 
 private:
-    static constexpr size_t kBuckets = 17;
+    // The value stands behind the key.
+    struct CEntry {
+        const char* m_pText;
+        size_t m_nKey;
+        size_t m_nValue;
 
-    static size_t BucketOf(std::string_view key) {
-        std::uint32_t nHash = 0;
-        for (char byte : key)
-            nHash = nHash * 33 + static_cast<std::uint32_t>(static_cast<signed char>(byte));
-        return nHash % kBuckets;
-    }
-
-    template <class TKey>
-    TValue& ValueOf(TKey&& key) {
-        if (2 * (m_Entries.size() + 1) > m_Index.size())
-            GrowIndex();
-        const std::uint32_t nHash = HashOf(key);
-        CSlot& slot = m_Index[SlotOf(key, nHash)];
-        if (slot.m_nEntry)
-            return m_Entries[slot.m_nEntry - 1].m_Value;
-        m_Entries.push_back({CString(std::forward<TKey>(key)), TValue()});
-        slot = {nHash, static_cast<std::uint32_t>(m_Entries.size())};
-        m_Buckets[BucketOf(m_Entries.back().m_Key)].push_back(slot.m_nEntry);
-        return m_Entries.back().m_Value;
-    }
+        size_t GetSize() const { return m_nKey + m_nValue; }
+        std::string_view GetKey() const { return {m_pText, m_nKey}; }
+        std::string_view GetValue() const { return {m_pText + m_nKey, m_nValue}; }
+    };
 
     // What the index holds of a key. With the hash at hand, neither a walk over other keys' slots nor growing
     // has to fetch keys, which lie all over the memory.
@@ -96,46 +81,22 @@ private:
         std::uint32_t m_nEntry = 0; // its number, from 1; 0: the slot is free
     };
 
-    // Not the prescribed hash, for which anybody can make up keys that collide.
-    static std::uint32_t HashOf(std::string_view key) {
-        return static_cast<std::uint32_t>(std::hash<std::string_view>()(key));
-    }
+    void Swap(CMapStringToString& other) noexcept;
+    static std::uint32_t HashOf(std::string_view key);
+    size_t SlotOf(std::string_view key, std::uint32_t nHash) const;
+    size_t FirstSlotOf(std::uint32_t nHash) const;
+    void ReserveIndex();
+    void IndexFrom(size_t nFirst);
+    CEntry Store(std::string_view key, std::string_view value);
+    std::vector<std::uint32_t> GetOrder() const;
 
-    // The slot of the index that holds the key's entry, or the free one where it belongs. The index is a
-    // power of two in size and at most half full, so the walk is short.
-    size_t SlotOf(std::string_view key, std::uint32_t nHash) const {
-        size_t nSlot = FirstSlotOf(nHash);
-        while (m_Index[nSlot].m_nEntry && (m_Index[nSlot].m_nHash != nHash ||
-                                           m_Entries[m_Index[nSlot].m_nEntry - 1].m_Key.View() != key))
-            nSlot = (nSlot + 1) & (m_Index.size() - 1);
-        return nSlot;
-    }
-
-    // By the hash's upper bits, so that a grown index has its slots in the order of the old one and filling
-    // it walks through the memory once.
-    size_t FirstSlotOf(std::uint32_t nHash) const {
-        return static_cast<size_t>(std::uint64_t{nHash} * m_Index.size() >> 32);
-    }
-
-    void GrowIndex() {
-        const std::vector<CSlot> old =
-            std::exchange(m_Index, std::vector<CSlot>(std::max<size_t>(16, 2 * m_Index.size())));
-        for (const CSlot& slot : old) {
-            if (!slot.m_nEntry)
-                continue;
-            size_t nSlot = FirstSlotOf(slot.m_nHash);
-            while (m_Index[nSlot].m_nEntry)
-                nSlot = (nSlot + 1) & (m_Index.size() - 1);
-            m_Index[nSlot] = slot;
-        }
-    }
-
-    std::deque<CEntry> m_Entries; // in the order of adding
-    // Entry numbers from 1, in the order of adding.
-    std::array<std::vector<std::uint32_t>, kBuckets> m_Buckets;
+    std::vector<CEntry> m_Entries; // in the order of adding
     std::vector<CSlot> m_Index;
+    std::vector<std::unique_ptr<char[]>> m_Blocks;
+    char* m_pFree = nullptr; // of the last block
+    size_t m_nFree = 0;
+    size_t m_nStored = 0;   // bytes of texts, and of those
+    size_t m_nReplaced = 0; // of entries that have got others since
 };
-
-using CMapStringToString = CStringMap<CString>;
 
 } // namespace orrelix

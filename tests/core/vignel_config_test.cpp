@@ -41,10 +41,8 @@ std::string Content(const CVignelConfig& config) {
             content += " [" + text + "]";
         content += '\n';
     };
-    config.m_DescriptionMap.ForEach([&](const CString& key, const CString& value) {
-        add("D", {key, value});
-    });
-    config.m_ParameterMap.ForEach([&](const CString& key, const CString& value) { add("P", {key, value}); });
+    config.m_DescriptionMap.ForEach([&](CString key, CString value) { add("D", {key, value}); });
+    config.m_ParameterMap.ForEach([&](CString key, CString value) { add("P", {key, value}); });
     for (const auto& [name, localPath, webPath] : config.m_Resources)
         add("R", {name, localPath, webPath});
     for (const auto& [position, body] : config.m_Segments)
@@ -131,7 +129,7 @@ TEST_F(VignelConfig, ReadsTheTimeFromTheNumberInFrontWhateverTheLocale) {
         {"inf", 0.0},      {"+-5", 0.0},   {"-nan", 0.0}, {"-", 0.0},     {"", 0.0}};
     for (const auto& [pText, time] : cases) {
         CVignelConfig config;
-        config.m_DescriptionMap["LastUpdateTime"] = pText;
+        config.m_DescriptionMap.SetAt("LastUpdateTime", pText);
         EXPECT_EQ(config.GetLastUpdateTime(), time) << pText;
     }
 }

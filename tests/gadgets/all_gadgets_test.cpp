@@ -44,9 +44,8 @@ const CEffectFiles kEffectFiles[] = {
 
 CParameters ParametersOf(const CVignelConfig& config) {
     CParameters parameters;
-    config.m_ParameterMap.ForEach([&](const CString& key, const CString& value) {
-        parameters[std::string(key.View())] = value.View();
-    });
+    config.m_ParameterMap.ForEach(
+        [&](CString key, CString value) { parameters[std::string(key.View())] = value.View(); });
     parameters.erase("DhtmlType");
     return parameters;
 }
@@ -115,7 +114,7 @@ TEST_P(Gadget, AsksForThePreviewPathOnlyToReferToFiles) {
             CVignelConfig config;
             config.SetPreviewPath("p/");
             const bool bRefers = Effect().GetHTMLBody(config, nMode, nPosition) != without;
-            EXPECT_EQ(untouched.m_DescriptionMap.Find("PreviewPath") != nullptr, bRefers)
+            EXPECT_EQ(untouched.m_DescriptionMap.Find("PreviewPath").has_value(), bRefers)
                 << nMode << nPosition;
             EXPECT_TRUE(!bRefers || nMode == kPreview) << nMode;
         }

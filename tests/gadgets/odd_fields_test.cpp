@@ -42,8 +42,7 @@ std::string Answer(const std::string& question) {
         *pText = fields.count(name) ? fields[name] : *pText;
     effect.WriteParameters(written);
     CString answer;
-    written.m_ParameterMap.ForEach(
-        [&](const CString& key, const CString& value) { answer += key + " = " + value + "\n"; });
+    written.m_ParameterMap.ForEach([&](CString key, CString value) { answer += key + " = " + value + "\n"; });
     for (const auto& [name, pText] : FieldsOf(effect))
         answer += name == shown ? CString(name) + "=" + *pText + "\n" : CString();
     config.SetTitle("x");

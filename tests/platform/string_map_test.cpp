@@ -9,7 +9,7 @@ namespace {
 
 std::string Keys(const CMapStringToString& map) {
     std::string keys;
-    map.ForEach([&](const CString& key, const CString&) { keys += std::string(key.View()) + " "; });
+    map.ForEach([&](std::string_view key, std::string_view) { (keys += key) += " "; });
     return keys;
 }
 
@@ -19,39 +19,44 @@ TEST(StringMap, WalksItsBucketsAndInEachTheLatestKeyFirst) {
     CMapStringToString map;
     for (const char* pKey :
          {"PreviewPath", "Description", "ProgID", "BitmapFileName", "Title", "LastUpdateTime"})
-        map[pKey];
+        map.SetAt(pKey, "");
     EXPECT_EQ(Keys(map), "Title ProgID LastUpdateTime BitmapFileName PreviewPath Description ");
     // Assigning leaves a key where it is; adding in another order turns the pair of one bucket round.
-    map["PreviewPath"] = "x";
+    map.SetAt("PreviewPath", "x");
     EXPECT_EQ(Keys(map), "Title ProgID LastUpdateTime BitmapFileName PreviewPath Description ");
     map.RemoveAll();
     EXPECT_EQ(Keys(map), "");
-    map["BitmapFileName"];
-    map["PreviewPath"];
+    map.SetAt("BitmapFileName", "");
+    map.SetAt("PreviewPath", "");
     EXPECT_EQ(Keys(map), "PreviewPath BitmapFileName ");
 }
 
 TEST(StringMap, TakesTheBytesOfAKeyAsSigned) {
     // As signed bytes "\xFF" hashes to -1, which is 2^32 - 1 and so 0 modulo 17; "\x01" hashes to 1.
     CMapStringToString map;
-    map["\x01"];
-    map["\xFF"];
+    map.SetAt("\x01", "");
+    map.SetAt("\xFF", "");
     EXPECT_EQ(Keys(map), "\xFF \x01 ");
 }
 
 TEST(StringMap, FindsEveryKeyOfManyAndNoOther) {
     CMapStringToString map;
-    EXPECT_EQ(map.Find("Key0"), nullptr);
-    for (int nKey = 0; nKey < 5000; ++nKey)
-        map["Key" + std::to_string(nKey)] = std::to_string(nKey);
-    for (int nKey = 0; nKey < 5000; ++nKey) {
-        const CString* pValue = map.Find("Key" + std::to_string(nKey));
-        ASSERT_NE(pValue, nullptr) << nKey;
-        EXPECT_EQ(*pValue, std::to_string(nKey));
+    EXPECT_FALSE(map.Find("Key0"));
+    for (const char* pMark : {"a", "b", "c", "d"}) { // each replaces the values before it
+        for (int nKey = 0; nKey < 5000; ++nKey)
+            map.SetAt("Key" + std::to_string(nKey), std::to_string(nKey) + std::string(200, *pMark));
     }
-    EXPECT_EQ(map.Find("Key5000"), nullptr);
-    EXPECT_EQ(map.Find("key0"), nullptr);
-    EXPECT_EQ(map.GetCount(), 5000u);
+    map.SetAt("copy", *map.Find("Key7"));
+    CMapStringToString other = map;
+    map.RemoveAll();
+    EXPECT_FALSE(map.Find("Key0"));
+    map.SetAt("Key0", "anew");
+    for (int nKey = 0; nKey < 5000; ++nKey)
+        ASSERT_EQ(other.Find("Key" + std::to_string(nKey)), std::to_string(nKey) + std::string(200, 'd'));
+    EXPECT_EQ(other.Find("copy"), "7" + std::string(200, 'd'));
+    EXPECT_FALSE(other.Find("Key5000"));
+    EXPECT_FALSE(other.Find("key0"));
+    EXPECT_EQ(other.GetCount(), 5001u);
 }
 
 } // namespace orrelix
