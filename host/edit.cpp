@@ -149,7 +149,7 @@ bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, 
     std::error_code noSuchFolder; // is told when the file is written
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, noSuchFolder)) {
         if (!entry.is_symlink() || !names.contains(CString(entry.path().filename().string()).MakeLower()) ||
-            LiesBelow(entry.path(), folder))
+            !FollowBelow(entry.path(), folder).empty())
             continue;
         report.Error(entry.path().string(),
                      "is a link to a place outside of the folder, where the effect needs a file of its own; "

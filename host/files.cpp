@@ -35,13 +35,13 @@ fs::path SpelledAsOnDisk(const fs::path& path) {
     return path.is_absolute() ? onDisk : onDisk.lexically_proximate(fs::current_path());
 }
 
-bool LiesBelow(const fs::path& file, const fs::path& folder) {
+fs::path FollowBelow(const fs::path& path, const fs::path& folder) {
     std::error_code failed;
-    const fs::path end = fs::weakly_canonical(fs::absolute(file), failed);
+    const fs::path end = fs::weakly_canonical(fs::absolute(path), failed);
     const fs::path root = failed ? fs::path() : fs::weakly_canonical(fs::absolute(folder), failed);
-    // What is a link still, leads to nothing, and a file written there could land anywhere.
-    return !failed && !fs::is_symlink(fs::symlink_status(end, failed)) && end != root &&
-           std::mismatch(root.begin(), root.end(), end.begin(), end.end()).first == root.end();
+    const bool bBelow = !failed && end != root &&
+                        std::mismatch(root.begin(), root.end(), end.begin(), end.end()).first == root.end();
+    return bBelow && !fs::is_symlink(fs::symlink_status(end, failed)) ? end : fs::path();
 }
 
 std::error_code WriteFileContent(const fs::path& path, std::string_view content, Durability durability) {

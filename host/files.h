@@ -24,8 +24,9 @@ std::filesystem::path SystemPath(const CString& path);
 // The path as the disk spells it, where that differs in case; otherwise as it is.
 std::filesystem::path SpelledAsOnDisk(const std::filesystem::path& path);
 
-// Whether a path, links followed, leads to a file below a folder, or to where one can be written.
-bool LiesBelow(const std::filesystem::path& file, const std::filesystem::path& folder);
+// Where a path leads, links followed, be there a file or not. Empty when that is not below the folder, or is a link to
+// nothing, behind which a file could land anywhere.
+std::filesystem::path FollowBelow(const std::filesystem::path& path, const std::filesystem::path& folder);
 
 // Writes a file whole, under exactly this name. On an error the file is as it was.
 std::error_code WriteFileContent(const std::filesystem::path& path, std::string_view content,

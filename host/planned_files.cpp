@@ -34,7 +34,8 @@ std::string CPlannedFiles::CPlannedFile::GetName() const {
 
 // Whether the file lies there as it is to be, in this very spelling.
 bool CPlannedFiles::CPlannedFile::IsWritten() const {
-    if (!fs::is_regular_file(m_Target))
+    std::error_code none;
+    if (!fs::is_regular_file(m_Target, none))
         return false;
     if (!m_Source.IsEmpty())
         return SameContent(m_Source, ComponentPath(m_Target));
@@ -77,8 +78,8 @@ bool CPlannedFiles::CheckSource(const CEffectFile& file, const fs::path& configF
         return false;
     }
     const fs::path onDisk = SystemPath(PathOnDisk(file.m_Source));
-    if (file.m_bScript || LiesBelow(onDisk, fs::absolute(SpelledAsOnDisk(configFile)).parent_path()) ||
-        m_Site.Holds(onDisk))
+    const fs::path folder = fs::absolute(SpelledAsOnDisk(configFile)).parent_path();
+    if (file.m_bScript || !FollowBelow(onDisk, folder).empty() || m_Site.Holds(onDisk))
         return true;
     m_Report.Error(configFile.string(),
                    fmt::format("the file {} is a link to one outside of the configuration file's folder; "

@@ -81,7 +81,7 @@ bool Walk(std::string_view steps, const fs::path& root, fs::path& place) {
 CSite::CSite(const fs::path& root) : m_Root(fs::canonical(root)) {}
 
 bool CSite::Holds(const fs::path& file) const {
-    return LiesBelow(file, m_Root);
+    return !FollowBelow(file, m_Root).empty();
 }
 
 fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std::string& problem) const {
@@ -103,8 +103,9 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
 }
 
 fs::path CSite::FollowLinks(const fs::path& place, std::string& problem) const {
-    if (LiesBelow(place, m_Root))
-        return fs::weakly_canonical(place);
+    const fs::path end = FollowBelow(place, m_Root);
+    if (!end.empty())
+        return end;
     std::error_code failed;
     const bool bToNothing = fs::is_symlink(place, failed) && !fs::exists(place, failed);
     problem =
