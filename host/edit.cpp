@@ -249,7 +249,7 @@ fs::path FreeNameBeside(const fs::path& file) {
     for (int nNumber = 2;; ++nNumber) {
         const std::string name =
             fmt::format("{}-{}{}", file.stem().string(), nNumber, file.extension().string());
-        const fs::path free = file.parent_path() / name;
+        fs::path free = file.parent_path() / name;
         if (!IsThere(free))
             return free;
     }

@@ -260,13 +260,13 @@ CStringArray FindFiles(const CString& directory, const CString& pattern) {
 
 std::error_code CDirectoryListing::Find(const std::string& directory, const std::string& lowerName,
                                         std::optional<std::string>& found) {
-    const auto [listed, bNew] = m_Directories.try_emplace(directory);
-    auto& [names, error] = listed->second;
+    const auto [entry, bNew] = m_Directories.try_emplace(directory);
+    CListed& listed = entry->second;
     if (bNew)
-        error = System().List(directory, [&names](const char* pName) { AddName(names, pName); });
-    if (const auto name = names.find(lowerName); name != names.end())
+        listed.m_Error = System().List(directory, [&](const char* pName) { AddName(listed.m_Names, pName); });
+    if (const auto name = listed.m_Names.find(lowerName); name != listed.m_Names.end())
         found = name->second;
-    return error;
+    return listed.m_Error;
 }
 
 void CDirectoryListing::Note(const std::string& path) {
