@@ -13,11 +13,11 @@
 #include "platform/array.h"
 #include "platform/automation.h"
 #include "platform/paths.h"
+#include "platform/refusal.h"
 
 #include <cerrno>
 #include <new>
 #include <span>
-#include <stdexcept>
 #include <system_error>
 #include <tuple>
 
@@ -26,13 +26,6 @@ namespace orrelix {
 // A list as one text: each item with a zero behind it.
 struct CItems {
     CStringArray m_Items;
-};
-
-// What a member throws to tell its host why it doesn't do what is asked: the call gives DISP_E_EXCEPTION and this
-// sentence.
-class CRefusal : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
 };
 
 // What act() gives, or the code for what it throws. The caller's errno stays: a call that has succeeded may have met

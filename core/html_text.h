@@ -132,11 +132,20 @@ private:
     char* m_pEnd = nullptr;   // of the text
 };
 
+// The most bytes of HTML that are made at once in this process; as many as there is memory for, at start. A short file
+// can prescribe a text of any length: each of its items has the title in it.
+std::size_t GetMostHtml();
+void SetMostHtml(std::size_t nBytes);
+
+// Throws CRefusal for a text of more bytes than that.
+void CheckLength(std::size_t nBytes);
+
 // The text that write(CHtmlText&) writes. It has to write the same both times.
 template <class TWrite>
 std::string MakeHtml(TWrite write) {
     CHtmlText html;
     write(html);
+    CheckLength(html.m_nLength);
     std::string text(html.m_nLength, '\0');
     html.m_pWrite = text.data();
     html.m_pEnd = html.m_pWrite + text.size();

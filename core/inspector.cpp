@@ -10,6 +10,8 @@
 #include "toolkit/desktop_loader.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
 #include <iterator>
 #include <memory>
 
@@ -362,6 +364,15 @@ void CInspector::SetRawTexts(short bRaw) {
     orrelix::SetRawTexts(bRaw != 0);
 }
 
+int CInspector::GetMostHtml() const {
+    const size_t nMost = orrelix::GetMostHtml();
+    return nMost > INT_MAX ? 0 : static_cast<int>(nMost);
+}
+
+void CInspector::SetMostHtml(int nBytes) {
+    orrelix::SetMostHtml(nBytes > 0 ? static_cast<size_t>(nBytes) : SIZE_MAX);
+}
+
 bool CInspector::CanShowDialogs() const {
     return FindDesktop() != nullptr;
 }
@@ -435,6 +446,7 @@ std::span<const CMember> GetInspectorMembers() {
         Property<&I::GetOwnerWindow, &I::SetOwnerWindow>("OwnerWindow"),
         Method<&I::GetText>("GetText"),
         Method<&I::GetIconFile>("GetIconFile"),
+        Property<&I::GetMostHtml, &I::SetMostHtml>("MostHTML"),
     };
     return kMembers;
 }

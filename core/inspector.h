@@ -91,6 +91,11 @@ public:
     bool GetRawTexts() const;
     void SetRawTexts(short bRaw);
 
+    // The most bytes of HTML that are made at once; 0 for as many as there is memory for. Holds for the process. What
+    // would take more is refused before it is made.
+    int GetMostHtml() const;
+    void SetMostHtml(int nBytes);
+
     bool CanShowDialogs() const;
     // The host's window, on top of which the dialogs open: the number by which the window system knows it, in decimal;
     // empty for none.

@@ -1,5 +1,7 @@
 #include "core/orrelix.h"
 
+#include "platform/refusal.h"
+
 namespace orrelix {
 
 namespace {
@@ -31,10 +33,13 @@ const CEffectParts* FindParts(const CString& type) {
 
 // What is told of a call that doesn't come to the end of its act.
 template <class TAct>
-bool COrrelix::SucceedsIn(TAct act) noexcept {
+bool COrrelix::SucceedsIn(TAct act) {
     m_Error = std::make_error_code(std::errc::not_enough_memory);
     try {
         return act();
+    } catch (const CRefusal&) {
+        m_Error = std::make_error_code(std::errc::file_too_large);
+        throw;
     } catch (...) { // for want of memory or by a desktop; nothing of it reaches the host
         return false;
     }

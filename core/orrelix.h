@@ -10,7 +10,8 @@
 //     orrelix.GetHTMLBody(0, 1);                              // as published, for the place at the cursor
 //
 // Paths have backslashes and are full. An object is used by one thread, that of its host's user interface.
-// What reads, writes or asks the user throws nothing: where memory runs out it gives false.
+// What reads, writes or asks the user throws nothing: where memory runs out it gives false. What makes HTML throws
+// CRefusal above a length that the host has set (see core/html_text.h).
 #pragma once
 
 #include "core/dhtml_gadget.h"
@@ -161,7 +162,7 @@ public:
 
 private:
     template <class TAct>
-    bool SucceedsIn(TAct act) noexcept;
+    bool SucceedsIn(TAct act);
     bool Read(const CString& path);
     void Compose(const CString& directory, short force);
     CDhtmlGadget& GadgetOf(const CString& type);

@@ -14,6 +14,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Nobody waits for a page of that size.
+constexpr int kMostHtml = 64 * 1024 * 1024;
+
 // The second name is all that a package has which isn't for developers.
 constexpr const char* kLibraryNames[] = {"libVignelOrrelix.so",
                                          "libVignelOrrelix.so." ORRELIX_LIBRARY_VERSION};
@@ -55,6 +58,7 @@ CEffectObject::CEffectObject() : vignel::Orrelix(GetComponent()), m_Inspector(In
         throw std::runtime_error("the registered component is another version than this program");
     m_Inspector.Put("CodePage", GetCodePage());
     m_Inspector.Put("RawTexts", 1);
+    m_Inspector.Put("MostHTML", kMostHtml);
 }
 
 std::string CEffectObject::GetDescriptionOf(const std::string& effect) const {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <set>
 #include <vector>
 
 namespace orrelix {
@@ -262,14 +263,28 @@ std::string CMarkedPage::Enclose(const char* pPosition, const std::string& title
     m_nInvalid += inPage.m_nInvalid;
     for (std::string_view element : TextsOfElements(text, "script"))
         m_nUnfitInScripts += m_Text.ToPage(element).m_nUnfit;
-    for (int nNumber = 1;; ++nNumber) {
-        const std::string comment =
-            fmt::format("vignel {}{}: {} -->", pPosition, nNumber > 1 ? fmt::format(" {}", nNumber) : "",
-                        EscapedTitle(title));
-        const std::string end = m_Text.ToPage("<!-- /" + comment).m_Text;
-        if (inPage.m_Text.find(end) == std::string::npos)
-            return m_Text.ToPage("<!-- " + comment + "\r\n").m_Text + inPage.m_Text + end;
+    const std::string word = fmt::format("vignel {}", pPosition),
+                      rest = fmt::format(": {} -->", EscapedTitle(title));
+    const std::string number =
+        FreeNumber(inPage.m_Text, m_Text.ToPage("<!-- /" + word).m_Text, m_Text.ToPage(rest).m_Text);
+    return m_Text.ToPage("<!-- " + word + number + rest + "\r\n").m_Text + inPage.m_Text +
+           m_Text.ToPage("<!-- /" + word + number + rest).m_Text;
+}
+
+// What makes the comment that ends a text another one than those within it, which begin and end like this.
+std::string CMarkedPage::FreeNumber(std::string_view text, std::string_view begin,
+                                    std::string_view end) const {
+    const size_t nLongest = m_Text.ToPage(" 18446744073709551615").m_Text.size();
+    std::set<std::string_view> taken;
+    for (size_t nAt = text.find(begin); nAt != text.npos; nAt = text.find(begin, nAt + begin.size())) {
+        const std::string_view behind = text.substr(nAt + begin.size(), nLongest + end.size());
+        if (const size_t nEnd = behind.find(end); nEnd != behind.npos)
+            taken.insert(behind.substr(0, nEnd));
     }
+    std::string number;
+    for (size_t nNumber = 2; taken.contains(m_Text.ToPage(number).m_Text); ++nNumber)
+        number = fmt::format(" {}", nNumber);
+    return number;
 }
 
 } // namespace orrelix

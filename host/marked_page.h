@@ -54,6 +54,7 @@ public:
     const std::string& GetOutline() const { return m_Text.GetOutline(); }
 
 private:
+    std::string FreeNumber(std::string_view text, std::string_view begin, std::string_view end) const;
     std::string Enclose(const char* pPosition, const std::string& title, std::string_view text);
 
     CPageText m_Text;

@@ -46,7 +46,8 @@ private:
 Json CReadableFile::KeysToJson(const char* pKeys, const char* pValue) {
     Json object = Json::object();
     for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys))
-        object[Text(key)] = Text(m_Object.Ask<std::string>(pValue, key));
+        object.get_ref<Json::object_t&>().emplace_back(Text(key),
+                                                       Text(m_Object.Ask<std::string>(pValue, key)));
     return object;
 }
 
@@ -78,6 +79,9 @@ size_t WidthOf(const std::string& text) {
         std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
 }
 
+// Rows are aligned up to this width; what is wider stands out.
+constexpr size_t kWidestColumn = 60;
+
 void PrintRows(std::ostream& out, const std::vector<std::vector<std::string>>& rows) {
     if (rows.empty())
         out << "  none\n";
@@ -85,12 +89,13 @@ void PrintRows(std::ostream& out, const std::vector<std::vector<std::string>>& r
     for (const auto& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], WidthOf(row[i]));
+            if (const size_t nWidth = WidthOf(row[i]); nWidth <= kWidestColumn)
+                widths[i] = std::max(widths[i], nWidth);
     }
     for (const auto& row : rows) {
         std::string line;
         for (size_t i = 0; i < row.size(); ++i)
-            line += "  " + row[i] + std::string(widths[i] - WidthOf(row[i]), ' ');
+            line += fmt::format("  {}{:{}}", row[i], "", widths[i] - std::min(widths[i], WidthOf(row[i])));
         out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
     }
 }

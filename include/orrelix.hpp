@@ -36,8 +36,9 @@ struct Result {
 
 class Error : public std::runtime_error {
 public:
-    Error(const std::string& what, const Result& result)
-        : std::runtime_error(what + ": " + (result.message.empty() ? CodeText(result.code) : result.message)),
+    // The component's own sentence, or else the code of what was called.
+    Error(const std::string& called, const Result& result)
+        : std::runtime_error(result.message.empty() ? called + ": " + CodeText(result.code) : result.message),
           code(result.code) {}
 
     const VignelResult code;
@@ -233,7 +234,7 @@ public:
     static Library Of(const char* pProgId) {
         char path[VIGNEL_PATH_SIZE];
         if (!VignelFindLibrary(pProgId, path, sizeof path))
-            throw Error(pProgId, {VIGNEL_E_CLASSNOTREG, "isn't registered"});
+            throw Error(pProgId, {VIGNEL_E_CLASSNOTREG, std::string(pProgId) + " isn't registered"});
         return Library(std::filesystem::path(path));
     }
 

@@ -134,7 +134,7 @@ CMapStringToString::CEntry CMapStringToString::Store(std::string_view key, std::
     if (nSize > m_nFree) {
         const size_t nBlock =
             std::max(nSize, std::min(kFirstBlock << std::min<size_t>(m_Blocks.size(), 12), kLargestBlock));
-        m_Blocks.push_back(std::make_unique_for_overwrite<char[]>(nBlock));
+        m_Blocks.push_back(std::unique_ptr<char[]>(new char[nBlock]));
         m_pFree = m_Blocks.back().get();
         m_nFree = nBlock;
     }
