@@ -22,23 +22,23 @@ public:
     // Whether the effect's text that stands in the page by now refers to an address, which is in the code page.
     using CReferenceTest = std::function<bool(std::string_view address)>;
 
-    // Plans the files of a configuration file's effect that a page needs: in which folder it lies, and which file it
-    // is, both without links. Files that
-    // are missing, that lie outside of the configuration file's folder and the site's, that have no place in the
-    // site, or that would land on another one of the plan or on the page, are reported and left out.
+    // Plans the files of a configuration file's effect that a page needs: in which folder it lies, and which
+    // file it is, both without links. Files that are missing, that lie outside of the configuration file's
+    // folder and the site's, that have no place in the site, or that would land on another one of the plan or
+    // on the page, are reported and left out.
     void AddFiles(const CGeneratedEffect& effect, const std::filesystem::path& configFile,
                   const std::filesystem::path& pageFolder, const std::filesystem::path& page,
                   const CReferenceTest& isReferredTo);
 
-    // Plans a page, which may be none of the plan yet; `subject` is what it shows. Throws CFileError for `subject` when its place
-    // is taken or leads out of the site.
+    // Plans a page, which may be none of the plan yet; `subject` is what it shows. Throws CFileError for `subject`
+    // when its place is taken or leads out of the site.
     void AddPage(const std::filesystem::path& page, const std::string& content, const std::string& subject);
 
-    // Whether files with other content stand in the way that aren't ours: ours are those that the page's effect refers
-    // to already, and our scripts, whatever their age. Each is reported.
+    // Whether files with other content stand in the way that aren't ours: ours are those that the page's effect
+    // refers to already, and our scripts, whatever their age. Each is reported.
     bool HasObstacles() const;
 
-    // Writes what is planned, in that order, and prints the paths of the pages.
+    // Writes what is planned, the pages last, and prints their paths. What fails is reported, and the rest is done.
     void Write() const;
 
 private:

@@ -103,7 +103,7 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
 }
 
 fs::path CSite::FollowLinks(const fs::path& place, std::string& problem) const {
-    const fs::path end = FollowBelow(place, m_Root);
+    fs::path end = FollowBelow(place, m_Root);
     if (!end.empty())
         return end;
     std::error_code failed;
