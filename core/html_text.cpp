@@ -23,8 +23,9 @@ void SetMostHtml(std::size_t nBytes) {
 
 void CheckLength(std::size_t nBytes) {
     if (nBytes > g_nMost)
-        throw CRefusal("the effect's HTML would take " + std::to_string(nBytes) + " bytes, and no more than " +
-                       std::to_string(g_nMost) + " are made; give it fewer items or shorter texts");
+        throw CRefusal("the effect's HTML would take " + std::to_string(nBytes) +
+                       " bytes, and no more than " + std::to_string(g_nMost) +
+                       " are made; give it fewer items or shorter texts");
 }
 
 } // namespace orrelix
