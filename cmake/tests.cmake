@@ -94,6 +94,13 @@ set(host_file ${PROJECT_SOURCE_DIR}/examples/cool_link_rich.cfg)
 orrelix_host(orrelix_faults tests/faults/faults.cpp tests/faults/failing_heap.cpp)
 add_test(NAME hosts.faults COMMAND orrelix_faults 50)
 
+# Not beside the sanitizer that looks for leaks, which can't work where a process is traced.
+find_program(STRACE_PROGRAM strace)
+if(ORRELIX_HOST AND NODE_PROGRAM AND STRACE_PROGRAM AND NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    add_test(NAME hosts.system_calls COMMAND ${NODE_PROGRAM} ${PROJECT_SOURCE_DIR}/tests/faults/system_calls.mjs
+        $<TARGET_FILE:orrelix_program> $<TARGET_FILE:host_loaded> 29)
+endif()
+
 foreach(form linked loaded)
     orrelix_host(host_${form} tests/hosts/collisions.cpp)
     set_target_properties(host_${form} PROPERTIES ENABLE_EXPORTS ON)
