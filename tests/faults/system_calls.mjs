@@ -62,11 +62,13 @@ function run(folder, command, tracing = []) {
         done({ code: error ? error.code ?? error.signal : 0, out, complaint })));
 }
 
-// Every file and its bytes, but for the time at which it was written.
+// Every file and its bytes, but for the time at which it was written, and where an image lies now: beside it or, where
+// it couldn't be copied, where it was.
 function filesOf(folder) {
     const all = readdirSync(folder, { recursive: true }).map((name) => path.join(folder, name));
     return new Map(all.filter((file) => statSync(file).isFile()).map((file) => [
-        file.slice(folder.length + 1), readFileSync(file, "latin1").replace(/^LastUpdateTime = .*$/m, "")]));
+        file.slice(folder.length + 1), readFileSync(file, "latin1").replace(/^LastUpdateTime = .*$/m, "")
+            .replace(/^([^= ]+\.gif)=.*=/gm, "$1=")]));
 }
 
 async function makeStart(name, folder) {
