@@ -36,16 +36,35 @@ public:
         const int nNumber = std::atoi(pText);
         VARIANT& value = m_Values.emplace_back();
         switch (VariantInit(&value); piece[0]) {
-        case 'i': value.vt = VT_I4, value.lVal = nNumber; break;
-        case 'h': value.vt = VT_I2, value.iVal = static_cast<short>(nNumber); break;
-        case 'd': value.vt = VT_R8, value.dblVal = std::atof(pText); break;
-        case 't': value.vt = VT_DATE, value.date = std::atof(pText); break;
-        case 'b': value.vt = VT_BOOL, value.boolVal = static_cast<VARIANT_BOOL>(nNumber); break;
-        case 'e': value.vt = VT_ERROR, value.scode = nNumber; break;
-        case 'n': value.vt = VT_NULL; break;
-        case '0': break;
-        case 'x': value.vt = static_cast<VARTYPE>(nNumber), value.vt &= 0x3FFF, value.vt += value.vt == VT_BSTR; break;
-        default: value.vt = VT_BSTR, value.bstrVal = piece[0] == 'z' ? nullptr : AllocText(Written(pText, bFileToWrite));
+        case 'i':
+            value.vt = VT_I4, value.lVal = nNumber;
+            break;
+        case 'h':
+            value.vt = VT_I2, value.iVal = static_cast<short>(nNumber);
+            break;
+        case 'd':
+            value.vt = VT_R8, value.dblVal = std::atof(pText);
+            break;
+        case 't':
+            value.vt = VT_DATE, value.date = std::atof(pText);
+            break;
+        case 'b':
+            value.vt = VT_BOOL, value.boolVal = static_cast<VARIANT_BOOL>(nNumber);
+            break;
+        case 'e':
+            value.vt = VT_ERROR, value.scode = nNumber;
+            break;
+        case 'n':
+            value.vt = VT_NULL;
+            break;
+        case '0':
+            break;
+        case 'x':
+            value.vt = static_cast<VARTYPE>(nNumber), value.vt &= 0x3FFF, value.vt += value.vt == VT_BSTR;
+            break;
+        default:
+            value.vt = VT_BSTR,
+            value.bstrVal = piece[0] == 'z' ? nullptr : AllocText(Written(pText, bFileToWrite));
         }
         Pass(value, piece[0]);
     }
@@ -57,7 +76,8 @@ public:
 private:
     // Nothing is written but in the folder.
     static std::string Written(const char* pText, bool bFileToWrite) {
-        return bFileToWrite ? (FuzzFolder() / ("_" + Without(pText, "/\\", '_').substr(0, 100))).native() : pText;
+        return bFileToWrite ? (FuzzFolder() / ("_" + Without(pText, "/\\", '_').substr(0, 100))).native()
+                            : pText;
     }
 
     // The last argument comes first; some as references.
@@ -97,12 +117,20 @@ DISPID NumberOf(const CObjectPtr& object, const std::string& name) {
     DISPID nMember = DISPID_UNKNOWN;
     const HRESULT code = object->GetIDsOfNames(VignelIidNull, &wide, 1, 0, &nMember);
     SysFreeString(wide);
-    Require(code == S_OK ? nMember > 0 : code == DISP_E_UNKNOWNNAME && nMember == DISPID_UNKNOWN, "a name has a number or none");
+    Require(code == S_OK ? nMember > 0 : code == DISP_E_UNKNOWNNAME && nMember == DISPID_UNKNOWN,
+            "a name has a number or none");
     return code == S_OK ? nMember : std::atoi(name.c_str());
 }
 
-constexpr HRESULT kCodes[] = {S_OK, DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW,
-    DISP_E_PARAMNOTOPTIONAL, DISP_E_NONAMEDARGS, E_INVALIDARG, DISP_E_EXCEPTION};
+constexpr HRESULT kCodes[] = {S_OK,
+                              DISP_E_MEMBERNOTFOUND,
+                              DISP_E_BADPARAMCOUNT,
+                              DISP_E_TYPEMISMATCH,
+                              DISP_E_OVERFLOW,
+                              DISP_E_PARAMNOTOPTIONAL,
+                              DISP_E_NONAMEDARGS,
+                              E_INVALIDARG,
+                              DISP_E_EXCEPTION};
 
 // The result's text, if it has one.
 std::string Call(const CObjectPtr& object, DISPID nMember, WORD flags, CGivenArguments& arguments) {
@@ -111,18 +139,23 @@ std::string Call(const CObjectPtr& object, DISPID nMember, WORD flags, CGivenArg
     VariantInit(&result);
     EXCEPINFO exception{};
     UINT nWrong = 0xFFFF;
-    const HRESULT code = object->Invoke(nMember, VignelIidNull, 0, flags, &given, &result, &exception, &nWrong);
-    Require(std::find(std::begin(kCodes), std::end(kCodes), code) != std::end(kCodes), "a code that hosts are told of");
+    const HRESULT code =
+        object->Invoke(nMember, VignelIidNull, 0, flags, &given, &result, &exception, &nWrong);
+    Require(std::find(std::begin(kCodes), std::end(kCodes), code) != std::end(kCodes),
+            "a code that hosts are told of");
     Require(code == S_OK || result.vt == VT_EMPTY, "a call that fails has no result");
-    Require((code == DISP_E_EXCEPTION) == (SysStringLen(exception.bstrDescription) > 0), "a refusal says why");
-    Require((code != DISP_E_TYPEMISMATCH && code != DISP_E_OVERFLOW) || nWrong < given.cArgs, "a wrong argument is told");
+    Require((code == DISP_E_EXCEPTION) == (SysStringLen(exception.bstrDescription) > 0),
+            "a refusal says why");
+    Require((code != DISP_E_TYPEMISMATCH && code != DISP_E_OVERFLOW) || nWrong < given.cArgs,
+            "a wrong argument is told");
     const std::string text(result.vt == VT_BSTR ? TextOf(result.bstrVal).View() : std::string_view());
     SysFreeString(exception.bstrDescription);
     VariantClear(&result);
     return text;
 }
 
-std::string Call(const CObjectPtr& object, const char* pName, WORD flags, std::initializer_list<const char*> values) {
+std::string Call(const CObjectPtr& object, const char* pName, WORD flags,
+                 std::initializer_list<const char*> values) {
     CGivenArguments arguments;
     for (const char* pValue : values)
         arguments.Add(pValue, false);
@@ -136,7 +169,8 @@ void RequireUsable(const CObjectPtr& object) {
     Call(inspector, "Effect", DISPATCH_PROPERTYPUT, {"sColor Link"});
     Call(object, "Title", DISPATCH_PROPERTYPUT, {"sprobe"});
     Require(Call(object, "Title", DISPATCH_PROPERTYGET, {}) == "probe", "the object keeps a title");
-    Require(Call(object, "GetHTMLBody", DISPATCH_METHOD, {"i0", "i1"}).ends_with("\r\n"), "the object gives HTML");
+    Require(Call(object, "GetHTMLBody", DISPATCH_METHOD, {"i0", "i1"}).ends_with("\r\n"),
+            "the object gives HTML");
 }
 
 void FuzzCalls(CPieces pieces) {
@@ -145,9 +179,13 @@ void FuzzCalls(CPieces pieces) {
         const std::string head = pieces.Next() + "   ";
         const CObjectPtr& called = head[1] == 'i' ? inspector : object;
         const DISPID nMember = NumberOf(called, std::string(Trim(std::string_view(head).substr(3))));
-        const WORD flags = head[0] == 'm' ? DISPATCH_METHOD : head[0] == 'g' ? DISPATCH_PROPERTYGET : head[0] == 'p' ? DISPATCH_PROPERTYPUT : static_cast<WORD>(head[0]);
+        const WORD flags = head[0] == 'm'   ? DISPATCH_METHOD
+                           : head[0] == 'g' ? DISPATCH_PROPERTYGET
+                           : head[0] == 'p' ? DISPATCH_PROPERTYPUT
+                                            : static_cast<WORD>(head[0]);
         CGivenArguments arguments;
-        const bool bWrites = &called == &object && (nMember == NumberOf(object, "WriteConfigFile") || nMember == NumberOf(object, "WriteConfigFileEx"));
+        const bool bWrites = &called == &object && (nMember == NumberOf(object, "WriteConfigFile") ||
+                                                    nMember == NumberOf(object, "WriteConfigFileEx"));
         for (int nArgument = (head[2] - '0') & 7; nArgument > 0; --nArgument)
             arguments.Add(pieces.Next(), bWrites);
         Call(called, nMember, flags, arguments);

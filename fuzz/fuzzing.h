@@ -16,8 +16,7 @@ namespace orrelix {
 // anywhere.
 class CPieces {
 public:
-    CPieces(const std::uint8_t* pData, size_t nSize)
-        : m_Left(reinterpret_cast<const char*>(pData), nSize) {}
+    CPieces(const std::uint8_t* pData, size_t nSize) : m_Left(reinterpret_cast<const char*>(pData), nSize) {}
 
     bool AreLeft() const { return !m_Left.empty(); }
     std::string Next(); // empty behind the last

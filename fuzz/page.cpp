@@ -24,7 +24,8 @@ void CutOut(std::string& page, const std::string& word) {
     const CPageText text(page);
     const std::string outline(CString(text.GetOutline()).MakeLower().View());
     const size_t nBegin = outline.find("<!-- vignel " + word + ":"), nUnit = text.GetUnitSize();
-    const size_t nWord = outline.find("<!-- /vignel " + word + ":", nBegin), nEnd = outline.find("-->", nWord);
+    const size_t nWord = outline.find("<!-- /vignel " + word + ":", nBegin),
+                 nEnd = outline.find("-->", nWord);
     if (nBegin != outline.npos && nEnd != outline.npos)
         page.erase(nBegin * nUnit, (nEnd + 3 - nBegin) * nUnit);
 }
@@ -44,14 +45,15 @@ void FuzzPage(CPieces pieces) {
     while (pieces.AreLeft()) // of two bytes each, some of which are zero
         page += '\0' + pieces.Next();
     const auto placed = Placed(page, texts);
-    if (!placed)
+    // A text that declares an encoding declares the page's from then on, for browsers too.
+    if (!placed || Has(texts.m_Script + texts.m_Cursor, "charset"))
         return;
     Require(Placed(*placed, texts) == placed, "what is put in twice is there once");
-    const CTexts others{texts.m_Title, "<script src=\"other.js\"></script>", "<b>other</b>"};
+    // An empty script leaves the head alone, whatever it has.
+    const CTexts others{texts.m_Title, texts.m_Script.empty() ? "" : "<script src=\"other.js\"></script>",
+                        "<b>other</b>"};
     const auto replaced = Placed(*placed, others);
-    Require(replaced.has_value(), "what was put in can be replaced");
-    if (!texts.m_Script.empty()) // which leaves the head alone
-        Require(Placed(*replaced, texts) == placed, "what is replaced leaves no trace");
+    Require(replaced && Placed(*replaced, texts) == placed, "what is replaced leaves no trace");
     if (Has(page, "vignel cursor") || Has(page, "vignel script"))
         return;
     Require(replaced == Placed(page, others), "what is replaced is as if it were the first");

@@ -132,7 +132,7 @@ int RunCommand(const CCommand& command) {
 }
 
 int WrongUsage(const std::string& text) {
-    std::cerr << "orrelix: " << text << "\nTry 'orrelix --help'.\n";
+    std::cerr << "orrelix: " << Printable(text) << "\nTry 'orrelix --help'.\n";
     return kWrongUsage;
 }
 
