@@ -31,6 +31,7 @@ endif()
 find_program(NODE_PROGRAM node)
 if(NODE_PROGRAM)
     add_test(NAME includes COMMAND ${NODE_PROGRAM} --test ${PROJECT_SOURCE_DIR}/tests/includes.test.mjs)
+    add_test(NAME promises COMMAND ${NODE_PROGRAM} --test ${PROJECT_SOURCE_DIR}/tests/promises.test.mjs)
 endif()
 
 if(ORRELIX_HOST)

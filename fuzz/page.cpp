@@ -45,9 +45,14 @@ void FuzzPage(CPieces pieces) {
     while (pieces.AreLeft()) // of two bytes each, some of which are zero
         page += '\0' + pieces.Next();
     const auto placed = Placed(page, texts);
-    // A text that declares an encoding declares the page's from then on, for browsers too.
-    if (!placed || Has(texts.m_Script + texts.m_Cursor, "charset"))
+    if (!placed)
         return;
+    if (CPageText(*placed).GetEncoding() != CPageText(page).GetEncoding()) {
+        // For browsers too, a tag of the texts' may declare an encoding, or hide where the page does.
+        Require((texts.m_Script + texts.m_Cursor).find('<') != std::string::npos,
+                "a page keeps its encoding");
+        return;
+    }
     Require(Placed(*placed, texts) == placed, "what is put in twice is there once");
     // An empty script leaves the head alone, whatever it has.
     const CTexts others{texts.m_Title, texts.m_Script.empty() ? "" : "<script src=\"other.js\"></script>",
