@@ -18,7 +18,7 @@ const folder = (file) => file.split("/")[0];
 const rowOf = (file) => (standsOn.has(stem(file)) ? stem(file) : folder(file));
 
 const sources = execFileSync("git", ["ls-files", "*.h", "*.cpp"], { cwd: root, encoding: "utf8" })
-    .trim().split("\n").filter((file) => !["tests", "bench", "examples"].includes(folder(file)));
+    .trim().split("\n").filter((file) => !["tests", "fuzz", "bench", "examples"].includes(folder(file)));
 const includes = new Map(sources.map((file) => [
     file,
     [...readFileSync(path.join(root, file), "utf8").matchAll(/^#include "([^"]+)"/gm)].map((found) => found[1]),
