@@ -1,9 +1,7 @@
-#include "platform/file_lock.h"
 #include "platform/profile.h"
 #include "tests/support/user_settings.h"
 
 #include <array>
-#include <csignal>
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
@@ -201,22 +199,6 @@ TEST_F(Profile, ProcessesThatWriteAtOnceLoseNothing) {
     EXPECT_EQ(GetProfileString("shared", "Count"), ToText(kProcesses * kRounds));
     for (int nProcess = 0; nProcess < kProcesses; ++nProcess)
         EXPECT_EQ(GetProfileString("own", Key(nProcess)), ToText(kRounds));
-}
-
-TEST_F(Profile, ALockIsNotWaitedForForEverAndGoesWithAProcessThatIsKilled) {
-    const CString path = (m_User.Root() / "lock").c_str();
-    CFileLock second;
-    {
-        CFileLock first;
-        EXPECT_TRUE(first.Acquire(path, 0));
-        EXPECT_FALSE(second.Acquire(path, 20));
-    }
-    const pid_t nProcess = Start([&] {
-        CFileLock killed;
-        return killed.Acquire(path, 0) ? raise(SIGKILL) : 1;
-    });
-    EXPECT_TRUE(WIFSIGNALED(WaitFor(nProcess)));
-    EXPECT_TRUE(second.Acquire(path, 0));
 }
 
 } // namespace orrelix
