@@ -110,7 +110,7 @@ void PrintFieldsAsJson(const CEffectObject& object) {
         }
         json.push_back(std::move(row));
     }
-    std::cout << json.dump(2) << '\n';
+    std::cout << PrintableJson(json.dump(2)) << '\n';
 }
 
 void ListFields(const CEffectObject& object, const CEditOptions& options) {
@@ -209,7 +209,7 @@ void Write(const CEffectObject& object, const CEditOptions& options, CReport& re
         return report.Error(options.m_File.string(),
                             "can't be written: " + object.Ask<std::string>("GetError"));
     CheckCopies(object, directory, report);
-    std::cout << options.m_File.string() << '\n';
+    PrintWritten(options.m_File);
     WarnOfHarmfulTexts(object, options.m_File.string(), report);
 }
 

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <iostream>
 #include <system_error>
 
 namespace orrelix {
@@ -170,7 +169,7 @@ void CPlannedFiles::Write() const {
             if (const std::error_code error = file.Write())
                 m_Report.Error(file.m_Target.string(), "can't be written: " + error.message());
             else if (bPages)
-                std::cout << file.m_Target.string() << '\n';
+                PrintWritten(file.m_Target);
         }
     }
 }

@@ -10,7 +10,6 @@
 #include "platform/files.h"
 
 #include <fmt/format.h>
-#include <iostream>
 
 namespace orrelix {
 
@@ -107,7 +106,7 @@ void Publish(const CPublishOptions& options, CReport& report) {
         return;
     files.Write();
     if (*after == before || WritePage(pageFile, before, *after, pageName, report))
-        std::cout << pageName << '\n';
+        PrintWritten(pagePlace);
 }
 
 } // namespace orrelix

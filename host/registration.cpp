@@ -29,11 +29,11 @@ std::string DescriptionOf(const std::string& library) {
         const vignel::Object inspector = object.Inspector();
         std::string description;
         for (const char* pId : {"GetVignelNameID", "GetMessageTextID"})
-            description += "\n  " + inspector.Call<std::string>("GetText", object.GetResourceInstance(),
-                                                                object.Call<int>(pId));
+            description += "\n  " + Printable(inspector.Call<std::string>(
+                                        "GetText", object.GetResourceInstance(), object.Call<int>(pId)));
         return description;
     } catch (const std::exception& error) {
-        return std::string("\n  can't be loaded: ") + error.what();
+        return std::string("\n  can't be loaded: ") + Printable(error.what());
     }
 }
 
@@ -45,7 +45,7 @@ void Register(const std::filesystem::path& given, CReport& report) {
         return report.WrongUsage("register", "there is no component beside the program; name its library");
     if (!CallEntry(vignel::Library(std::filesystem::absolute(library)), "DllRegisterServer"))
         return report.Error(library.string(), "couldn't be registered: the user's registry can't be written");
-    std::cout << RegisteredLibrary(kProgID) << '\n';
+    std::cout << Printable(RegisteredLibrary(kProgID)) << '\n';
 }
 
 void Unregister(CReport& report) {
@@ -63,7 +63,7 @@ void PrintServers(CReport& report) {
     unsigned nServer = 0;
     for (; VignelFindInCategory(VIGNEL_CATEGORY, nServer, progId, sizeof progId); ++nServer) {
         const std::string library = RegisteredLibrary(progId);
-        std::cout << progId << "\n  " << library << DescriptionOf(library) << '\n';
+        std::cout << Printable(progId) << "\n  " << Printable(library) << DescriptionOf(library) << '\n';
     }
     if (nServer == 0)
         report.Warning("servers", "none is registered; 'orrelix register' enters the one beside the program");

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace orrelix {
 
@@ -44,8 +45,15 @@ private:
     int m_nExitCode = kSuccess;
 };
 
-// The text with its control characters as "\x1B", so that none reaches the terminal; a tab can.
-std::string Printable(const std::string& text);
+// What a terminal may get of a text that is to be in UTF-8: control characters but for the tab as "\x1B", marks of
+// direction as "\u202E", bytes that are no UTF-8 as "\xFF". All that is printed goes through it.
+std::string Printable(std::string_view text);
+
+// The same for JSON, in which all of these can only stand in strings.
+std::string PrintableJson(std::string_view json);
+
+// Prints the name of a file that has been written.
+void PrintWritten(const std::filesystem::path& file);
 
 // "1 character", "2 characters".
 std::string Counted(size_t nCount, const std::string& noun);

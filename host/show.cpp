@@ -176,7 +176,7 @@ void Show(const CShowOptions& options, CReport& report) {
     ReadConfig(options.m_File, object);
     CReadableFile readable(options, object);
     if (options.m_bJson)
-        std::cout << readable.ToJson().dump(2) << '\n';
+        std::cout << PrintableJson(readable.ToJson().dump(2)) << '\n';
     else if (object.Ask<bool>("IsConfigFile"))
         readable.Print(std::cout);
 
