@@ -113,6 +113,14 @@ CCommand AddServers(CLI::App& program) {
     return {program.add_subcommand("servers", "Print the components that editors find"), PrintServers};
 }
 
+// The program's exit code, once everything is printed.
+int Finish(CReport& report) {
+    std::cout.flush();
+    if (!std::cout)
+        report.Error("standard output", "can't be written");
+    return report.GetExitCode();
+}
+
 // Whatever a command throws makes the program fail and nothing else.
 int RunCommand(const CCommand& command) {
     CReport report;
@@ -125,10 +133,7 @@ int RunCommand(const CCommand& command) {
     } catch (const std::exception& error) {
         report.Error(command.m_pArguments->get_name(), error.what());
     }
-    std::cout.flush();
-    if (!std::cout)
-        report.Error("standard output", "can't be written");
-    return report.GetExitCode();
+    return Finish(report);
 }
 
 int WrongUsage(const std::string& text) {
@@ -190,7 +195,9 @@ int RunProgram(int nArguments, char** ppArguments) {
     try {
         program.parse(std::move(arguments));
     } catch (const CLI::Success& success) { // --help, --version
-        return program.exit(success);
+        program.exit(success);
+        CReport report;
+        return Finish(report);
     } catch (const CLI::ParseError& error) {
         const std::string meant = SayWhatWasMeant(program);
         return WrongUsage(meant.empty() ? error.what() : meant);
@@ -212,7 +219,7 @@ int main(int nArguments, char** ppArguments) {
     try {
         return orrelix::RunProgram(nArguments, ppArguments);
     } catch (const std::exception& error) {
-        std::cerr << "orrelix: " << error.what() << '\n';
+        std::cerr << "orrelix: " << orrelix::Printable(error.what()) << '\n';
         return orrelix::kFailure;
     }
 }

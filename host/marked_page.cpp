@@ -28,12 +28,14 @@ struct CPlaces {
     std::optional<size_t> m_HeadEnd;
     std::optional<size_t> m_HtmlBegin;
     std::optional<size_t> m_Body;
+    std::optional<size_t> m_Charset; // behind the tag that declares it
 
-    // Where a script goes into the head: before its end, which may be told by the body's beginning only.
+    // Where a script goes into the head: before its end, which may be told by the body's beginning only, and behind
+    // the page's charset, in which browsers read it.
     std::optional<size_t> ScriptPlace() const {
         if (m_HeadEnd && m_HeadEnd < m_Body.value_or(std::string::npos))
-            return m_HeadEnd;
-        return m_Body ? m_Body : m_HeadBegin ? m_HeadBegin : m_HtmlBegin;
+            return std::max(m_HeadEnd, m_Charset);
+        return m_Body ? m_Body : std::max(m_HeadBegin ? m_HeadBegin : m_HtmlBegin, m_Charset);
     }
 };
 
@@ -102,6 +104,8 @@ private:
             if (!row.m_Place && piece.m_Kind == row.m_Kind && piece.m_Name == row.m_pName)
                 row.m_Place = row.m_nPosition * m_Text.GetUnitSize();
         }
+        if (!places.m_Charset && !places.m_Body && !CharsetOf(piece, m_Outline).empty())
+            places.m_Charset = piece.m_nEnd * m_Text.GetUnitSize();
     }
 
     bool NoteComment(const CHtmlPiece& piece, CPlaces& places, std::string& problem) {
@@ -217,6 +221,13 @@ std::string Apply(std::string_view page, std::vector<CEdit> edits) {
 std::optional<std::string> CMarkedPage::Place(const std::string& title, std::string_view script,
                                               std::string_view cursor, std::string& problem) {
     CPlaces places;
+    if (m_Text.GetEncoding().empty() && !m_Text.GetCharset().empty()) {
+        problem = fmt::format(
+            "declares the charset \"{}\", which isn't known; give it one that browsers know, such as "
+            "utf-8",
+            m_Text.GetCharset());
+        return std::nullopt;
+    }
     if (!CPlaceFinder(m_Text, title).Find(places, problem))
         return std::nullopt;
     if (places.m_Marks.size() != 1) {
@@ -238,9 +249,10 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
         }
     }
     if (!script.empty()) {
-        // Where it stood before, unless that has come to lie behind the head.
-        const bool bKeepsPlace =
-            !places.m_Scripts.empty() && places.m_Scripts.front().m_nBegin < *scriptPlace;
+        // Where it stood before, unless that has come to lie behind the head or in front of the charset.
+        const bool bKeepsPlace = !places.m_Scripts.empty() &&
+                                 places.m_Scripts.front().m_nBegin < *scriptPlace &&
+                                 places.m_Scripts.front().m_nBegin >= places.m_Charset.value_or(0);
         const size_t nScript = bKeepsPlace ? places.m_Scripts.front().m_nBegin : *scriptPlace;
         edits.insert(edits.begin(), {{nScript, nScript}, Enclose("script", title, script)});
     }

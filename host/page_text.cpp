@@ -40,14 +40,7 @@ std::string_view DeclaredCharset(std::string_view page) {
     CHtmlScanner scanner(page);
     CHtmlPiece piece;
     while (scanner.Next(piece) && piece.m_Name != "body") {
-        if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
-            continue;
-        const std::string_view attributes =
-            page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
-        std::string_view charset = Trim(FindAttribute(attributes, "charset"));
-        if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
-            charset = CharsetOfContentType(FindAttribute(attributes, "content"));
-        if (!charset.empty())
+        if (const std::string_view charset = CharsetOf(piece, page); !charset.empty())
             return charset;
     }
     return {};
@@ -58,9 +51,10 @@ std::string_view DeclaredCharset(std::string_view page) {
 void MaskEscapedText(std::string& outline) {
     bool bAscii = true;
     for (size_t i = 0; i < outline.size(); ++i) {
-        if (outline[i] == '\x1B') {
-            const std::string_view sequence = std::string_view(outline).substr(i, 3);
-            bAscii = sequence == "\x1B(B" || sequence == "\x1B(J";
+        const std::string_view sequence = std::string_view(outline).substr(i, 3);
+        const bool bToAscii = sequence == "\x1B(B" || sequence == "\x1B(J";
+        if (bToAscii || sequence == "\x1B(I" || sequence == "\x1B$@" || sequence == "\x1B$B") {
+            bAscii = bToAscii;
             i += 2;
         } else if (!bAscii) {
             outline[i] = kNoAscii;
@@ -110,6 +104,17 @@ std::string WithoutReferences(std::string_view text, bool bUtf8) {
 
 } // namespace
 
+std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page) {
+    if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
+        return {};
+    const std::string_view attributes =
+        page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
+    const std::string_view charset = Trim(FindAttribute(attributes, "charset"));
+    if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
+        return CharsetOfContentType(FindAttribute(attributes, "content"));
+    return charset;
+}
+
 CPageText::CPageText(std::string page) : m_Page(std::move(page)), m_CodePageEncoding(orrelix::GetEncoding()) {
     DetectEncoding();
     MakeOutline();
@@ -123,7 +128,8 @@ void CPageText::DetectEncoding() {
             return;
         }
     }
-    m_Encoding = EncodingOfLabel(DeclaredCharset(m_Page));
+    m_Charset = DeclaredCharset(m_Page);
+    m_Encoding = EncodingOfLabel(m_Charset);
 }
 
 void CPageText::MakeOutline() {

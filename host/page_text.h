@@ -8,6 +8,11 @@
 
 namespace orrelix {
 
+struct CHtmlPiece;
+
+// The charset that a tag of a page declares; empty for any other piece.
+std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page);
+
 class CPageText {
 public:
     // Finds out the encoding: by a byte order mark, or else by the charset that the page declares.
@@ -22,6 +27,9 @@ public:
 
     // The name of the page's encoding; empty when it isn't known.
     const std::string& GetEncoding() const { return m_Encoding; }
+
+    // The charset that the page declares, where that says what it is in; empty when it declares none.
+    const std::string& GetCharset() const { return m_Charset; }
 
     // A text of the code page as the page has it. The bytes stay as they are when the page is in the code
     // page itself or its encoding isn't known.
@@ -38,6 +46,7 @@ private:
 
     std::string m_Page;
     std::string m_Outline;
+    std::string m_Charset;
     std::string m_Encoding;
     std::string m_CodePageEncoding;
     size_t m_nUnitSize = 1;

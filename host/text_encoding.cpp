@@ -82,41 +82,66 @@ void Encode(CConverter& encoder, std::string_view characters, CConvertedText& re
     }
 }
 
-// The labels for which browsers use another encoding than the one of that name, or whose name iconv hasn't.
+// The labels that browsers know, each between blanks, by iconv's name for what they take. A page that says that it is in
+// a UTF-16 by a tag, which is in ASCII, is taken for UTF-8.
 constexpr struct {
-    const char* m_pLabels; // each between blanks
+    const char* m_pLabels;
     const char* m_pEncoding;
 } kLabels[] = {
-    {" utf-8 utf8 unicode-1-1-utf-8 utf-16 utf-16le utf-16be ", "UTF-8"},
-    {" ascii us-ascii ansi_x3.4-1968 iso-8859-1 iso8859-1 iso_8859-1 latin1 l1 cp1252 x-cp1252 windows-1252 ",
-     "CP1252"},
-    {" iso-8859-9 iso8859-9 latin5 windows-1254 cp1254 ", "CP1254"},
-    {" iso-8859-11 tis-620 dos-874 windows-874 ", "CP874"},
-    {" gb2312 gbk x-gbk gb_2312 gb_2312-80 csgb2312 csiso58gb231280 iso-ir-58 chinese cp936 ", "CP936"},
-    {" shift_jis shift-jis sjis x-sjis ms_kanji ms932 windows-31j csshiftjis cp932 ", "CP932"},
-    {" euc-kr ks_c_5601-1987 ks_c_5601-1989 ksc5601 ksc_5601 korean windows-949 cseuckr cp949 iso-ir-149 "
-     "csksc56011987 ",
-     "CP949"},
-    {" euc-jp x-euc-jp cseucpkdfmtjapanese ", "EUC-JP"},
-    {" iso-2022-jp csiso2022jp ", "ISO-2022-JP"},
-    {" iso-8859-6-e iso-8859-6-i csiso88596e csiso88596i ", "ISO-8859-6"},
-    {" iso-8859-8-e iso-8859-8-i csiso88598e csiso88598i logical visual ", "ISO-8859-8"},
-    {" sun_eu_greek ", "ISO-8859-7"},
-    {" l9 csisolatin9 ", "ISO-8859-15"},
-    {" big5 big5-hkscs cn-big5 csbig5 x-x-big5 cp950 ", "CP950"},
-    {" ibm866 cp866 866 csibm866 ", "CP866"},
-    {" koi8-r koi koi8 koi8_r cskoi8r ", "KOI8-R"},
-    {" macintosh mac x-mac-roman csmacintosh ", "MACINTOSH"},
+    {" unicode-1-1-utf-8 unicode11utf8 unicode20utf8 utf-8 utf8 x-unicode20utf8 utf-16 utf-16le utf-16be "
+     "csunicode iso-10646-ucs-2 ucs-2 unicode unicodefeff unicodefffe ",
+     "UTF-8"},
+    {" 866 cp866 csibm866 ibm866 ", "CP866"},
+    {" csisolatin2 iso-8859-2 iso-ir-101 iso8859-2 iso88592 iso_8859-2 iso_8859-2:1987 l2 latin2 ",
+     "ISO-8859-2"},
+    {" csisolatin3 iso-8859-3 iso-ir-109 iso8859-3 iso88593 iso_8859-3 iso_8859-3:1988 l3 latin3 ",
+     "ISO-8859-3"},
+    {" csisolatin4 iso-8859-4 iso-ir-110 iso8859-4 iso88594 iso_8859-4 iso_8859-4:1988 l4 latin4 ",
+     "ISO-8859-4"},
+    {" csisolatincyrillic cyrillic iso-8859-5 iso-ir-144 iso8859-5 iso88595 iso_8859-5 iso_8859-5:1988 ",
+     "ISO-8859-5"},
+    {" arabic asmo-708 csiso88596e csiso88596i csisolatinarabic ecma-114 iso-8859-6 iso-8859-6-e "
+     "iso-8859-6-i iso-ir-127 iso8859-6 iso88596 iso_8859-6 iso_8859-6:1987 ",
+     "ISO-8859-6"},
+    {" csisolatingreek ecma-118 elot_928 greek greek8 iso-8859-7 iso-ir-126 iso8859-7 iso88597 iso_8859-7 "
+     "iso_8859-7:1987 sun_eu_greek ",
+     "ISO-8859-7"},
+    {" csiso88598e csiso88598i csisolatinhebrew hebrew iso-8859-8 iso-8859-8-e iso-8859-8-i iso-ir-138 "
+     "iso8859-8 iso88598 iso_8859-8 iso_8859-8:1988 logical visual ",
+     "ISO-8859-8"},
+    {" csisolatin6 iso-8859-10 iso-ir-157 iso8859-10 iso885910 l6 latin6 ", "ISO-8859-10"},
+    {" iso-8859-13 iso8859-13 iso885913 ", "ISO-8859-13"},
+    {" iso-8859-14 iso8859-14 iso885914 ", "ISO-8859-14"},
+    {" csisolatin9 iso-8859-15 iso8859-15 iso885915 iso_8859-15 l9 ", "ISO-8859-15"},
+    {" iso-8859-16 ", "ISO-8859-16"},
+    {" cskoi8r koi koi8 koi8-r koi8_r ", "KOI8-R"},
+    {" koi8-ru koi8-u ", "KOI8-U"},
+    {" csmacintosh mac macintosh x-mac-roman ", "MACINTOSH"},
     {" x-mac-cyrillic x-mac-ukrainian ", "MAC-CYRILLIC"},
+    {" dos-874 iso-8859-11 iso8859-11 iso885911 tis-620 windows-874 ", "CP874"},
+    {" cp1250 windows-1250 x-cp1250 ", "CP1250"},
+    {" cp1251 windows-1251 x-cp1251 ", "CP1251"},
+    {" ansi_x3.4-1968 ascii cp1252 cp819 csisolatin1 ibm819 iso-8859-1 iso-ir-100 iso8859-1 iso88591 "
+     "iso_8859-1 iso_8859-1:1987 l1 latin1 us-ascii windows-1252 x-cp1252 ",
+     "CP1252"},
+    {" cp1253 windows-1253 x-cp1253 ", "CP1253"},
+    {" cp1254 csisolatin5 iso-8859-9 iso-ir-148 iso8859-9 iso88599 iso_8859-9 iso_8859-9:1989 l5 latin5 "
+     "windows-1254 x-cp1254 ",
+     "CP1254"},
+    {" cp1255 windows-1255 x-cp1255 ", "CP1255"},
+    {" cp1256 windows-1256 x-cp1256 ", "CP1256"},
+    {" cp1257 windows-1257 x-cp1257 ", "CP1257"},
+    {" cp1258 windows-1258 x-cp1258 ", "CP1258"},
+    {" chinese csgb2312 csiso58gb231280 gb2312 gb_2312 gb_2312-80 gbk iso-ir-58 x-gbk ", "CP936"},
+    {" gb18030 ", "GB18030"},
+    {" big5 big5-hkscs cn-big5 csbig5 x-x-big5 ", "CP950"},
+    {" cseucpkdfmtjapanese euc-jp x-euc-jp ", "EUC-JP"},
+    {" csiso2022jp iso-2022-jp ", "ISO-2022-JP"},
+    {" csshiftjis ms932 ms_kanji shift-jis shift_jis sjis windows-31j x-sjis ", "CP932"},
+    {" cseuckr csksc56011987 euc-kr iso-ir-149 korean ks_c_5601-1987 ks_c_5601-1989 ksc5601 ksc_5601 "
+     "windows-949 ",
+     "CP949"},
 };
-
-// Whether ASCII text is the same bytes in the encoding.
-bool HoldsAscii(const std::string& encoding) {
-    std::string ascii;
-    for (char character = ' '; character < 0x7F; ++character)
-        ascii += character;
-    return ConvertText(ascii, "UTF-8", encoding).m_Text == ascii;
-}
 
 } // namespace
 
@@ -125,22 +150,13 @@ bool IsConvertible(const std::string& encoding) {
 }
 
 std::string EncodingOfLabel(std::string_view label) {
-    std::string name(CString(label).MakeLower().View());
-    if (name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-_.:") != std::string::npos)
+    const std::string name(CString(label).MakeLower().View());
+    if (name.find(' ') != std::string::npos)
         return {};
-    for (const auto& row : kLabels) {
-        if (std::string_view(row.m_pLabels).find(" " + name + " ") != std::string_view::npos)
-            return row.m_pEncoding;
-    }
-    for (std::string_view prefix : {"windows-", "x-cp"}) {
-        if (name.starts_with(prefix))
-            name.replace(0, prefix.size(), "cp");
-    }
-    // In upper case, like the encodings of code pages.
-    std::transform(name.begin(), name.end(), name.begin(), [](char byte) {
-        return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+    const auto row = std::find_if(std::begin(kLabels), std::end(kLabels), [&name](const auto& candidate) {
+        return std::string_view(candidate.m_pLabels).find(" " + name + " ") != std::string_view::npos;
     });
-    return !name.empty() && IsConvertible(name) && HoldsAscii(name) ? name : "";
+    return row != std::end(kLabels) && IsConvertible(row->m_pEncoding) ? row->m_pEncoding : "";
 }
 
 CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to) {

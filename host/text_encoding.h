@@ -12,7 +12,7 @@ namespace orrelix {
 bool IsConvertible(const std::string& encoding);
 
 // The encoding that browsers take for a page's charset label, such as "CP936" for "gb2312". Empty for a label
-// that isn't known, or whose ASCII characters are other bytes than ASCII's.
+// that they or this system don't know.
 std::string EncodingOfLabel(std::string_view label);
 
 struct CConvertedText {
