@@ -128,7 +128,7 @@ std::error_code SpellWithoutCase(const std::string& path, std::string& found) {
 COnDisk FindOnDisk(const CString& path) {
     COnDisk found{SystemSpelling(path), FileKind::None,
                   std::make_error_code(std::errc::no_such_file_or_directory)};
-    if (found.m_Path.empty() || found.m_Path.find('\0') != std::string::npos)
+    if (found.m_Path.empty() || found.m_Path.find('\0') != std::string::npos || !IsPath(path))
         return found;
     found = LookAt(found.m_Path);
     if (!IsAbsence(found.m_Error))
@@ -159,12 +159,14 @@ std::error_code FollowLinks(std::string& path) {
 // Where a file of this path is to be written: its directory as the disk spells it, and no symbolic link,
 // which replacing would break.
 std::error_code FindTarget(const CString& path, Spelling spelling, std::string& target) {
+    if (!IsPath(path))
+        return std::make_error_code(std::errc::invalid_argument);
     target = SystemSpelling(path);
     const size_t nName = target.rfind('/') + 1;
     const COnDisk found = spelling == Spelling::AnyCase ? FindOnDisk(path) : COnDisk();
     target = found.m_Kind != FileKind::None
                  ? found.m_Path
-                 : FindOnDisk(target.substr(0, nName)).m_Path + target.substr(nName);
+                 : FindOnDisk(path.Left(path.ReverseFind('\\') + 1)).m_Path + target.substr(nName);
     return FollowLinks(target);
 }
 

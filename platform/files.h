@@ -1,8 +1,8 @@
 // Files, as far as the component needs them.
 //
 // Paths have backslashes between their parts, as hosts give them; only here do they become the system's own:
-// on a system with slashes, "\home\ann\page.cfg" is /home/ann/page.cfg. A backslash that is the second byte
-// of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
+// on a system with slashes, "\home\ann\page.cfg" is /home/ann/page.cfg, and a slash within a name makes it that
+// of no file. A backslash that is the second byte of a character stays. Where the file system tells case apart, a path that is not found as spelled is looked
 // up part by part without regard to case, so that paths from systems that don't still work. A directory is
 // never a file, and "*" and "?" in a path are characters like others. Only what is certainly absent counts as that:
 // where the disk, its rights or the process's limits keep from looking, a file is taken to be there. Nothing here

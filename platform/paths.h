@@ -25,6 +25,10 @@ CString DirectoryOfPath(const CString& path);
 // The text with slashes for backslashes, but for those that are the second byte of a character.
 CString WithSlashes(CString text);
 
+// Whether the path can name a file. A "/" within one of its names can't: the system would take it for a step, and a name
+// of a stranger's would lead anywhere.
+bool IsPath(const CString& path);
+
 // The path as the system spells it.
 std::string SystemSpelling(const CString& path);
 
