@@ -18,6 +18,7 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <tuple>
 #include <unistd.h>
 
 namespace {
@@ -169,6 +170,30 @@ constexpr struct {
     {"DllUnregisterServer", Unregister, Register},
 };
 
+// What an object holds, as its members tell it.
+std::string StateOf(const CHost& host) {
+    const auto& [orrelix, inspector] = std::tie(host.m_Orrelix, host.m_Inspector);
+    std::string state = inspector.Call<std::string>("GetEffectType");
+    for (const char* pProperty :
+         {"ProgID", "Title", "Description", "BitmapFileName", "PreviewPath", "LastUpdateTime"})
+        state += "\n" + orrelix.Get<std::string>(pProperty);
+    for (const auto& field : inspector.Call<vignel::Items>("GetFieldNames")) {
+        state += "\n" + field;
+        if (!inspector.Call<bool>("IsFieldList", field))
+            state += " " + inspector.Call<std::string>("GetField", field);
+        else
+            for (const auto& item : inspector.Call<vignel::Items>("GetFieldItems", field))
+                state += "|" + item;
+    }
+    for (const auto& key : inspector.Call<vignel::Items>("GetParameterKeys"))
+        state += "\n" + inspector.Call<std::string>("GetParameterValue", key);
+    for (int nSegment = 0; nSegment < inspector.Call<int>("GetSegmentNumber"); ++nSegment)
+        state += "\n" + inspector.Call<std::string>("GetSegmentBody", nSegment);
+    for (short nResource = 0; nResource < orrelix.GetResourceNumber(); ++nResource)
+        state += "\n" + orrelix.GetResourceLocalPath(nResource) + orrelix.GetResourceName(nResource);
+    return state + orrelix.GetHTMLBody(0, 0) + orrelix.GetHTMLBody(1, 1);
+}
+
 // What an object is good for, whatever came before.
 std::string Probe(const CHost& host) {
     host.m_Inspector.Put("CodePage", 65001);
@@ -199,7 +224,9 @@ bool HaveAll(const std::vector<CMemberCall>& calls, const vignel::Object& object
 
 struct CExpected {
     CAnswer m_Answer;
-    std::string m_Probe; // of the object afterwards
+    std::string m_Probe;  // of the object afterwards
+    std::string m_Before; // its states
+    std::string m_After;
     std::vector<CAnswer> m_Failures;
 };
 
@@ -256,6 +283,8 @@ std::string FaultOf(const CState& state, const CCall& call, const CExpected& exp
         if (entry.path().filename().native().starts_with('.'))
             fault += " leaves a temporary file";
     }
+    if (const std::string now = StateOf(host); now != expected.m_Before && now != expected.m_After)
+        fault += " is left half done";
     if (call(host) != expected.m_Answer)
         fault += " can't be repeated";
     if (Probe(host) != expected.m_Probe)
@@ -264,7 +293,7 @@ std::string FaultOf(const CState& state, const CCall& call, const CExpected& exp
 }
 
 void CTrial::Try(const std::string& name, const CState& state, const CCall& call) {
-    CExpected expected{{}, "", {{VIGNEL_E_OUTOFMEMORY, ""}}};
+    CExpected expected{{}, "", "", "", {{VIGNEL_E_OUTOFMEMORY, ""}}};
     for (const char* pMember : {"ReadConfigFile", "WriteConfigFile", "Config"}) {
         if (name.starts_with(pMember))
             expected.m_Failures.push_back({VIGNEL_S_OK, "false"});
@@ -274,8 +303,10 @@ void CTrial::Try(const std::string& name, const CState& state, const CCall& call
     // Twice: what the system's library keeps for ever is there from then on.
     for (int nTime = 0; nTime < 2; ++nTime) {
         g_heap.FailAt(0, false);
+        expected.m_Before = StateOf(CHost(state));
         const CHost host(state);
         expected.m_Answer = call(host);
+        expected.m_After = StateOf(host);
         expected.m_Probe = Probe(host);
     }
     EachAllocation(name, [&] {
