@@ -44,7 +44,7 @@ testEverywhere(givePage(`<html><head>${head}</head><body>${body}</body></html>`)
     }
     await page.locator("#tool_tip a").hover();
     await page.getByRole("tooltip").waitFor();
-}, { context: { viewport: { width: 1000, height: 4200 } } }); // what is out of view rests
+}, { viewport: { width: 1000, height: 4200 } }); // what is out of view rests
 
 const AXE = readFileSync(path.join(import.meta.dirname, "node_modules/axe-core/axe.min.js"), "utf8");
 const PAGES = readdirSync(process.env.ORRELIX_PAGES).filter((name) => /_(plain|rich)\.html$/.test(name))
@@ -79,4 +79,4 @@ testEverywhere(names[0], "on a small screen no page scrolls sideways, and a tool
                 found.push(`${name}: ${id} ${nodes[0].html.slice(0, 80)}`);
     }
     assert.deepEqual(found, []);
-}, { context: { viewport: { width: 360, height: 640 } } });
+}, { viewport: { width: 360, height: 640 } });

@@ -189,4 +189,4 @@ testEverywhere(together(cramped(calender.body + inForm.body)), "every text stand
         .map((box) => [box.value ?? box.textContent, box.clientWidth, box.clientHeight, getComputedStyle(box).fontSize]));
     assert.deepEqual(cut, []);
     assert.ok(await page.getByText("Welcome to the mill").isVisible());
-}, { before: at("2026-11-22T21:05"), context: { viewport: { width: 360, height: 640 } } });
+}, { before: at("2026-11-22T21:05"), viewport: { width: 360, height: 640 } });

@@ -97,7 +97,7 @@ for (const effect of Object.keys(NAMES)) {
         assert.equal(await active(), LINKS[1][0], "opens at the chosen item");
         await page.keyboard.press("Tab");
         await closed(page);
-    }, { before, shows: { [NAMES[effect]]: ["keys"] } });
+    }, { before, alone: true, shows: { [NAMES[effect]]: ["keys"] } }); // the last Tab leaves the page
 
     testEverywhere(`${effect}_rich`, "the list stays in the window and moves nothing of the page", async ({ page }) => {
         await page.locator("table").first().evaluate((table) => {
@@ -165,7 +165,7 @@ for (const [effect, change] of Object.entries(withItems)) {
             return !element.dispatchEvent(event);
         });
         assert.equal(handled, false, "Alt and a letter are the browser's");
-    }, { before, context: { viewport: { width: 300, height: 500 } } });
+    }, { before, viewport: { width: 300, height: 500 } });
 }
 
 const together = ["fade_select_plain", "fade_select_rich", "cool_link_plain", "cool_link_rich"];

@@ -29,9 +29,13 @@ const SHEETS = {
 const givenPages = new Map();
 let nGivenPages = 0;
 
-function inMode(html, mode) {
+// What runs in pages before their own first script, by the number with which they are asked for.
+const preludes = [""];
+
+function inMode(html, mode, prelude) {
     const bare = html.toString("latin1").replace(/^\s*<!doctype[^>]*>\s*/i, "");
-    return Buffer.from(mode === "standards" ? `<!DOCTYPE html>\r\n${bare}` : bare, "latin1");
+    const first = prelude && `<script>${prelude}; document.currentScript.remove()</script>`;
+    return Buffer.from((mode === "standards" ? "<!DOCTYPE html>\r\n" : "") + first + bare, "latin1");
 }
 
 // The bytes of a file below ORRELIX_PAGES or of a style sheet, or undefined.
@@ -43,14 +47,15 @@ function readPage(relative) {
 }
 
 async function answer(request, response) {
-    const pathname = decodeURIComponent(new URL(request.url, "http://localhost").pathname);
+    const url = new URL(request.url, "http://localhost");
+    const pathname = decodeURIComponent(url.pathname);
     const [, mode, relative] = /^\/(standards|quirks)\/(.*)$/s.exec(pathname) ?? [];
     const bytes = mode && (givenPages.get(relative) ?? (await readPage(relative)));
     if (!bytes)
         return response.writeHead(pathname === "/favicon.ico" ? 204 : 404).end();
     const type = CONTENT_TYPES[path.extname(relative).toLowerCase()] ?? "application/octet-stream";
     response.writeHead(200, { "Content-Type": type, "Cache-Control": "no-store" });
-    response.end(type === "text/html" ? inMode(bytes, mode) : bytes);
+    response.end(type === "text/html" ? inMode(bytes, mode, preludes[Number(url.searchParams.get("prelude"))]) : bytes);
 }
 
 const BROWSERS = {
@@ -61,11 +66,12 @@ const BROWSERS = {
     firefox: () => firefox.launch({
         channel: "moz-firefox",
         executablePath: process.env.FIREFOX ?? "/usr/bin/firefox-esr",
-        firefoxUserPrefs: { "dom.w3c_touch_events.enabled": 1 },
+        firefoxUserPrefs: { "dom.w3c_touch_events.enabled": 1, "dom.ipc.processPrelaunch.enabled": false, "fission.autostart": false },
     }),
 };
 
 const MODES = ["standards", "quirks"];
+const VIEWPORT = { width: 1000, height: 700 };
 
 // The server and the browsers start with the first page that needs them and end with the file's last test.
 const started = {};
@@ -178,12 +184,11 @@ export async function tap(page, where) {
 }
 
 // A page in a browser context of its own, with the complaints of its console and scripts.
-async function newPage({ browser, calm = false, before, clock = false, context: given }) {
+async function newPage({ browser, calm = false, clock = false }) {
     const context = await (await onlyOnce(browser, BROWSERS[browser])).newContext({
         reducedMotion: calm ? "reduce" : "no-preference",
-        viewport: { width: 1000, height: 700 },
+        viewport: VIEWPORT,
         hasTouch: true,
-        ...given,
     });
     const page = await context.newPage();
     const errors = [];
@@ -196,24 +201,24 @@ async function newPage({ browser, calm = false, before, clock = false, context: 
         await page.clock.install();
     if (isFirefox(page))
         await page.addInitScript(answerCalm, calm);
-    if (before)
-        await page.addInitScript(before);
     return { page, errors };
 }
 
-// Making a page takes longer than most tests: those that ask for nothing special take one that another has left.
+// Making a page takes longer than most tests: they take one that another has left.
 const left = new Map();
 
 async function takePage(options) {
-    const { browser, calm = false, before, clock, context } = options;
-    const bSpecial = Boolean(before || clock || context);
+    const { browser, calm = false, clock, alone = clock, viewport = VIEWPORT } = options;
     const key = `${browser} ${calm}`;
-    const taken = (!bSpecial && left.get(key)?.pop()) || (await newPage(options));
+    const taken = (!alone && left.get(key)?.pop()) || (await newPage(options));
     await taken.page.bringToFront();
+    const { width, height } = taken.page.viewportSize();
+    if (width !== viewport.width || height !== viewport.height)
+        await taken.page.setViewportSize(viewport);
     return {
         ...taken,
         async giveBack() {
-            if (bSpecial)
+            if (alone)
                 return taken.page.context().close();
             await taken.page.goto("about:blank");
             await taken.page.mouse.move(0, 0);
@@ -225,18 +230,28 @@ async function takePage(options) {
     };
 }
 
+function preludeOf(before) {
+    if (!before)
+        return "";
+    const text = typeof before === "function" ? `(${before})()` : before;
+    if (!preludes.includes(text))
+        preludes.push(text);
+    return `?prelude=${preludes.indexOf(text)}`;
+}
+
 // Opens NAME.html.
 //   mode           "standards" or "quirks"
 //   calm           the visitor asks for reduced motion
-//   before         an arrow function run in the page before its first script (see Playwright's addInitScript)
+//   before         run in the page before its first script: an arrow function, or statements as text
 //   clock          true: the page's time stands still until the test moves it with page.clock
-//   context        more for the browser context, such as { viewport: { width: 360, height: 640 } }
+//   alone          true: the page is for this test alone, which leaves it as no other can use it
+//   viewport       the window's size, if not 1000 by 700: { width: 360, height: 640 }
 //   shows          what docs/browsers.md may say of it: { "ToolTip": ["mouse", "touch"] }
 // Gives {page, errors, close}. close() throws when the console or a script complained; errors lists the complaints
 // so far, and a test that provokes one on purpose empties it.
 async function openEffect(name, options) {
     const { origin } = await onlyOnce("server", startServer);
-    const url = `${origin}/${options.mode}/${name}.html`;
+    const url = `${origin}/${options.mode}/${name}.html${preludeOf(options.before)}`;
     const { page, errors, giveBack } = await takePage(options);
     assert.ok((await page.goto(url)).ok(), `no ${url}`);
     return {

@@ -80,7 +80,7 @@ testEverywhere(page, "they look as on a page of their own, and leave the page's 
         .map((rule) => rule.selectorText)
         .filter((selector) => document.querySelector(`#others :is(${selector})`) || document.body.matches(selector)));
     assert.deepEqual(reached, []);
-}, { context: { viewport: { width: 1000, height: 2500 } } }); // every list has room below
+}, { viewport: { width: 1000, height: 2500 } }); // every list has room below
 
 testEverywhere(page, "they stand whole on paper", async ({ page }) => {
     // Not every driver can ask its browser for it: what is said for paper is made to hold on the screen.
