@@ -61,9 +61,8 @@ void CCopyResourcesDlg::OnOK() {
     for (int nRow = 0; nRow < list.GetItemCount(); ++nRow) {
         const CString source = list.GetItemText(nRow, 1);
         const CString copy = m_Destination + list.GetItemText(nRow, 0);
-        // Nobody hears of a failure here. The texts stay then: at the copy's place is nothing, or another picture.
-        if (CopyWholeFile(source, copy))
-            continue;
+        // Nobody hears of a failure, and the texts point at the copy all the same.
+        CopyWholeFile(source, copy);
         for (CString* pPath : m_Clashes.at(source))
             *pPath = copy;
     }

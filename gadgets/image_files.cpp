@@ -30,9 +30,7 @@ bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& han
         return true;
     if (FileExists(destination + name))
         return false;
-    // What isn't there must not be referred to: the file would be taken for lost.
-    if (CopyWholeFile(source + name, destination + name))
-        return true;
+    CopyWholeFile(source + name, destination + name);
     handled.Add(path);
     path = destination + name;
     return true;

@@ -13,8 +13,8 @@ namespace orrelix {
 // The copy of a user's file whose full path the gadget holds in `path`. `destination` is a directory with a
 // backslash at its end; `handled` collects the paths that one run has copied. False when a file of that name
 // is there already and the user has to be asked: nothing has been copied then. On a copy `path` becomes that
-// of the copy, and stays where copying fails; where the file certainly doesn't exist it becomes empty; with `force`
-// not 0 the file is copied over whatever is there and `path` stays.
+// of the copy, whether it could be made or not; where the file certainly doesn't exist it becomes empty; with
+// `force` not 0 the file is copied over whatever is there and `path` stays.
 bool CopyGadgetFile(CString& path, const CString& destination, CStringArray& handled, short force);
 
 // The size of an image, in pixels as decimal text; empty where none was given.

@@ -1,10 +1,9 @@
 #include "host/edit.h"
 
 #include "host/component.h"
-#include "host/effect_check.h"
+#include "host/effect_writer.h"
 #include "host/fields.h"
 #include "host/files.h"
-#include "host/generated_effect.h"
 #include "host/nearest_word.h"
 #include "host/text_encoding.h"
 #include "host/title.h"
@@ -117,100 +116,10 @@ void ListFields(const CEffectObject& object, const CEditOptions& options) {
     options.m_bJson ? PrintFieldsAsJson(object) : PrintFields(object);
 }
 
-// Whether a file that the effect needs would land on another one. Without a screen nobody can be asked, and a
-// name that is taken would leave the effect without its image.
-bool WouldOverwrite(const CEffectObject& object, const CString& directory, CReport& report) {
-    const CListedDirectories listed;
-    bool bTaken = false;
-    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
-        const CString name = object.GetResourceName(nIndex);
-        const CString source = object.GetResourceLocalPath(nIndex);
-        // Scripts are the component's own and are always brought up to date.
-        if (source == object.GetScriptFolder() || source == directory || !FileExists(directory + name))
-            continue;
-        report.Error(
-            SystemPath(directory + name).string(),
-            "is there already and would be overwritten; give the image another name, or say --overwrite");
-        bTaken = true;
-    }
-    return bTaken;
-}
-
-// Whether copying a file that the effect needs would write through a link out of the folder. The component takes a
-// name in any case for the file that is there.
-bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, CReport& report) {
-    std::set<CString> names;
-    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
-        if (object.GetResourceLocalPath(nIndex) != directory)
-            names.insert(CString(object.GetResourceName(nIndex)).MakeLower());
-    }
-    bool bElsewhere = false;
-    const fs::path folder = SystemPath(directory);
-    std::error_code noSuchFolder; // is told when the file is written
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, noSuchFolder)) {
-        if (!entry.is_symlink() || !names.contains(CString(entry.path().filename().string()).MakeLower()) ||
-            !FollowBelow(entry.path(), folder).empty())
-            continue;
-        report.Error(entry.path().string(),
-                     "is a link to a place outside of the folder, where the effect needs a file of its own; "
-                     "remove the link");
-        bElsewhere = true;
-    }
-    return bElsewhere;
-}
-
-// Writing makes the component forget files that are gone, which nobody asked for.
-bool HasLostFiles(const CEffectObject& object, const CEditOptions& options, CReport& report) {
-    const CListedDirectories listed;
-    bool bLost = false;
-    for (const CNamedField& field : ListFields(object)) {
-        for (const CString& value : field.m_Values) {
-            if (!field.IsFile() || value.IsEmpty() || FileExists(FromSystemPath(value)))
-                continue;
-            report.Error(
-                options.m_File.string(),
-                fmt::format("the effect needs the file {}, which is missing; put it there, or set {} "
-                            "to another one or to nothing",
-                            value.View(), field.m_Name));
-            bLost = true;
-        }
-    }
-    return bLost;
-}
-
-// The component doesn't say when a copy fails.
-void CheckCopies(const CEffectObject& object, const CString& directory, CReport& report) {
-    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
-        const CString name = object.GetResourceName(nIndex);
-        const CString source = object.GetResourceLocalPath(nIndex) + name;
-        if (!SameContent(source, directory + name))
-            report.Error(SystemPath(directory + name).string(),
-                         fmt::format("the page needs it, but {} couldn't be copied there",
-                                     SystemPath(source).string()));
-    }
-}
-
 void Write(const CEffectObject& object, const CEditOptions& options, CReport& report) {
-    const CString path = ComponentPath(options.m_File);
-    const CString directory = DirectoryOfPath(path) + "\\";
-    if (const std::string problem = WhyNotInFile(ListFields(object)); !problem.empty())
-        return report.Error(options.m_File.string(), problem);
     // Who has worked in dialogs isn't sent away with nothing.
     const bool bByOptions = !options.m_Sets.empty() || !options.m_Effect.empty();
-    if (HasLostFiles(object, options, report) && bByOptions)
-        return;
-    if (WouldWriteElsewhere(object, directory, report))
-        return;
-    if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
-        WouldOverwrite(object, directory, report))
-        return;
-    object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
-    if (!object.WriteConfigFileEx(PathForComponent(options.m_File), options.m_bOverwrite))
-        return report.Error(options.m_File.string(),
-                            "can't be written: " + object.Ask<std::string>("GetError"));
-    CheckCopies(object, directory, report);
-    PrintWritten(options.m_File);
-    WarnOfHarmfulTexts(object, options.m_File.string(), report);
+    WriteEffect(object, options.m_File, {options.m_bOverwrite, bByOptions}, report);
 }
 
 // Runs the dialogs. False when there is nobody to show them to, or who cancelled.

@@ -191,6 +191,11 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
     return pattern.find_first_not_of('*', nPattern) == std::string_view::npos;
 }
 
+// What a number of a temporary file stands behind; those of COutputFile begin with 1.
+std::string TemporaryPrefix() {
+    return std::string(kTemporaryPrefix) + std::to_string(GetProcessNumber()) + "-";
+}
+
 // The process by which a temporary file of this name was made; 0 when it is no such name.
 int MakerOf(const char* pName) {
     if (!std::string_view(pName).starts_with(kTemporaryPrefix)) // as nearly all of a large directory
@@ -352,6 +357,10 @@ void COutputFile::RemoveLeftovers(const CString& directory) {
     RemoveLeftoversIn(FindOnDisk(directory).m_Path + "/");
 }
 
+std::string COutputFile::DraftName() {
+    return TemporaryPrefix() + "0";
+}
+
 COutputFile::COutputFile() = default;
 
 COutputFile::~COutputFile() {
@@ -393,8 +402,7 @@ std::error_code COutputFile::CreateTemporary() {
     const std::string directory = m_Target.substr(0, m_Target.rfind('/') + 1);
     if (m_Durability == Durability::PowerCut)
         RemoveLeftoversIn(directory);
-    const std::string prefix =
-        directory + std::string(kTemporaryPrefix) + std::to_string(GetProcessNumber()) + "-";
+    const std::string prefix = directory + TemporaryPrefix();
     std::error_code error = std::make_error_code(std::errc::file_exists);
     for (int nTry = 0; nTry < 100 && error == std::errc::file_exists; ++nTry) {
         m_Temporary = prefix + std::to_string(++s_nCounter);

@@ -112,6 +112,9 @@ public:
     // Deletes the temporary files that processes left in the directory when they were killed.
     static void RemoveLeftovers(const CString& directory);
 
+    // The name of a file that this process makes in a directory for a moment: it is one of those.
+    static std::string DraftName();
+
     COutputFile();
     ~COutputFile();
 

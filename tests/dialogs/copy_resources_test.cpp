@@ -83,12 +83,11 @@ TEST_F(CopyResources, ClosingItCopiesNothing) {
     EXPECT_EQ(InSite("photo.gif"), "old photo");
 }
 
-TEST_F(CopyResources, AFailedCopyLeavesTheTextAtItsFile) {
-    const CString logo = m_Logo;
-    std::filesystem::remove(m_Site.File("logo.jpg"));
-    std::filesystem::create_directory(m_Site.File("logo.jpg"));
+TEST_F(CopyResources, AFailedCopyStillMovesTheText) {
+    std::filesystem::remove(m_Source.File("logo.jpg"));
     Run({"clicks OK"});
-    EXPECT_EQ(m_Logo, logo);
+    EXPECT_EQ(m_Logo, m_OldLogo);
+    EXPECT_EQ(InSite("logo.jpg"), "old logo");
 }
 
 TEST_F(CopyResources, BrowseListsTheImagesOfTheDestination) {

@@ -1,0 +1,218 @@
+#include "host/effect_writer.h"
+
+#include "host/effect_check.h"
+#include "host/fields.h"
+#include "host/files.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+
+#include <chrono>
+#include <fmt/format.h>
+#include <set>
+
+namespace orrelix {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Whether a file that the effect needs would land on another one. Without a screen nobody can be asked, and a
+// name that is taken would leave the effect without its image.
+bool WouldOverwrite(const CEffectObject& object, const CString& directory, CReport& report) {
+    const CListedDirectories listed;
+    bool bTaken = false;
+    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
+        const CString name = object.GetResourceName(nIndex);
+        const CString source = object.GetResourceLocalPath(nIndex);
+        // Scripts are the component's own and are always brought up to date.
+        if (source == object.GetScriptFolder() || source == directory || !FileExists(directory + name))
+            continue;
+        report.Error(
+            SystemPath(directory + name).string(),
+            "is there already and would be overwritten; give the image another name, or say --overwrite");
+        bTaken = true;
+    }
+    return bTaken;
+}
+
+// Whether copying a file that the effect needs would write through a link out of the folder. The component takes a
+// name in any case for the file that is there.
+bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, CReport& report) {
+    std::set<CString> names;
+    for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
+        if (object.GetResourceLocalPath(nIndex) != directory)
+            names.insert(CString(object.GetResourceName(nIndex)).MakeLower());
+    }
+    bool bElsewhere = false;
+    const fs::path folder = SystemPath(directory);
+    std::error_code noSuchFolder; // is told when the file is written
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, noSuchFolder)) {
+        if (!entry.is_symlink() || !names.contains(CString(entry.path().filename().string()).MakeLower()) ||
+            !FollowBelow(entry.path(), folder).empty())
+            continue;
+        report.Error(entry.path().string(),
+                     "is a link to a place outside of the folder, where the effect needs a file of its own; "
+                     "remove the link");
+        bElsewhere = true;
+    }
+    return bElsewhere;
+}
+
+// Writing makes the component forget files that are gone, which nobody asked for.
+bool HasLostFiles(const CEffectObject& object, const fs::path& file, CReport& report) {
+    const CListedDirectories listed;
+    bool bLost = false;
+    for (const CNamedField& field : ListFields(object)) {
+        for (const CString& value : field.m_Values) {
+            if (!field.IsFile() || value.IsEmpty() || FileExists(FromSystemPath(value)))
+                continue;
+            report.Error(
+                file.string(),
+                fmt::format("the effect needs the file {}, which is missing; put it there, or set {} "
+                            "to another one or to nothing",
+                            value.View(), field.m_Name));
+            bLost = true;
+        }
+    }
+    return bLost;
+}
+
+bool IsCopied(const CString& source, const CString& copy, CReport& report) {
+    if (SameContent(source, copy))
+        return true;
+    report.Error(SystemPath(copy).string(), fmt::format("the page needs it, but {} couldn't be copied there",
+                                                        SystemPath(source).string()));
+    return false;
+}
+
+// The images of the effect, in the order of its fields, as the system spells their paths.
+std::vector<CString> ImagesOf(const CEffectObject& object) {
+    std::vector<CString> images;
+    for (const CNamedField& field : ListFields(object)) {
+        if (field.IsFile())
+            images.insert(images.end(), field.m_Values.begin(), field.m_Values.end());
+    }
+    return images;
+}
+
+// What the component writes for a file, under another name beside it: it refers to its copies of scripts and images
+// whether they could be made or not.
+class CDraft {
+public:
+    CDraft(const CEffectObject& object, const fs::path& file, bool bOverwrite)
+        : m_Object(object), m_Directory(DirectoryOfPath(ComponentPath(file)) + "\\"),
+          m_bOverwrite(bOverwrite), m_Images(ImagesOf(object)),
+          m_Path(SystemPath(m_Directory) / COutputFile::DraftName()) {
+        for (const fs::directory_entry& entry : fs::directory_iterator(m_Path.parent_path(), m_Error))
+            m_Before.insert(entry.path().filename());
+    }
+    ~CDraft() {
+        std::error_code none;
+        fs::remove(m_Path, none);
+    }
+    CDraft(const CDraft&) = delete;
+    CDraft& operator=(const CDraft&) = delete;
+
+    // The result says why it can't be written, and is empty otherwise.
+    std::string Write(std::string& content) const {
+        if (m_Error)
+            return m_Error.message();
+        if (!m_Object.WriteConfigFileEx(m_Path, m_bOverwrite))
+            return m_Object.Ask<std::string>("GetError");
+        const std::error_code error = ReadWholeFile(ComponentPath(m_Path), content);
+        return error ? error.message() : std::string();
+    }
+
+    bool HasItsFiles(CReport& report) const {
+        const bool bScripts = AreScriptsCopied(report);
+        return AreImagesCopied(report) && bScripts;
+    }
+
+    // Takes the copies back. Scripts stay, on which another effect may count by now.
+    void RemoveImages() const {
+        const CString scripts = m_Object.GetScriptFolder();
+        for (int nIndex = 0; nIndex < m_Object.GetResourceNumber(); ++nIndex) {
+            const fs::path name = std::string(CString(m_Object.GetResourceName(nIndex)).View());
+            std::error_code none;
+            if (CString(m_Object.GetResourceLocalPath(nIndex)) != scripts && !m_Before.contains(name))
+                fs::remove(m_Path.parent_path() / name, none);
+        }
+    }
+
+private:
+    bool AreScriptsCopied(CReport& report) const {
+        bool bAll = true;
+        const CString scripts = m_Object.GetScriptFolder();
+        for (int nIndex = 0; nIndex < m_Object.GetResourceNumber(); ++nIndex) {
+            const CString name = m_Object.GetResourceName(nIndex);
+            if (CString(m_Object.GetResourceLocalPath(nIndex)) == scripts &&
+                !IsCopied(scripts + name, m_Directory + name, report))
+                bAll = false;
+        }
+        return bAll;
+    }
+
+    // Where a copy is missing, the component has forgotten the image. Who has closed the question about a taken name
+    // is told of the image, too, but has wanted it so.
+    bool AreImagesCopied(CReport& report) const {
+        bool bAll = true;
+        const std::vector<CString> after = ImagesOf(m_Object);
+        for (size_t nImage = 0; nImage < m_Images.size(); ++nImage) {
+            const CString source = FromSystemPath(m_Images[nImage]);
+            const CString copy = after[nImage].IsEmpty() ? source : FromSystemPath(after[nImage]);
+            const bool bLeft = m_bAsks && after[nImage] == m_Images[nImage];
+            if (!source.IsEmpty() && FileExists(source) &&
+                !IsCopied(source, m_Directory + FileNameOfPath(copy), report) && !bLeft)
+                bAll = false;
+        }
+        return bAll;
+    }
+
+    const CEffectObject& m_Object;
+    const CString m_Directory;
+    const bool m_bOverwrite;
+    const bool m_bAsks = !m_bOverwrite && m_Object.Ask<bool>("CanShowDialogs"); // about names that are taken
+    const std::vector<CString> m_Images;                                        // as they are before
+    const fs::path m_Path;
+    std::set<fs::path> m_Before; // names in the directory
+    std::error_code m_Error;     // of listing them
+};
+
+// The file takes its draft's content when all that this refers to is in place.
+bool WriteWhole(const CEffectObject& object, const fs::path& file, bool bOverwrite, CReport& report) {
+    const CDraft draft(object, file, bOverwrite);
+    std::string content;
+    std::string problem = draft.Write(content);
+    if (problem.empty() && draft.HasItsFiles(report)) {
+        const std::error_code error = WriteFileContent(SpelledAsOnDisk(file), content, Durability::PowerCut);
+        if (!error)
+            return true;
+        problem = error.message();
+    }
+    report.Error(file.string(), problem.empty() ? "hasn't been written" : "can't be written: " + problem);
+    draft.RemoveImages();
+    return false;
+}
+
+} // namespace
+
+void WriteEffect(const CEffectObject& object, const fs::path& file, const CWriteOptions& options,
+                 CReport& report) {
+    const CString directory = DirectoryOfPath(ComponentPath(file)) + "\\";
+    if (const std::string problem = WhyNotInFile(ListFields(object)); !problem.empty())
+        return report.Error(file.string(), problem);
+    if (HasLostFiles(object, file, report) && options.m_bKeepLost)
+        return;
+    if (WouldWriteElsewhere(object, directory, report))
+        return;
+    if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
+        WouldOverwrite(object, directory, report))
+        return;
+    object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
+    if (!WriteWhole(object, file, options.m_bOverwrite, report))
+        return;
+    PrintWritten(file);
+    WarnOfHarmfulTexts(object, file.string(), report);
+}
+
+} // namespace orrelix
