@@ -25,6 +25,16 @@ bool IsOlderScript(const fs::path& file, const CString& script) {
     return theirs.starts_with(ours.substr(0, ours.find('\n') + 1));
 }
 
+// What a file is for: those of the same key have the same place and the same source.
+std::string KeyOf(const CEffectFile& file, const fs::path& configFolder, const fs::path& pageFolder) {
+    constexpr char kZero = '\0'; // which is in no path
+    std::string key = configFolder.native() + kZero + pageFolder.native() + kZero +
+                      std::string(file.m_Source.View()) + kZero + std::string(file.m_WebPath.View());
+    for (const CString& name : file.m_Names)
+        key.append(1, kZero).append(name.View());
+    return key;
+}
+
 } // namespace
 
 std::string CPlannedFiles::CPlannedFile::GetName() const {
@@ -60,12 +70,15 @@ void CPlannedFiles::AddFiles(const CGeneratedEffect& effect, const fs::path& con
                                    "the configuration file",
                                    name.View()));
     for (const CEffectFile& file : effect.m_Files) {
-        if (!CheckSource(file, configFile))
+        // Nearly all effects of a folder need the same scripts.
+        std::string need = KeyOf(file, configFile.parent_path(), pageFolder);
+        if (m_Met.contains(need) || !CheckSource(file, configFile))
             continue;
         const bool bReferredTo =
             std::any_of(file.m_Names.begin(), file.m_Names.end(),
                         [&](const CString& name) { return isReferredTo((file.m_WebPath + name).View()); });
-        AddFile(file, configFile, pageFolder, page, bReferredTo);
+        if (AddFile(file, configFile, pageFolder, page, bReferredTo))
+            m_Met.insert(std::move(need));
     }
 }
 
@@ -87,50 +100,61 @@ bool CPlannedFiles::CheckSource(const CEffectFile& file, const fs::path& configF
     return false;
 }
 
-void CPlannedFiles::AddFile(const CEffectFile& file, const fs::path& configFile, const fs::path& pageFolder,
+bool CPlannedFiles::AddFile(const CEffectFile& file, const fs::path& configFile, const fs::path& pageFolder,
                             const fs::path& page, bool bReferredTo) {
     const std::string subject = configFile.string();
     const std::string source = SystemPath(file.m_Source).string();
+    bool bAll = true;
+    const auto refuse = [&](const std::string& problem) {
+        m_Report.Error(subject, problem);
+        bAll = false;
+    };
     for (const CString& name : file.m_Names) {
         // Browsers ask for names in UTF-8, whatever the page is in.
         const std::string address = ToUtf8((file.m_WebPath + name).View()).m_Text;
         std::string problem;
         const fs::path target = m_Site.Locate(address, pageFolder, problem);
         if (target.empty()) {
-            m_Report.Error(subject,
-                           fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
-            return; // the other spellings lie at the same place
+            refuse(fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
+            break; // the other spellings lie at the same place
         }
         const CPlannedFile* pOther = FindAt(target);
         if (target.filename().native().starts_with(kOwnPrefix))
-            m_Report.Error(subject, fmt::format("the file {} has a name that this program keeps for itself; "
-                                                "give it another one",
-                                                source));
+            refuse(fmt::format(
+                "the file {} has a name that this program keeps for itself; give it another one", source));
         else if (target == page)
-            m_Report.Error(subject, fmt::format("the file {} would land on the page itself", source));
+            refuse(fmt::format("the file {} would land on the page itself", source));
         else if (!pOther)
             Add({target, subject, file.m_Source, "", file.m_bScript, bReferredTo});
         else if (pOther->m_Source != file.m_Source &&
                  (pOther->m_Source.IsEmpty() || !SameContent(pOther->m_Source, file.m_Source)))
-            m_Report.Error(
-                subject,
+            refuse(
                 fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
                             source, pOther->GetName(), target.string()));
     }
+    return bAll;
 }
 
-void CPlannedFiles::AddPage(const fs::path& page, const std::string& content, const std::string& subject) {
+fs::path CPlannedFiles::CheckPage(const fs::path& page, const std::string& subject) const {
     std::string problem;
-    const fs::path target = m_Site.FollowLinks(page, problem);
+    fs::path target = m_Site.FollowLinks(page, problem);
     if (target.empty())
         throw CFileError(subject, fmt::format("would have its page at {}, which {}", page.string(), problem));
     if (const CPlannedFile* pOther = FindAt(target))
         throw CFileError(
             subject, fmt::format("would have its page where {} is; rename one of them", pOther->GetName()));
-    Add({target, subject, "", content});
+    return target;
+}
+
+void CPlannedFiles::AddPage(const fs::path& page, std::string content, const std::string& subject) {
+    Add({CheckPage(page, subject), subject, "", std::move(content)});
 }
 
 void CPlannedFiles::Add(CPlannedFile file) {
+    if (m_bAtOnce) {
+        Write(file);
+        std::string().swap(file.m_Content); // which gives its memory back
+    }
     m_Indices.emplace(file.m_Target.native(), m_Files.size());
     m_Files.push_back(std::move(file));
 }
@@ -155,7 +179,13 @@ bool CPlannedFiles::HasObstacles() const {
     return bObstacles;
 }
 
-// Pages last: they never refer to what isn't there yet.
+void CPlannedFiles::Write(const CPlannedFile& file) const {
+    if (const std::error_code error = file.Write())
+        m_Report.Error(file.m_Target.string(), "can't be written: " + error.message());
+    else if (file.m_Source.IsEmpty())
+        PrintWritten(file.m_Target);
+}
+
 void CPlannedFiles::Write() const {
     fs::path folder;
     for (const bool bPages : {false, true}) {
@@ -166,10 +196,7 @@ void CPlannedFiles::Write() const {
                 folder = file.m_Target.parent_path();
                 COutputFile::RemoveLeftovers(ComponentPath(folder));
             }
-            if (const std::error_code error = file.Write())
-                m_Report.Error(file.m_Target.string(), "can't be written: " + error.message());
-            else if (bPages)
-                PrintWritten(file.m_Target);
+            Write(file);
         }
     }
 }

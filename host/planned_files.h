@@ -8,9 +8,10 @@
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace orrelix {
@@ -30,15 +31,23 @@ public:
                   const std::filesystem::path& pageFolder, const std::filesystem::path& page,
                   const CReferenceTest& isReferredTo);
 
-    // Plans a page, which may be none of the plan yet; `subject` is what it shows. Throws CFileError for `subject`
-    // when its place is taken or leads out of the site.
-    void AddPage(const std::filesystem::path& page, const std::string& content, const std::string& subject);
+    // Throws CFileError for `subject`, which is what the page shows, when its place is taken by another file of the
+    // plan or leads out of the site. The result is that place.
+    std::filesystem::path CheckPage(const std::filesystem::path& page, const std::string& subject) const;
+
+    // Plans a page, with the same check.
+    void AddPage(const std::filesystem::path& page, std::string content, const std::string& subject);
+
+    // From now on, what is planned is written at once, so that memory doesn't grow with the files: for folders in which
+    // nothing can be in the way. A page has to come after its files.
+    void WriteAtOnce() { m_bAtOnce = true; }
 
     // Whether files with other content stand in the way that aren't ours: ours are those that the page's effect
     // refers to already, and our scripts, whatever their age. Each is reported.
     bool HasObstacles() const;
 
-    // Writes what is planned, the pages last, and prints their paths. What fails is reported, and the rest is done.
+    // Writes what is planned, the pages last, as they never refer to what isn't there yet, and prints their paths. What
+    // fails is reported, and the rest is done.
     void Write() const;
 
 private:
@@ -56,16 +65,20 @@ private:
     };
 
     bool CheckSource(const CEffectFile& file, const std::filesystem::path& configFile) const;
-    void AddFile(const CEffectFile& file, const std::filesystem::path& configFile,
+    // False where the file, or one of its names, is left out.
+    bool AddFile(const CEffectFile& file, const std::filesystem::path& configFile,
                  const std::filesystem::path& pageFolder, const std::filesystem::path& page,
                  bool bReferredTo);
     void Add(CPlannedFile file);
+    void Write(const CPlannedFile& file) const;
     const CPlannedFile* FindAt(const std::filesystem::path& target) const;
 
     const CSite& m_Site;
     CReport& m_Report;
     std::vector<CPlannedFile> m_Files;
-    std::map<std::string, size_t> m_Indices; // by target
+    std::unordered_map<std::string, size_t> m_Indices; // by target
+    std::unordered_set<std::string> m_Met;             // needs for which all is planned
+    bool m_bAtOnce = false;
 };
 
 } // namespace orrelix

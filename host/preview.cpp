@@ -27,12 +27,15 @@ public:
           m_Files(m_Site, report) {}
 
     void Run() {
+        const bool bAtOnce = Claim() || m_Options.m_bOverwrite;
+        if (bAtOnce)
+            m_Files.WriteAtOnce();
         for (const fs::path& file : m_Options.m_Files)
             Try(file, [&] { AddPage(file); });
         if (m_Options.m_bIndex)
             Try(m_Out / kIndexName,
                 [&] { m_Files.AddPage(m_Out / kIndexName, IndexPage(m_Cards), "all effects"); });
-        if (Claim() || m_Options.m_bOverwrite || !m_Files.HasObstacles())
+        if (!bAtOnce && !m_Files.HasObstacles())
             m_Files.Write();
     }
 
@@ -69,11 +72,13 @@ private:
         const CEffectObject object;
         OpenEffect(file, object);
         const CPreviewPage preview{name, file.string(), GenerateEffect(object, kPreview)};
-        m_Files.AddPage(page, EffectPage(preview), preview.m_Source);
+        m_Files.CheckPage(page, preview.m_Source);
         m_Files.AddFiles(preview.m_Effect, file, m_Out, page, [](std::string_view) { return false; });
+        m_Files.AddPage(page, EffectPage(preview), preview.m_Source);
         WarnOfInvalidText(preview);
         WarnOfHarmfulTexts(object, file.string(), m_Report);
-        m_Cards.push_back(IndexCard(preview));
+        if (m_Options.m_bIndex)
+            m_Cards.push_back(IndexCard(preview));
     }
 
     void WarnOfInvalidText(const CPreviewPage& page) {

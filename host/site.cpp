@@ -103,6 +103,12 @@ fs::path CSite::Locate(std::string_view address, const fs::path& pageFolder, std
 }
 
 fs::path CSite::FollowLinks(const fs::path& place, std::string& problem) const {
+    // Most places lie in the site's folder itself, which is known.
+    std::error_code unknown;
+    const bool bHere = place.parent_path() == m_Root;
+    if (const auto type = fs::symlink_status(place, unknown).type();
+        bHere && type != fs::file_type::none && type != fs::file_type::symlink)
+        return place;
     fs::path end = FollowBelow(place, m_Root);
     if (!end.empty())
         return end;
