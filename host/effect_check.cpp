@@ -132,8 +132,11 @@ public:
             m_Texts.begin(), m_Texts.end(),
             [](const CAuthorText& left, const CAuthorText& right) { return left.m_nItem < right.m_nItem; });
         m_Put.reserve(m_Texts.size());
-        for (const CAuthorText& text : m_Texts)
+        for (const CAuthorText& text : m_Texts) {
             m_Put.push_back(text.m_Text);
+            if (text.m_nItem > 0)
+                m_PutLists[text.m_Field].emplace_back(text.m_Text.View());
+        }
     }
 
     void Run() {
@@ -179,9 +182,17 @@ private:
         m_Put[nText] = text;
     }
 
-    // The effect of the texts that textOf(index) gives.
+    void PutList(const std::string& field, vignel::Items& items) {
+        vignel::Items& put = m_PutLists[field];
+        if (put == items)
+            return;
+        m_Object.Ask("PutFieldItems", field, items);
+        put = std::move(items);
+    }
+
+    // The HTML of the texts that textOf(index) gives, in UTF-8.
     template <class TTextOf>
-    std::vector<CHtmlElement> Generate(const CRows& rows, TTextOf textOf) {
+    std::string Generate(const CRows& rows, TTextOf textOf) {
         m_Object.SetTitle(std::string(textOf(0).View()));
         std::map<std::string, vignel::Items> lists;
         for (size_t i = 1; i < m_Texts.size(); ++i) {
@@ -192,12 +203,23 @@ private:
                 lists[m_Texts[i].m_Field].emplace_back(textOf(i).View());
         }
         // The texts first: they say how many items all have.
-        if (const auto texts = lists.extract("m_Texts"))
-            m_Object.Ask("PutFieldItems", texts.key(), texts.mapped());
-        for (const auto& [field, items] : lists)
-            m_Object.Ask("PutFieldItems", field, items);
+        if (auto texts = lists.extract("m_Texts"))
+            PutList(texts.key(), texts.mapped());
+        for (auto& [field, items] : lists)
+            PutList(field, items);
         const CString html = ScriptText(m_Object, kPublish) + CString(m_Object.GetHTMLBody(0, kPublish));
-        return OutlineOfHtml(ToUtf8(html.View()).m_Text);
+        return ToUtf8(html.View()).m_Text;
+    }
+
+    // That of harmless texts recurs with every trial, and among effects that are alike.
+    static const std::vector<CHtmlElement>& OutlineOfHarmless(const std::string& html) {
+        constexpr size_t kMostOutlines = 32;
+        static std::map<std::string, std::vector<CHtmlElement>> outlines;
+        if (const auto known = outlines.find(html); known != outlines.end())
+            return known->second;
+        if (outlines.size() >= kMostOutlines)
+            outlines.clear();
+        return outlines.emplace(html, OutlineOfHtml(html)).first->second;
     }
 
     bool IsDead(const CHtmlElement& element) {
@@ -212,8 +234,10 @@ private:
     // the author's texts bring along lie in between and are his own business.
     template <class TTextOf>
     EDamage Judge(const CRows& rows, TTextOf textOf) {
-        const auto whole = Generate(rows, [this](size_t i) { return m_Texts[i].m_Harmless; });
-        const auto elements = Generate(rows, textOf);
+        // In this order, as at first the object has the author's texts.
+        const auto elements = OutlineOfHtml(Generate(rows, textOf));
+        const auto& whole =
+            OutlineOfHarmless(Generate(rows, [this](size_t i) { return m_Texts[i].m_Harmless; }));
         auto element = elements.begin();
         for (const CHtmlElement& expected : whole) {
             element = std::find_if(element, elements.end(), [&](const CHtmlElement& other) {
@@ -346,8 +370,9 @@ private:
     CReport& m_Report;
     const CEffectObject& m_Object;
     CScriptSyntax& m_Syntax;
-    std::vector<CAuthorText> m_Texts; // the title, the other texts, the lists row by row
-    std::vector<CString> m_Put;       // what the object has of them by now, but for the lists
+    std::vector<CAuthorText> m_Texts;                // the title, the other texts, the lists row by row
+    std::vector<CString> m_Put;                      // what the object has of them by now, but for the lists
+    std::map<std::string, vignel::Items> m_PutLists; // and of those
     int m_nWarnings = 0;
 };
 

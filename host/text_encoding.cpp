@@ -61,6 +61,11 @@ private:
     iconv_t m_Converter;
 };
 
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 std::string_view BytesOf(const char32_t& character) {
     return {reinterpret_cast<const char*>(&character), sizeof character};
 }
@@ -160,6 +165,8 @@ std::string EncodingOfLabel(std::string_view label) {
 }
 
 CConvertedText ConvertText(std::string_view text, const std::string& from, const std::string& to) {
+    if (from == "UTF-8" && to == "UTF-8" && IsAscii(text))
+        return {std::string(text)};
     CConverter decoder(from, kCharacters);
     CConverter encoder(kCharacters, to);
     if (!decoder.IsOpen() || !encoder.IsOpen())
