@@ -77,12 +77,9 @@ bool HasLostFiles(const CEffectObject& object, const fs::path& file, CReport& re
     return bLost;
 }
 
-bool IsCopied(const CString& source, const CString& copy, CReport& report) {
-    if (SameContent(source, copy))
-        return true;
+void ReportMissing(const CString& source, const CString& copy, CReport& report) {
     report.Error(SystemPath(copy).string(), fmt::format("the page needs it, but {} couldn't be copied there",
                                                         SystemPath(source).string()));
-    return false;
 }
 
 // The images of the effect, in the order of its fields, as the system spells their paths.
@@ -99,9 +96,10 @@ std::vector<CString> ImagesOf(const CEffectObject& object) {
 // whether they could be made or not.
 class CDraft {
 public:
-    CDraft(const CEffectObject& object, const fs::path& file, bool bOverwrite)
+    CDraft(const CEffectObject& object, const fs::path& file, const std::vector<CString>& images,
+           bool bOverwrite)
         : m_Object(object), m_Directory(DirectoryOfPath(ComponentPath(file)) + "\\"),
-          m_bOverwrite(bOverwrite), m_Images(ImagesOf(object)),
+          m_bOverwrite(bOverwrite), m_Images(images),
           m_Path(SystemPath(m_Directory) / COutputFile::DraftName()) {
         for (const fs::directory_entry& entry : fs::directory_iterator(m_Path.parent_path(), m_Error))
             m_Before.insert(entry.path().filename());
@@ -145,9 +143,11 @@ private:
         const CString scripts = m_Object.GetScriptFolder();
         for (int nIndex = 0; nIndex < m_Object.GetResourceNumber(); ++nIndex) {
             const CString name = m_Object.GetResourceName(nIndex);
-            if (CString(m_Object.GetResourceLocalPath(nIndex)) == scripts &&
-                !IsCopied(scripts + name, m_Directory + name, report))
-                bAll = false;
+            if (CString(m_Object.GetResourceLocalPath(nIndex)) != scripts ||
+                SameContent(scripts + name, m_Directory + name))
+                continue;
+            ReportMissing(scripts + name, m_Directory + name, report);
+            bAll = false;
         }
         return bAll;
     }
@@ -159,10 +159,14 @@ private:
         const std::vector<CString> after = ImagesOf(m_Object);
         for (size_t nImage = 0; nImage < m_Images.size(); ++nImage) {
             const CString source = FromSystemPath(m_Images[nImage]);
-            const CString copy = after[nImage].IsEmpty() ? source : FromSystemPath(after[nImage]);
-            const bool bLeft = m_bAsks && after[nImage] == m_Images[nImage];
-            if (!source.IsEmpty() && FileExists(source) &&
-                !IsCopied(source, m_Directory + FileNameOfPath(copy), report) && !bLeft)
+            const bool bForgotten = after[nImage].IsEmpty(),
+                       bLeft = m_bAsks && after[nImage] == m_Images[nImage];
+            const CString copy =
+                m_Directory + FileNameOfPath(bForgotten ? source : FromSystemPath(after[nImage]));
+            if (source.IsEmpty() || !FileExists(source) || (!bForgotten && SameContent(source, copy)))
+                continue;
+            ReportMissing(source, copy, report);
+            if (!bLeft)
                 bAll = false;
         }
         return bAll;
@@ -172,15 +176,16 @@ private:
     const CString m_Directory;
     const bool m_bOverwrite;
     const bool m_bAsks = !m_bOverwrite && m_Object.Ask<bool>("CanShowDialogs"); // about names that are taken
-    const std::vector<CString> m_Images;                                        // as they are before
+    const std::vector<CString>& m_Images;                                       // as they were before
     const fs::path m_Path;
     std::set<fs::path> m_Before; // names in the directory
     std::error_code m_Error;     // of listing them
 };
 
 // The file takes its draft's content when all that this refers to is in place.
-bool WriteWhole(const CEffectObject& object, const fs::path& file, bool bOverwrite, CReport& report) {
-    const CDraft draft(object, file, bOverwrite);
+bool WriteWhole(const CEffectObject& object, const fs::path& file, const std::vector<CString>& images,
+                bool bOverwrite, CReport& report) {
+    const CDraft draft(object, file, images, bOverwrite);
     std::string content;
     std::string problem = draft.Write(content);
     if (problem.empty() && draft.HasItsFiles(report)) {
@@ -203,13 +208,15 @@ void WriteEffect(const CEffectObject& object, const fs::path& file, const CWrite
         return report.Error(file.string(), problem);
     if (HasLostFiles(object, file, report) && options.m_bKeepLost)
         return;
+    const std::vector<CString> images =
+        ImagesOf(object); // asked for resources, the component may forget some
     if (WouldWriteElsewhere(object, directory, report))
         return;
     if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
         WouldOverwrite(object, directory, report))
         return;
     object.SetLastUpdateTime(vignel::DaysOf(std::chrono::system_clock::now()));
-    if (!WriteWhole(object, file, options.m_bOverwrite, report))
+    if (!WriteWhole(object, file, images, options.m_bOverwrite, report))
         return;
     PrintWritten(file);
     WarnOfHarmfulTexts(object, file.string(), report);

@@ -118,9 +118,11 @@ std::string SetFields(const CEffectObject& effect, const CFieldValues& values,
     }
     if (pTexts && !bTexts)
         nItems = std::max(nItems, pTexts->m_Values.size());
-    // The texts first: they say how many items all have.
+    // The texts first: they say how many items all have. Whole borders last: setting a part of one makes it anew.
     std::stable_partition(settings.begin(), settings.end(),
                           [pTexts](const CSetting& setting) { return setting.m_pField == pTexts; });
+    std::stable_partition(settings.begin(), settings.end(),
+                          [](const CSetting& setting) { return setting.m_pField->m_Kind != "border"; });
     for (CSetting& setting : settings) {
         const std::vector<CString>& old = setting.m_pField->m_Values;
         while (setting.m_pField->m_bList && setting.m_Values.size() < std::min(nItems, old.size()))

@@ -53,7 +53,7 @@ std::error_code WriteFileContent(const fs::path& path, std::string_view content,
 }
 
 CFileLock LockFile(const fs::path& path) {
-    constexpr int kMilliseconds = 5000;
+    constexpr int kMilliseconds = 10000;
     CFileLock lock;
     if (!lock.AcquireFor(PathOnDisk(ComponentPath(path)), kMilliseconds))
         throw CFileError(path,

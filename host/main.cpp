@@ -1,4 +1,5 @@
 // The program orrelix: what a page editor does with the component, as commands.
+#include "host/component.h"
 #include "host/edit.h"
 #include "host/nearest_word.h"
 #include "host/preview.h"
@@ -121,6 +122,12 @@ int Finish(CReport& report) {
     return report.GetExitCode();
 }
 
+// What a refusal of the component is about: the command's one file, or all that it does.
+std::string SubjectOf(const CCommand& command) {
+    const CLI::Option* pFile = command.m_pArguments->get_option_no_throw("FILE");
+    return pFile && pFile->count() == 1 ? pFile->as<std::string>() : command.m_pArguments->get_name();
+}
+
 // Whatever a command throws makes the program fail and nothing else.
 int RunCommand(const CCommand& command) {
     CReport report;
@@ -130,6 +137,8 @@ int RunCommand(const CCommand& command) {
         report.Error(error.m_File, error.what());
     } catch (const std::filesystem::filesystem_error& error) {
         report.Error(error.path1().string(), "can't be reached: " + error.code().message());
+    } catch (const vignel::Error& error) {
+        report.Error(SubjectOf(command), error.what());
     } catch (const std::exception& error) {
         report.Error(command.m_pArguments->get_name(), error.what());
     }

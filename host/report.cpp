@@ -59,15 +59,20 @@ std::string Escaped(std::string_view text, TEscape escape) {
     return result;
 }
 
+// In one piece, for those who write to the same terminal.
+void Print(const std::string& subject, const char* pKind, const std::string& text) {
+    std::cerr << "orrelix: " + Printable(subject) + pKind + Printable(text) + '\n';
+}
+
 } // namespace
 
 void CReport::Error(const std::string& subject, const std::string& text) {
     m_nExitCode = std::max(m_nExitCode, kFailure);
-    std::cerr << "orrelix: " << Printable(subject) << ": " << Printable(text) << '\n';
+    Print(subject, ": ", text);
 }
 
 void CReport::Warning(const std::string& subject, const std::string& text) {
-    std::cerr << "orrelix: " << Printable(subject) << ": warning: " << Printable(text) << '\n';
+    Print(subject, ": warning: ", text);
 }
 
 void CReport::WarnOfInvalidBytes(const std::string& subject, size_t nBytes) {

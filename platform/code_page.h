@@ -3,7 +3,7 @@
 //
 // Text is bytes throughout the component and is never converted. All that has to be known of its encoding is
 // where a byte that looks like a backslash, a comma or a bar belongs to a two-byte character. UTF-8 and the
-// single-byte pages have no such bytes; pages 932, 936, 949 and 950 do.
+// single-byte pages have no such bytes; pages 932, 936, 949 and 950 do. The searches that know of it are in platform/string.h.
 #pragma once
 
 #include <string>
