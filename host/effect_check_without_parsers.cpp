@@ -3,6 +3,6 @@
 
 namespace orrelix {
 
-void WarnOfHarmfulTexts(const CEffectObject&, CReport&) {}
+void WarnOfHarmfulTexts(const CEffectObject&, const std::string&, CReport&) {}
 
 } // namespace orrelix
