@@ -62,8 +62,9 @@ CEffectObject::CEffectObject() : vignel::Orrelix(GetComponent()), m_Inspector(In
 }
 
 std::string CEffectObject::GetDescriptionOf(const std::string& effect) const {
-    const auto names = Ask<vignel::Items>("GetEffectNames");
-    const auto descriptions = Ask<vignel::Items>("GetEffectDescriptions");
+    // The same for all objects, and asked for once.
+    static const auto names = Ask<vignel::Items>("GetEffectNames");
+    static const auto descriptions = Ask<vignel::Items>("GetEffectDescriptions");
     const auto found = std::find(names.begin(), names.end(), effect);
     return found == names.end() ? "" : descriptions[static_cast<size_t>(found - names.begin())];
 }
