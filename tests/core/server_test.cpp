@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <random>
 
 namespace orrelix {
 
@@ -147,61 +146,6 @@ TEST(Server, IsToldToHostsMemberByMember) {
             EXPECT_EQ(call.size() > 2 ? nCommas + 1 : 0, member.m_nArguments) << row << call;
         }
     }
-}
-
-// Under a sanitizer this tells more.
-TEST(Server, TakesAnyCall) {
-    const CTemporaryDirectory folder; // some write files
-    const std::filesystem::path oldFolder = std::filesystem::current_path();
-    std::filesystem::current_path(folder.File(""));
-    IDispatch* pObject = CreateObject();
-    void* pInspector = nullptr;
-    pObject->QueryInterface(VignelIidInspector, &pInspector);
-    std::mt19937 random(20261123);
-    const auto below = [&](unsigned nLimit) { return static_cast<int>(random() % nLimit); };
-    BSTR texts[] = {nullptr, AllocText(""), AllocText("m_Texts"), AllocText("Scroll Text"),
-                    AllocText("a/b\\c")};
-    constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_NULL, VT_BSTR, VT_I2,    VT_I4,
-                                  VT_BOOL,  VT_R8,   VT_DATE, VT_ERROR, 77};
-    int nSucceeded = 0;
-    for (int nCall = 0; nCall < 10000; ++nCall) {
-        VARIANT values[4] = {}, result{};
-        for (VARIANT& value : values) {
-            value.vt = kTypes[below(std::size(kTypes))];
-            value.dblVal = below(2) ? -1.5e300 : below(5) - 2;
-            if (value.vt == VT_BSTR)
-                value.bstrVal = texts[below(std::size(texts))];
-            if (value.vt == VT_I2 || value.vt == VT_I4 || value.vt == VT_BOOL)
-                value.lVal = below(2) ? below(6) - 2 : -32768;
-            if (value.vt == VT_EMPTY && below(3) == 0)
-                value.vt =
-                    static_cast<VARTYPE>(VT_BYREF | (below(2) ? VT_I4 : VT_VARIANT)); // a null reference
-            if (value.vt & VT_BYREF)
-                value.pvarVal = nullptr;
-        }
-        const WORD flags = static_cast<WORD>(below(4) ? DISPATCH_METHOD | DISPATCH_PROPERTYGET : below(16));
-        DISPID nName = below(9) ? DISPID_PROPERTYPUT : below(3);
-        DISPPARAMS arguments{below(20) ? values : nullptr, below(20) ? &nName : nullptr,
-                             static_cast<UINT>(below(2) ? 0 : below(std::size(values) + 1)),
-                             static_cast<UINT>((flags & DISPATCH_PROPERTYPUT) != 0)};
-        EXCEPINFO exception{};
-        UINT nWrong = 0;
-        auto* pTarget = below(2) ? pObject : static_cast<IDispatch*>(pInspector);
-        const HRESULT code = pTarget->Invoke(below(45) - 2, IID_NULL, 0, flags,
-                                             below(50) ? &arguments : nullptr, below(3) ? &result : nullptr,
-                                             below(3) ? &exception : nullptr, below(2) ? &nWrong : nullptr);
-        nSucceeded += !FAILED(code);
-        SysFreeString(exception.bstrDescription);
-        VariantClear(&result);
-    }
-    EXPECT_GT(nSucceeded, 500);
-    SetCodePage(kUtf8CodePage);
-    SetRawTexts(false);
-    static_cast<IDispatch*>(pInspector)->Release();
-    pObject->Release();
-    for (BSTR text : texts)
-        SysFreeString(text);
-    std::filesystem::current_path(oldFolder);
 }
 
 } // namespace orrelix

@@ -6,7 +6,6 @@
 #include "tests/support/temporary_directory.h"
 
 #include <gtest/gtest.h>
-#include <random>
 #include <tuple>
 
 namespace orrelix {
@@ -143,37 +142,6 @@ TEST_F(VignelConfig, GivesAFileThatReadsTheSameWhereverTheOneBeforeWasCut) {
         ASSERT_TRUE(
             config.ReadFile(m_Directory.Write("cut.cfg", std::string_view(whole).substr(0, nLength))));
         ASSERT_EQ(ContentOf({Written(config)}), Content(config)) << "cut at " << nLength;
-    }
-}
-
-TEST_F(VignelConfig, SurvivesFilesOfRandomPieces) {
-    const std::string pieces[] = {"<D",
-                                  "D>",
-                                  "<P",
-                                  "<R",
-                                  "Resource Number = 65535",
-                                  "Segment Number = -1",
-                                  "Segment Position = cursor",
-                                  "<H",
-                                  "S>",
-                                  "a=b=c",
-                                  "=",
-                                  "|",
-                                  "\\n",
-                                  "\\r",
-                                  std::string(3, '\0'),
-                                  "\x95\\",
-                                  std::string(300'000, 'x')};
-    std::mt19937 random(7);
-    for (int nRound = 0; nRound < 200; ++nRound) {
-        std::string bytes;
-        for (int nPiece = 0; nPiece < 30; ++nPiece)
-            bytes += pieces[random() % std::size(pieces)] + (random() % 2 ? "|" : "");
-        CVignelConfig config, again;
-        ASSERT_TRUE(config.ReadFile(m_Directory.Write("random.cfg", FileOf(bytes))));
-        ASSERT_TRUE(again.ReadFile(m_Directory.Write("again.cfg", Written(config))));
-        ASSERT_EQ(again.m_Resources.GetSize(), config.m_Resources.GetSize());
-        ASSERT_EQ(again.m_Segments.GetSize(), config.m_Segments.GetSize());
     }
 }
 
