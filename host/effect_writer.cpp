@@ -97,16 +97,18 @@ std::vector<CString> ImagesOf(const CEffectObject& object) {
 class CDraft {
 public:
     CDraft(const CEffectObject& object, const fs::path& file, const std::vector<CString>& images,
-           bool bOverwrite)
+           bool bOverwrite, CReport& report)
         : m_Object(object), m_Directory(DirectoryOfPath(ComponentPath(file)) + "\\"),
           m_bOverwrite(bOverwrite), m_Images(images),
-          m_Path(SystemPath(m_Directory) / COutputFile::DraftName()) {
+          m_Path(SystemPath(m_Directory) / COutputFile::DraftName()), m_Report(report) {
         for (const fs::directory_entry& entry : fs::directory_iterator(m_Path.parent_path(), m_Error))
             m_Before.insert(entry.path().filename());
     }
     ~CDraft() {
-        std::error_code none;
-        fs::remove(m_Path, none);
+        std::error_code failed;
+        fs::remove(m_Path, failed);
+        if (failed)
+            m_Report.Warning(m_Path.string(), "can't be removed: " + failed.message());
     }
     CDraft(const CDraft&) = delete;
     CDraft& operator=(const CDraft&) = delete;
@@ -121,9 +123,9 @@ public:
         return error ? error.message() : std::string();
     }
 
-    bool HasItsFiles(CReport& report) const {
-        const bool bScripts = AreScriptsCopied(report);
-        return AreImagesCopied(report) && bScripts;
+    bool HasItsFiles() const {
+        const bool bScripts = AreScriptsCopied();
+        return AreImagesCopied() && bScripts;
     }
 
     // Takes the copies back. Scripts stay, on which another effect may count by now.
@@ -138,7 +140,7 @@ public:
     }
 
 private:
-    bool AreScriptsCopied(CReport& report) const {
+    bool AreScriptsCopied() const {
         bool bAll = true;
         const CString scripts = m_Object.GetScriptFolder();
         for (int nIndex = 0; nIndex < m_Object.GetResourceNumber(); ++nIndex) {
@@ -146,7 +148,7 @@ private:
             if (CString(m_Object.GetResourceLocalPath(nIndex)) != scripts ||
                 SameContent(scripts + name, m_Directory + name))
                 continue;
-            ReportMissing(scripts + name, m_Directory + name, report);
+            ReportMissing(scripts + name, m_Directory + name, m_Report);
             bAll = false;
         }
         return bAll;
@@ -154,7 +156,7 @@ private:
 
     // Where a copy is missing, the component has forgotten the image. Who has closed the question about a taken name
     // is told of the image, too, but has wanted it so.
-    bool AreImagesCopied(CReport& report) const {
+    bool AreImagesCopied() const {
         bool bAll = true;
         const std::vector<CString> after = ImagesOf(m_Object);
         for (size_t nImage = 0; nImage < m_Images.size(); ++nImage) {
@@ -165,7 +167,7 @@ private:
                 m_Directory + FileNameOfPath(bForgotten ? source : FromSystemPath(after[nImage]));
             if (source.IsEmpty() || !FileExists(source) || (!bForgotten && SameContent(source, copy)))
                 continue;
-            ReportMissing(source, copy, report);
+            ReportMissing(source, copy, m_Report);
             if (!bLeft)
                 bAll = false;
         }
@@ -178,6 +180,7 @@ private:
     const bool m_bAsks = !m_bOverwrite && m_Object.Ask<bool>("CanShowDialogs"); // about names that are taken
     const std::vector<CString>& m_Images;                                       // as they were before
     const fs::path m_Path;
+    CReport& m_Report;
     std::set<fs::path> m_Before; // names in the directory
     std::error_code m_Error;     // of listing them
 };
@@ -185,10 +188,10 @@ private:
 // The file takes its draft's content when all that this refers to is in place.
 bool WriteWhole(const CEffectObject& object, const fs::path& file, const std::vector<CString>& images,
                 bool bOverwrite, CReport& report) {
-    const CDraft draft(object, file, images, bOverwrite);
+    const CDraft draft(object, file, images, bOverwrite, report);
     std::string content;
     std::string problem = draft.Write(content);
-    if (problem.empty() && draft.HasItsFiles(report)) {
+    if (problem.empty() && draft.HasItsFiles()) {
         const std::error_code error = WriteFileContent(SpelledAsOnDisk(file), content, Durability::PowerCut);
         if (!error)
             return true;

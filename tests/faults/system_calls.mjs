@@ -121,7 +121,8 @@ async function faultsOf(name, { kill }, folder, before, after, outcome, calls) {
     const { copies, varying, next: another, run: command } = commands[name];
     const faults = [], now = filesOf(folder), killed = outcome.code === "SIGKILL" || outcome.code === 137;
     for (const [file, bytes] of now) {
-        const fine = outcome.code !== 0 && varying?.test(file) || killed && isTemporary(file);
+        const fine = outcome.code !== 0 && varying?.test(file)
+            || isTemporary(file) && (killed || outcome.complaint.includes(path.basename(file)));
         if (![before.get(file), after.get(file)].includes(bytes) && !fine)
             faults.push(isTemporary(file) ? `leaves ${file}` : `${file} is neither the old one nor the new one`);
     }
