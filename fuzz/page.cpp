@@ -47,7 +47,8 @@ void FuzzPage(CPieces pieces) {
     const auto placed = Placed(page, texts);
     if (!placed)
         return;
-    if (CPageText(*placed).GetEncoding() != CPageText(page).GetEncoding()) {
+    const CPageText before(page), after(*placed);
+    if (after.GetEncoding() != before.GetEncoding() || after.GetCharset() != before.GetCharset()) {
         // For browsers too, a tag of the texts' may declare an encoding, or hide where the page does.
         Require((texts.m_Script + texts.m_Cursor).find('<') != std::string::npos,
                 "a page keeps its encoding");

@@ -45,9 +45,9 @@ CContents ContentsOf(const CVignelConfig& store) {
 
 void RequireForm(const CVignelConfig& store, const CConfigForm& form) {
     for (const CString& key : form.m_DescriptionKeys)
-        Require(store.m_DescriptionMap.Find(key) != nullptr, "a key of the form is in the store");
+        Require(store.m_DescriptionMap.Find(key).has_value(), "a key of the form is in the store");
     for (const CString& key : form.m_ParameterKeys)
-        Require(store.m_ParameterMap.Find(key) != nullptr, "a parameter of the form is in the store");
+        Require(store.m_ParameterMap.Find(key).has_value(), "a parameter of the form is in the store");
     Require(!form.m_Error, "a file that is there is read to its end");
 }
 

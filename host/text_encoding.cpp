@@ -16,6 +16,7 @@ namespace orrelix {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
+constexpr char kSwitching[] = "ISO-2022-JP"; // between character sets, by escapes
 
 // A conversion in progress, which remembers the state of encodings that have one.
 class CConverter {
@@ -71,6 +72,16 @@ std::string_view BytesOf(const char32_t& character) {
 }
 
 constexpr const char* kCharacters = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__ ? "UTF-32LE" : "UTF-32BE";
+
+// The characters with which this encoding changes its state. Within a text they have no place in it, as in browsers.
+void ReplaceEscapes(std::string& characters) {
+    for (size_t nAt = 0; nAt < characters.size(); nAt += sizeof(char32_t)) {
+        for (const char32_t escape : {U'\x0E', U'\x0F', U'\x1B'}) {
+            if (characters.compare(nAt, sizeof escape, BytesOf(escape)) == 0)
+                characters.replace(nAt, sizeof escape, BytesOf(kReplacement));
+        }
+    }
+}
 
 // Encodes characters, those that don't fit as references.
 void Encode(CConverter& encoder, std::string_view characters, CConvertedText& result) {
@@ -141,7 +152,7 @@ constexpr struct {
     {" gb18030 ", "GB18030"},
     {" big5 big5-hkscs cn-big5 csbig5 x-x-big5 ", "CP950"},
     {" cseucpkdfmtjapanese euc-jp x-euc-jp ", "EUC-JP"},
-    {" csiso2022jp iso-2022-jp ", "ISO-2022-JP"},
+    {" csiso2022jp iso-2022-jp ", kSwitching},
     {" csshiftjis ms932 ms_kanji shift-jis shift_jis sjis windows-31j x-sjis ", "CP932"},
     {" cseuckr csksc56011987 euc-kr iso-ir-149 korean ks_c_5601-1987 ks_c_5601-1989 ksc5601 ksc_5601 "
      "windows-949 ",
@@ -191,6 +202,8 @@ CConvertedText ConvertText(std::string_view text, const std::string& from, const
         // Some decoders hold a letter back until they know that no accent follows.
         if (text.empty())
             decoder.Finish(characters);
+        if (to == kSwitching)
+            ReplaceEscapes(characters);
         Encode(encoder, characters, result);
         characters.clear();
         if (text.empty())
