@@ -203,12 +203,13 @@ bool ChangeByOptions(const CEffectObject& object, const CEditOptions& options, C
 } // namespace
 
 void NewEffect(const CEditOptions& options, CReport& report) {
-    const fs::path file = SpelledAsOnDisk(options.m_File);
-    const std::string name = file.string();
     const bool bByOptions = !options.m_Effect.empty();
     CFileLock lock;
     if (bByOptions && !options.m_bListFields)
-        lock = LockFile(file);
+        lock = LockFile(options.m_File);
+    // Not before it is locked: somebody else may just have made it in another case.
+    const fs::path file = SpelledAsOnDisk(options.m_File);
+    const std::string name = file.string();
     if (!options.m_bListFields && fs::exists(file))
         return report.Error(name, "is there already; change it with 'orrelix edit', or name another file");
     const CEffectObject object;

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <fmt/format.h>
+#include <map>
 #include <set>
 
 namespace orrelix {
@@ -35,20 +36,32 @@ bool WouldOverwrite(const CEffectObject& object, const CString& directory, CRepo
     return bTaken;
 }
 
-// Whether copying a file that the effect needs would write through a link out of the folder. The component takes a
-// name in any case for the file that is there.
-bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, CReport& report) {
-    std::set<CString> names;
+// What lies where the component puts the effect's files, with these files. It takes a name in any case for the file that
+// is there.
+using CPlaces = std::vector<std::pair<fs::directory_entry, CString>>;
+
+CPlaces PlacesOf(const CEffectObject& object, const CString& directory) {
+    std::map<CString, CString> sources;
     for (int nIndex = 0; nIndex < object.GetResourceNumber(); ++nIndex) {
-        if (object.GetResourceLocalPath(nIndex) != directory)
-            names.insert(CString(object.GetResourceName(nIndex)).MakeLower());
+        const CString folder = object.GetResourceLocalPath(nIndex), name = object.GetResourceName(nIndex);
+        if (folder != directory)
+            sources.emplace(CString(name).MakeLower(), folder + name);
     }
-    bool bElsewhere = false;
-    const fs::path folder = SystemPath(directory);
+    CPlaces places;
     std::error_code noSuchFolder; // is told when the file is written
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, noSuchFolder)) {
-        if (!entry.is_symlink() || !names.contains(CString(entry.path().filename().string()).MakeLower()) ||
-            !FollowBelow(entry.path(), folder).empty())
+    for (const fs::directory_entry& entry : fs::directory_iterator(SystemPath(directory), noSuchFolder)) {
+        const auto found = sources.find(CString(entry.path().filename().string()).MakeLower());
+        if (found != sources.end())
+            places.emplace_back(entry, found->second);
+    }
+    return places;
+}
+
+// Whether copying a file that the effect needs would write through a link out of the folder.
+bool WouldWriteElsewhere(const CPlaces& places, CReport& report) {
+    bool bElsewhere = false;
+    for (const auto& [entry, source] : places) {
+        if (!entry.is_symlink() || !FollowBelow(entry.path(), entry.path().parent_path()).empty())
             continue;
         report.Error(entry.path().string(),
                      "is a link to a place outside of the folder, where the effect needs a file of its own; "
@@ -56,6 +69,24 @@ bool WouldWriteElsewhere(const CEffectObject& object, const CString& directory, 
         bElsewhere = true;
     }
     return bElsewhere;
+}
+
+// Whether a script would land on a file that isn't ours. The component asks nobody about scripts.
+bool WouldReplaceScripts(const CEffectObject& object, const CPlaces& places, CReport& report) {
+    const CString scripts = object.GetScriptFolder();
+    bool bForeign = false;
+    for (const auto& [entry, source] : places) {
+        const CString there = ComponentPath(entry.path());
+        if (DirectoryOfPath(source) + "\\" != scripts || !FileExists(there) || SameContent(source, there) ||
+            IsOlderScript(there, source))
+            continue;
+        report.Error(entry.path().string(),
+                     fmt::format("is there already and would be replaced by the effect's {}; rename it, or "
+                                 "say --overwrite",
+                                 SystemPath(source).filename().string()));
+        bForeign = true;
+    }
+    return bForeign;
 }
 
 // Writing makes the component forget files that are gone, which nobody asked for.
@@ -130,6 +161,8 @@ public:
 
     // Takes the copies back. Scripts stay, on which another effect may count by now.
     void RemoveImages() const {
+        if (m_Error) // nothing has been copied, and what was there before is unknown
+            return;
         const CString scripts = m_Object.GetScriptFolder();
         for (int nIndex = 0; nIndex < m_Object.GetResourceNumber(); ++nIndex) {
             const fs::path name = std::string(CString(m_Object.GetResourceName(nIndex)).View());
@@ -213,7 +246,10 @@ void WriteEffect(const CEffectObject& object, const fs::path& file, const CWrite
         return;
     const std::vector<CString> images =
         ImagesOf(object); // asked for resources, the component may forget some
-    if (WouldWriteElsewhere(object, directory, report))
+    const CPlaces places = PlacesOf(object, directory);
+    if (WouldWriteElsewhere(places, report))
+        return;
+    if (!options.m_bOverwrite && WouldReplaceScripts(object, places, report))
         return;
     if (!options.m_bOverwrite && !object.Ask<bool>("CanShowDialogs") &&
         WouldOverwrite(object, directory, report))

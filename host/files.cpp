@@ -11,7 +11,11 @@ namespace orrelix {
 namespace fs = std::filesystem;
 
 fs::path PathForComponent(const fs::path& path) {
-    const fs::path full = fs::absolute(path).lexically_normal();
+    fs::path full = fs::absolute(path);
+    // A step up from a link leaves the folder that the link leads to.
+    if (std::find(full.begin(), full.end(), "..") != full.end())
+        full = fs::weakly_canonical(full.parent_path()) / full.filename();
+    full = full.lexically_normal();
     if (full.native().find('\\') != std::string::npos)
         throw CFileError(path, "has a backslash in its path, where the component can't find it; rename it");
     return full;
@@ -59,6 +63,12 @@ CFileLock LockFile(const fs::path& path) {
         throw CFileError(path,
                          "is being changed by somebody else, who doesn't come to an end; try again later");
     return lock;
+}
+
+bool IsOlderScript(const CString& file, const CString& script) {
+    std::string ours, theirs;
+    return !ReadWholeFile(script, ours) && !ReadWholeFile(file, theirs) &&
+           theirs.starts_with(ours.substr(0, ours.find('\n') + 1));
 }
 
 bool SameContent(const CString& left, const CString& right) {

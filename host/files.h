@@ -36,6 +36,10 @@ std::error_code WriteFileContent(const std::filesystem::path& path, std::string_
 // Throws CFileError when one of them keeps it too long.
 CFileLock LockFile(const std::filesystem::path& path);
 
+// Whether a file is a script of ours of any age, where `script` belongs: all that we have ever shipped begin with the same
+// line, and so does the next one.
+bool IsOlderScript(const CString& file, const CString& script);
+
 // Whether both are files that hold the same bytes.
 bool SameContent(const CString& left, const CString& right);
 

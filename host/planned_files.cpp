@@ -17,14 +17,6 @@ namespace {
 // What marks a folder as ours, and what is being written.
 constexpr char kOwnPrefix[] = ".orrelix-";
 
-// Every script that we have ever shipped begins with the same line, and so does the next one.
-bool IsOlderScript(const fs::path& file, const CString& script) {
-    std::string ours, theirs;
-    if (ReadWholeFile(script, ours) || ReadWholeFile(ComponentPath(file), theirs))
-        return false;
-    return theirs.starts_with(ours.substr(0, ours.find('\n') + 1));
-}
-
 // What a file is for: those of the same key have the same place and the same source.
 std::string KeyOf(const CEffectFile& file, const fs::path& configFolder, const fs::path& pageFolder) {
     constexpr char kZero = '\0'; // which is in no path
@@ -168,7 +160,7 @@ bool CPlannedFiles::HasObstacles() const {
     bool bObstacles = false;
     for (const CPlannedFile& file : m_Files) {
         if (!fs::exists(file.m_Target) || file.m_bReferredTo || file.IsWritten() ||
-            (file.m_bScript && IsOlderScript(file.m_Target, file.m_Source)))
+            (file.m_bScript && IsOlderScript(ComponentPath(file.m_Target), file.m_Source)))
             continue;
         m_Report.Error(file.m_Target.string(),
                        fmt::format("is there already and would be replaced by {}; give one of them another "

@@ -96,6 +96,9 @@ void Publish(const CPublishOptions& options, CReport& report) {
     WarnOfSurroundings(page, effect, pageName, report);
     WarnOfHarmfulTexts(object, options.m_File.string(), report);
 
+    // Pages of one site may need the same files: nobody else may put one where none has been seen. What isn't there is
+    // locked by its folder.
+    const CFileLock siteLock = LockFile(fs::canonical(options.m_Site) / ".orrelix-site");
     // The files first: a page never refers to what isn't there yet.
     const fs::path folder = fs::canonical(fs::absolute(pagePlace).parent_path());
     const fs::path pageFile = fs::canonical(pagePlace);

@@ -9,6 +9,7 @@
 #include <new>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -64,6 +65,17 @@ private:
 mode_t PermissionsFor(const struct stat& old, bool bOwner, bool bGroup) {
     const mode_t mode = old.st_mode & (bOwner && bGroup ? 07777 : 01777);
     return bGroup ? mode : (mode & ~mode_t{S_IRWXG}) | (mode & S_IRWXO) << 3;
+}
+
+// Gives a file the access list of another one, or takes away what its directory has given it. False where the list
+// can't be kept.
+bool TakeAccessList(const std::string& from, int nFile) {
+    constexpr char kName[] = "system.posix_acl_access";
+    char list[65536]; // the most that the system has
+    const ssize_t nSize = getxattr(from.c_str(), kName, list, sizeof list);
+    if (nSize >= 0)
+        return fsetxattr(nFile, kName, list, static_cast<size_t>(nSize), 0) == 0;
+    return fremovexattr(nFile, kName) == 0 || errno == ENODATA || errno == EOPNOTSUPP;
 }
 
 // The descriptor stays the file's, which is made first: nobody would close it where there is no memory for one.
@@ -134,7 +146,8 @@ public:
         // of which this resets some.
         const bool bOwner = fchown(nFile, old.st_uid, old.st_gid) == 0;
         const bool bGroup = bOwner || fchown(nFile, static_cast<uid_t>(-1), old.st_gid) == 0;
-        if (fchmod(nFile, PermissionsFor(old, bOwner, bGroup)) == 0)
+        const bool bList = TakeAccessList(replaced, nFile);
+        if (fchmod(nFile, PermissionsFor(old, bOwner, bGroup && bList)) == 0)
             return {};
         const std::error_code error = LastError();
         unlink(path.c_str());

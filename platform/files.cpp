@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <mutex>
 #include <optional>
+#include <random>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -358,7 +359,7 @@ void COutputFile::RemoveLeftovers(const CString& directory) {
 }
 
 std::string COutputFile::DraftName() {
-    return TemporaryPrefix() + "0";
+    return TemporaryPrefix() + std::to_string(std::random_device()());
 }
 
 COutputFile::COutputFile() = default;

@@ -24,7 +24,8 @@ const errors = {
 // In a folder F that holds what `start` makes. What comes next in that folder is the same once more, or `next`.
 const effect = ["--effect", "Link Select Table", "--set", "m_Texts=a", "--set", "m_ScriptPath=js/",
     "--set", "m_ImagePath=images/"];
-const changes = ["--set", "m_Texts=b", "--set", "m_Images=F/pictures/book.gif"];
+const changes = ["--set", "m_Texts=a", "--set", "m_Texts=b", "--set", "m_Images=F/work/house.gif",
+    "--set", "m_Images=F/pictures/book.gif"];
 const commands = {
     WriteConfigFile: {
         start: [],
@@ -37,7 +38,7 @@ const commands = {
         next: [program, "new", "F/work/next.cfg", "--effect", "Color Link"],
     },
     edit: {
-        start: [["new", "F/work/a.cfg", ...effect]],
+        start: [["new", "F/work/a.cfg", ...effect, "--set", "m_Images=F/pictures/house.gif"]],
         run: [program, "edit", "F/work/a.cfg", ...changes],
         next: [program, "edit", "F/work/a.cfg", ...changes, "--overwrite"],
     },
