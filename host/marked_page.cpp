@@ -104,7 +104,9 @@ private:
             if (!row.m_Place && piece.m_Kind == row.m_Kind && piece.m_Name == row.m_pName)
                 row.m_Place = row.m_nPosition * m_Text.GetUnitSize();
         }
-        if (!places.m_Charset && !places.m_Body && !CharsetOf(piece, m_Outline).empty())
+        // Behind the effect itself a script would come too late for it.
+        const bool bBefore = !places.m_Body && places.m_Marks.empty() && places.m_Cursors.empty();
+        if (!places.m_Charset && bBefore && !CharsetOf(piece, m_Outline).empty())
             places.m_Charset = piece.m_nEnd * m_Text.GetUnitSize();
     }
 
