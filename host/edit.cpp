@@ -9,12 +9,11 @@
 #include "host/title.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 
 #include <fmt/format.h>
 #include <iostream>
 #include <nlohmann/json.hpp>
-#include <set>
+#include <optional>
 
 namespace orrelix {
 
