@@ -162,10 +162,17 @@ std::string Call(const CObjectPtr& object, const char* pName, WORD flags,
     return Call(object, NumberOf(object, pName), flags, arguments);
 }
 
+// What holds for the process, as it would be for the first input too.
+constexpr const char* kOfProcess[][2] = {{"CodePage", "i65001"},
+                                         {"RawTexts", "i0"},
+                                         {"MostHTML", "i0"},
+                                         {"ScriptFolder", "s"},
+                                         {"OwnerWindow", "s"}};
+
 void RequireUsable(const CObjectPtr& object) {
     const CObjectPtr inspector = InspectorOf(object);
-    Call(inspector, "CodePage", DISPATCH_PROPERTYPUT, {"i65001"});
-    Call(inspector, "RawTexts", DISPATCH_PROPERTYPUT, {"i0"});
+    for (const auto& [pName, pValue] : kOfProcess)
+        Call(inspector, pName, DISPATCH_PROPERTYPUT, {pValue});
     Call(inspector, "Effect", DISPATCH_PROPERTYPUT, {"sColor Link"});
     Call(object, "Title", DISPATCH_PROPERTYPUT, {"sprobe"});
     Require(Call(object, "Title", DISPATCH_PROPERTYGET, {}) == "probe", "the object keeps a title");

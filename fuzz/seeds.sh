@@ -44,6 +44,7 @@ mkdir -p "$folder/calls"
 calls orrelix o >"$folder/calls/orrelix"
 calls inspector i >"$folder/calls/inspector"
 calls orrelix o | cat - <(calls inspector i) >"$folder/calls/both"
+seed calls of_process pi1MostHTML i5 pi1CodePage i936 pi1RawTexts b-1 pi1ScriptFolder s/nowhere
 for name in i h d t b e n 0 r v z; do seed calls "type_$name" mo2GetHTMLBody "${name}1" "${name}0" po1Title "${name}text"; done
 
 # The commands of the sessions, those without pipes and the like.

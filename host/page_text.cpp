@@ -157,6 +157,9 @@ bool CPageText::Equals(std::string_view part, std::string_view text) const {
         return true;
     if (!Converts())
         return WithoutReferences(part, m_Encoding == "UTF-8") == text;
+    // What comes back from the page's encoding may be another character, such as a wide form.
+    if (part == ToPage(text).m_Text)
+        return true;
     const std::string ours = ToUtf8(text).m_Text;
     const std::string theirs = ConvertText(part, m_Encoding, "UTF-8").m_Text;
     return theirs == ours || WithoutReferences(theirs, true) == ours;
