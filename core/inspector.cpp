@@ -4,6 +4,7 @@
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/module.h"
+#include "platform/text_conversion.h"
 #include "platform/wide_text.h"
 #include "resources/texts.h"
 #include "toolkit/desktop.h"
@@ -352,8 +353,11 @@ int CInspector::GetCodePageNumber() const {
 }
 
 void CInspector::SetCodePageNumber(int nCodePage) {
-    if (!SetCodePage(nCodePage))
-        throw CRefusal("code page " + std::to_string(nCodePage) + " isn't known");
+    const int nBefore = GetCodePage();
+    if (SetCodePage(nCodePage) && CanConvertPage(GetEncoding()))
+        return;
+    SetCodePage(nBefore);
+    throw CRefusal("code page " + std::to_string(nCodePage) + " isn't known");
 }
 
 bool CInspector::GetRawTexts() const {

@@ -13,10 +13,10 @@ namespace orrelix {
 bool HasRawTexts();
 void SetRawTexts(bool bRaw);
 
-// A new string of the caller's. Throws std::bad_alloc.
+// A new string of the caller's. Throws std::bad_alloc, and what ConvertPage does.
 BSTR AllocText(std::string_view text);
 
-// The text of a string, of which null is the empty one.
+// The text of a string, of which null is the empty one. Throws the same.
 CString TextOf(BSTR text);
 
 // The component's path of one that a host gave: with slashes or backslashes, and counted from the working
