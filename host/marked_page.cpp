@@ -28,14 +28,14 @@ struct CPlaces {
     std::optional<size_t> m_HeadEnd;
     std::optional<size_t> m_HtmlBegin;
     std::optional<size_t> m_Body;
-    std::optional<size_t> m_Charset; // behind the tag that declares it
+    std::optional<size_t> m_Charset; // behind what declares it, where that stands in front of the effect
 
     // Where a script goes into the head: before its end, which may be told by the body's beginning only, and behind
     // the page's charset, in which browsers read it.
     std::optional<size_t> ScriptPlace() const {
-        if (m_HeadEnd && m_HeadEnd < m_Body.value_or(std::string::npos))
-            return std::max(m_HeadEnd, m_Charset);
-        return m_Body ? m_Body : std::max(m_HeadBegin ? m_HeadBegin : m_HtmlBegin, m_Charset);
+        const bool bHeadEnds = m_HeadEnd && m_HeadEnd < m_Body.value_or(std::string::npos);
+        const auto place = bHeadEnds ? m_HeadEnd : m_Body ? m_Body : m_HeadBegin ? m_HeadBegin : m_HtmlBegin;
+        return std::max(place, m_Charset);
     }
 };
 
@@ -105,8 +105,7 @@ private:
                 row.m_Place = row.m_nPosition * m_Text.GetUnitSize();
         }
         // Behind the effect itself a script would come too late for it.
-        const bool bBefore = !places.m_Body && places.m_Marks.empty() && places.m_Cursors.empty();
-        if (!places.m_Charset && bBefore && !CharsetOf(piece, m_Outline).empty())
+        if (piece.m_nEnd == m_Text.GetCharsetEnd() && places.m_Marks.empty())
             places.m_Charset = piece.m_nEnd * m_Text.GetUnitSize();
     }
 
@@ -243,6 +242,7 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
     }
     m_Others = places.m_Others;
     const size_t nCursor = places.m_Marks.front().m_nEnd;
+    m_bCharsetBehind = m_Text.NeedsCharset() && m_Text.GetCharsetEnd() * m_Text.GetUnitSize() > nCursor;
     std::vector<CEdit> edits = {{{nCursor, nCursor}, Enclose("cursor", title, cursor)}};
     for (const auto& ranges : {places.m_Cursors, places.m_Scripts}) {
         for (const CRange& old : ranges) {

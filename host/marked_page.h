@@ -45,6 +45,9 @@ public:
     // Those of the first number that stand in a script.
     size_t GetUnfitInScriptsCount() const { return m_nUnfitInScripts; }
 
+    // Whether the page tells its encoding behind the effect only.
+    bool IsCharsetBehind() const { return m_bCharsetBehind; }
+
     // The other effects that Place found.
     const std::vector<COtherEffect>& GetOthers() const { return m_Others; }
 
@@ -61,6 +64,7 @@ private:
     size_t m_nUnfit = 0;
     size_t m_nUnfitInScripts = 0;
     size_t m_nInvalid = 0;
+    bool m_bCharsetBehind = false;
     std::vector<COtherEffect> m_Others;
     std::string m_Replaced; // as the page has it
 };

@@ -36,14 +36,47 @@ std::string_view CharsetOfContentType(std::string_view content) {
     return value.substr(nBegin, value.find_first_of("\"'; \t\r\n", nBegin) - nBegin);
 }
 
-std::string_view DeclaredCharset(std::string_view page) {
+// The charset that a tag of a page declares; empty for any other piece.
+std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page) {
+    if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
+        return {};
+    const std::string_view attributes =
+        page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
+    const std::string_view charset = Trim(FindAttribute(attributes, "charset"));
+    if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
+        return CharsetOfContentType(FindAttribute(attributes, "content"));
+    return charset;
+}
+
+struct CDeclaration {
+    std::string_view m_Charset;
+    size_t m_nEnd = 0;
+};
+
+// The XML declaration with which a page may begin.
+CDeclaration XmlDeclaration(std::string_view page) {
+    constexpr std::string_view kBegin = "<?xml";
+    const size_t nEnd = page.find('>');
+    if (!page.starts_with(kBegin) || nEnd == std::string_view::npos)
+        return {};
+    return {Trim(FindAttribute(page.substr(kBegin.size(), nEnd - kBegin.size()), "encoding")), nEnd + 1};
+}
+
+// Browsers take the first charset that they know, wherever its tag stands, and without any the XML declaration's. One
+// that they don't know is found where there is no other.
+CDeclaration FindDeclaration(std::string_view page) {
+    CDeclaration unknown;
     CHtmlScanner scanner(page);
     CHtmlPiece piece;
-    while (scanner.Next(piece) && piece.m_Name != "body") {
-        if (const std::string_view charset = CharsetOf(piece, page); !charset.empty())
-            return charset;
+    while (scanner.Next(piece)) {
+        const CDeclaration found{CharsetOf(piece, page), piece.m_nEnd};
+        if (!EncodingOfLabel(found.m_Charset).empty())
+            return found;
+        if (unknown.m_Charset.empty() && !found.m_Charset.empty())
+            unknown = found;
     }
-    return {};
+    const CDeclaration xml = XmlDeclaration(page);
+    return unknown.m_Charset.empty() || !EncodingOfLabel(xml.m_Charset).empty() ? xml : unknown;
 }
 
 // In this encoding, bytes between an escape sequence and the next may be halves of characters, whatever they
@@ -104,39 +137,27 @@ std::string WithoutReferences(std::string_view text, bool bUtf8) {
 
 } // namespace
 
-std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page) {
-    if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
-        return {};
-    const std::string_view attributes =
-        page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
-    const std::string_view charset = Trim(FindAttribute(attributes, "charset"));
-    if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
-        return CharsetOfContentType(FindAttribute(attributes, "content"));
-    return charset;
-}
-
 CPageText::CPageText(std::string page) : m_Page(std::move(page)), m_CodePageEncoding(orrelix::GetEncoding()) {
-    DetectEncoding();
+    ReadByteOrderMark();
     MakeOutline();
+    ReadCharset();
+    if (m_Encoding == "ISO-2022-JP")
+        MaskEscapedText(m_Outline);
 }
 
-void CPageText::DetectEncoding() {
+void CPageText::ReadByteOrderMark() {
     for (const auto& row : kByteOrderMarks) {
-        if (m_Page.starts_with(row.m_Mark)) {
-            m_Encoding = row.m_pEncoding;
-            m_nUnitSize = row.m_nUnitSize;
-            return;
-        }
+        if (!m_Page.starts_with(row.m_Mark))
+            continue;
+        m_bMarked = true;
+        m_Encoding = row.m_pEncoding;
+        m_nUnitSize = row.m_nUnitSize;
     }
-    m_Charset = DeclaredCharset(m_Page);
-    m_Encoding = EncodingOfLabel(m_Charset);
 }
 
 void CPageText::MakeOutline() {
     if (m_nUnitSize == 1) {
         m_Outline = m_Page;
-        if (m_Encoding == "ISO-2022-JP")
-            MaskEscapedText(m_Outline);
         return;
     }
     const size_t nLow = m_Encoding == "UTF-16LE" ? 0 : 1;
@@ -146,6 +167,14 @@ void CPageText::MakeOutline() {
         const bool bAscii = m_Page[2 * i + 1 - nLow] == 0 && static_cast<unsigned char>(low) < 0x80;
         m_Outline[i] = bAscii ? low : kNoAscii;
     }
+}
+
+void CPageText::ReadCharset() {
+    const CDeclaration declaration = FindDeclaration(m_Outline);
+    m_Charset = declaration.m_Charset;
+    m_nCharsetEnd = declaration.m_nEnd;
+    if (!m_bMarked)
+        m_Encoding = EncodingOfLabel(m_Charset);
 }
 
 CConvertedText CPageText::ToPage(std::string_view text) const {

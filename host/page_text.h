@@ -8,14 +8,9 @@
 
 namespace orrelix {
 
-struct CHtmlPiece;
-
-// The charset that a tag of a page declares; empty for any other piece.
-std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page);
-
 class CPageText {
 public:
-    // Finds out the encoding: by a byte order mark, or else by the charset that the page declares.
+    // Finds out the encoding: by a byte order mark, or else by the charset that the page declares, as browsers do.
     explicit CPageText(std::string page);
 
     const std::string& GetBytes() const { return m_Page; }
@@ -28,8 +23,12 @@ public:
     // The name of the page's encoding; empty when it isn't known.
     const std::string& GetEncoding() const { return m_Encoding; }
 
-    // The charset that the page declares, where that says what it is in; empty when it declares none.
+    // The charset that the page declares; empty when it declares none. Browsers pass over those that they don't know.
     const std::string& GetCharset() const { return m_Charset; }
+    // Behind what declares it, in the outline.
+    size_t GetCharsetEnd() const { return m_nCharsetEnd; }
+    // Whether nothing else tells the encoding, so that browsers have to come across it.
+    bool NeedsCharset() const { return !m_bMarked && !m_Charset.empty(); }
 
     // A text of the code page as the page has it. The bytes stay as they are when the page is in the code
     // page itself or its encoding isn't known.
@@ -40,13 +39,16 @@ public:
     bool Equals(std::string_view part, std::string_view text) const;
 
 private:
-    void DetectEncoding();
+    void ReadByteOrderMark();
     void MakeOutline();
+    void ReadCharset();
     bool Converts() const { return !m_Encoding.empty() && m_Encoding != m_CodePageEncoding; }
 
     std::string m_Page;
     std::string m_Outline;
     std::string m_Charset;
+    size_t m_nCharsetEnd = 0;
+    bool m_bMarked = false; // by a byte order mark
     std::string m_Encoding;
     std::string m_CodePageEncoding;
     size_t m_nUnitSize = 1;

@@ -98,8 +98,8 @@ void Encode(CConverter& encoder, std::string_view characters, CConvertedText& re
     }
 }
 
-// The labels that browsers know, each between blanks, by iconv's name for what they take. A page that says that it is in
-// a UTF-16 by a tag, which is in ASCII, is taken for UTF-8.
+// The labels that browsers know, each between blanks, by iconv's name for what they take where a tag says it: a page whose
+// tags are in ASCII is in no UTF-16.
 constexpr struct {
     const char* m_pLabels;
     const char* m_pEncoding;
@@ -138,7 +138,7 @@ constexpr struct {
     {" cp1250 windows-1250 x-cp1250 ", "CP1250"},
     {" cp1251 windows-1251 x-cp1251 ", "CP1251"},
     {" ansi_x3.4-1968 ascii cp1252 cp819 csisolatin1 ibm819 iso-8859-1 iso-ir-100 iso8859-1 iso88591 "
-     "iso_8859-1 iso_8859-1:1987 l1 latin1 us-ascii windows-1252 x-cp1252 ",
+     "iso_8859-1 iso_8859-1:1987 l1 latin1 us-ascii windows-1252 x-cp1252 x-user-defined ",
      "CP1252"},
     {" cp1253 windows-1253 x-cp1253 ", "CP1253"},
     {" cp1254 csisolatin5 iso-8859-9 iso-ir-148 iso8859-9 iso88599 iso_8859-9 iso_8859-9:1989 l5 latin5 "
