@@ -23,7 +23,8 @@ namespace orrelix {
 namespace {
 
 constexpr char kHelp[] = "help";
-constexpr char kOverwriteHelp[] = "Replace files that this program didn't put there";
+constexpr char kOverwriteHelp[] =
+    "Replace files that this program didn't put there, and take images of any name";
 
 // One command of the program: its arguments, and what it does with them.
 struct CCommand {
@@ -182,7 +183,8 @@ int RunProgram(int nArguments, char** ppArguments) {
     program.set_version_flag("-V,--version", "orrelix " ORRELIX_VERSION);
     program.require_subcommand(1);
     program.fallthrough();
-    program.footer("'orrelix help COMMAND' tells about a command, 'man orrelix' about all.");
+    program.footer("'orrelix help COMMAND' tells about a command, 'man orrelix' about all.\n"
+                   "What would steer a terminal is printed as \"\\x1B\", in pipes too, be it in a path.");
     int nCodePage = kUtf8CodePage;
     program.add_option("--code-page", nCodePage, "The code page of the files' texts, UTF-8 if not given")
         ->type_name("N");

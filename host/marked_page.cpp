@@ -261,10 +261,10 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
     return Apply(m_Text.GetBytes(), std::move(edits));
 }
 
-bool CMarkedPage::ReferredTo(std::string_view address) const {
+bool CMarkedPage::Loaded(std::string_view address) const {
     for (const char* pQuote : {"\"", "'"}) {
-        if (m_Replaced.find(m_Text.ToPage(pQuote + std::string(address) + pQuote).m_Text) !=
-            std::string::npos)
+        const std::string attribute = "src=" + (pQuote + std::string(address)) + pQuote;
+        if (m_Replaced.find(m_Text.ToPage(attribute).m_Text) != std::string::npos)
             return true;
     }
     return false;

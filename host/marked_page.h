@@ -51,8 +51,9 @@ public:
     // The other effects that Place found.
     const std::vector<COtherEffect>& GetOthers() const { return m_Others; }
 
-    // Whether what Place replaced refers to a file by this address, which is in the code page.
-    bool ReferredTo(std::string_view address) const;
+    // Whether what Place replaced loads a file by this address, which is in the code page. A link alone may be to a file
+    // of anybody's.
+    bool Loaded(std::string_view address) const;
 
     const std::string& GetOutline() const { return m_Text.GetOutline(); }
 

@@ -17,6 +17,29 @@ namespace {
 // What marks a folder as ours, and what is being written.
 constexpr char kOwnPrefix[] = ".orrelix-";
 
+// Endings, each between blanks: those by which servers and browsers tell pictures, and those by which some servers tell
+// what they run, wherever in a name they stand.
+constexpr std::string_view kPictures =
+    " .apng .avif .bmp .cur .dib .emf .gif .heic .ico .jfif .jpe .jpeg .jpg .jxl .pjp "
+    ".pjpeg .png .svg .svgz .tif .tiff .webp .wmf .xbm ";
+constexpr std::string_view kPrograms =
+    " .asp .aspx .cgi .jsp .phar .php .php3 .php4 .php5 .php7 .phtml .shtml ";
+
+// Whether no server runs or obeys a file of this name: it has the ending of a picture, doesn't begin with a dot, and has no
+// other ending that a server runs. Strangers choose the names of images.
+bool IsPictureName(const fs::path& target) {
+    CString lower = CString(target.filename().native()).MakeLower();
+    lower.Replace(";", "."); // where some servers take a name for ended
+    const auto hasOneOf = [](std::string_view endings, const fs::path& name) {
+        return endings.find(" " + name.extension().native() + " ") != std::string_view::npos;
+    };
+    fs::path name = std::string(lower.View());
+    bool bPicture = !lower.View().starts_with('.') && hasOneOf(kPictures, name);
+    while (bPicture && (name = name.stem()).has_extension())
+        bPicture = !hasOneOf(kPrograms, name);
+    return bPicture;
+}
+
 // What a file is for: those of the same key have the same place and the same source.
 std::string KeyOf(const CEffectFile& file, const fs::path& configFolder, const fs::path& pageFolder) {
     constexpr char kZero = '\0'; // which is in no path
@@ -54,8 +77,7 @@ std::error_code CPlannedFiles::CPlannedFile::Write() const {
 }
 
 void CPlannedFiles::AddFiles(const CGeneratedEffect& effect, const fs::path& configFile,
-                             const fs::path& pageFolder, const fs::path& page,
-                             const CReferenceTest& isReferredTo) {
+                             const fs::path& pageFolder, const fs::path& page, const CLoadTest& isLoaded) {
     for (const CString& name : effect.m_Lost)
         m_Report.Error(configFile.string(),
                        fmt::format("the effect needs the file \"{}\", which is missing; put it beside "
@@ -64,12 +86,14 @@ void CPlannedFiles::AddFiles(const CGeneratedEffect& effect, const fs::path& con
     for (const CEffectFile& file : effect.m_Files) {
         // Nearly all effects of a folder need the same scripts.
         std::string need = KeyOf(file, configFile.parent_path(), pageFolder);
-        if (m_Met.contains(need) || !CheckSource(file, configFile))
+        if (m_Met.contains(need))
             continue;
-        const bool bReferredTo =
-            std::any_of(file.m_Names.begin(), file.m_Names.end(),
-                        [&](const CString& name) { return isReferredTo((file.m_WebPath + name).View()); });
-        if (AddFile(file, configFile, pageFolder, page, bReferredTo))
+        const bool bLoaded = std::any_of(file.m_Names.begin(), file.m_Names.end(), [&](const CString& name) {
+            return isLoaded((file.m_WebPath + name).View());
+        });
+        const bool bLeftOut = !CheckSource(file, configFile);
+        if (AddFile({{}, configFile.string(), file.m_Source, "", file.m_bScript, bLoaded, bLeftOut}, file,
+                    pageFolder, page))
             m_Met.insert(std::move(need));
     }
 }
@@ -92,39 +116,54 @@ bool CPlannedFiles::CheckSource(const CEffectFile& file, const fs::path& configF
     return false;
 }
 
-bool CPlannedFiles::AddFile(const CEffectFile& file, const fs::path& configFile, const fs::path& pageFolder,
-                            const fs::path& page, bool bReferredTo) {
-    const std::string subject = configFile.string();
-    const std::string source = SystemPath(file.m_Source).string();
-    bool bAll = true;
+bool CPlannedFiles::AddFile(CPlannedFile planned, const CEffectFile& file, const fs::path& pageFolder,
+                            const fs::path& page) {
+    const std::string source = planned.GetName();
+    bool bAll = !planned.m_bLeftOut;
     const auto refuse = [&](const std::string& problem) {
-        m_Report.Error(subject, problem);
+        m_Report.Error(planned.m_Subject, problem);
         bAll = false;
     };
     for (const CString& name : file.m_Names) {
         // Browsers ask for names in UTF-8, whatever the page is in.
         const std::string address = ToUtf8((file.m_WebPath + name).View()).m_Text;
         std::string problem;
-        const fs::path target = m_Site.Locate(address, pageFolder, problem);
-        if (target.empty()) {
+        planned.m_Target = m_Site.Locate(address, pageFolder, problem);
+        if (planned.m_Target.empty()) {
             refuse(fmt::format("\"{}\", where the page looks for {}, {}", address, source, problem));
             break; // the other spellings lie at the same place
         }
-        const CPlannedFile* pOther = FindAt(target);
-        if (target.filename().native().starts_with(kOwnPrefix))
+        problem = WhyNotAtItsPlace(planned, page);
+        if (!problem.empty()) {
+            refuse(problem);
+            continue;
+        }
+        if (!planned.m_bLeftOut && !file.m_bScript && !m_bOverwrite && !IsPictureName(planned.m_Target)) {
             refuse(fmt::format(
-                "the file {} has a name that this program keeps for itself; give it another one", source));
-        else if (target == page)
-            refuse(fmt::format("the file {} would land on the page itself", source));
-        else if (!pOther)
-            Add({target, subject, file.m_Source, "", file.m_bScript, bReferredTo});
-        else if (pOther->m_Source != file.m_Source &&
-                 (pOther->m_Source.IsEmpty() || !SameContent(pOther->m_Source, file.m_Source)))
-            refuse(
-                fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
-                            source, pOther->GetName(), target.string()));
+                "the file {} would be {}, whose name isn't a picture's, so that a server may run or "
+                "obey it; give it another one, or say --overwrite",
+                source, planned.m_Target.string()));
+            planned.m_bLeftOut = true;
+        }
+        if (!FindAt(planned.m_Target))
+            Add(planned);
     }
     return bAll;
+}
+
+std::string CPlannedFiles::WhyNotAtItsPlace(const CPlannedFile& planned, const fs::path& page) const {
+    const std::string source = planned.GetName();
+    if (planned.m_Target.filename().native().starts_with(kOwnPrefix))
+        return fmt::format("the file {} has a name that this program keeps for itself; give it another one",
+                           source);
+    if (planned.m_Target == page)
+        return fmt::format("the file {} would land on the page itself", source);
+    const CPlannedFile* pOther = FindAt(planned.m_Target);
+    if (!pOther || pOther->m_Source == planned.m_Source ||
+        (!pOther->m_Source.IsEmpty() && SameContent(pOther->m_Source, planned.m_Source)))
+        return "";
+    return fmt::format("the files {} and {} differ, but both would be {}; give one of them another name",
+                       source, pOther->GetName(), planned.m_Target.string());
 }
 
 fs::path CPlannedFiles::CheckPage(const fs::path& page, const std::string& subject) const {
@@ -147,7 +186,8 @@ void CPlannedFiles::Add(CPlannedFile file) {
         Write(file);
         std::string().swap(file.m_Content); // which gives its memory back
     }
-    m_Indices.emplace(file.m_Target.native(), m_Files.size());
+    if (!file.m_bLeftOut)
+        m_Indices.emplace(file.m_Target.native(), m_Files.size());
     m_Files.push_back(std::move(file));
 }
 
@@ -159,19 +199,22 @@ const CPlannedFiles::CPlannedFile* CPlannedFiles::FindAt(const fs::path& target)
 bool CPlannedFiles::HasObstacles() const {
     bool bObstacles = false;
     for (const CPlannedFile& file : m_Files) {
-        if (!fs::exists(file.m_Target) || file.m_bReferredTo || file.IsWritten() ||
+        if (m_bOverwrite || !fs::exists(file.m_Target) || file.m_bLoaded || file.IsWritten() ||
             (file.m_bScript && IsOlderScript(ComponentPath(file.m_Target), file.m_Source)))
             continue;
-        m_Report.Error(file.m_Target.string(),
-                       fmt::format("is there already and would be replaced by {}; give one of them another "
-                                   "name, or say --overwrite. Nothing has been written",
-                                   file.GetName()));
+        m_Report.Error(
+            file.m_Target.string(),
+            fmt::format("is there already and would be {} {}; give one of them another name, or say "
+                        "--overwrite. Nothing has been written",
+                        file.m_bLeftOut ? "taken for" : "replaced by", file.GetName()));
         bObstacles = true;
     }
     return bObstacles;
 }
 
 void CPlannedFiles::Write(const CPlannedFile& file) const {
+    if (file.m_bLeftOut)
+        return;
     if (const std::error_code error = file.Write())
         m_Report.Error(file.m_Target.string(), "can't be written: " + error.message());
     else if (file.m_Source.IsEmpty())

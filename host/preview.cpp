@@ -8,6 +8,8 @@
 #include "host/text_encoding.h"
 #include "platform/files.h"
 
+#include <fmt/format.h>
+
 namespace orrelix {
 
 namespace fs = std::filesystem;
@@ -24,7 +26,7 @@ class CPreviewRun {
 public:
     CPreviewRun(const CPreviewOptions& options, CReport& report)
         : m_Options(options), m_Report(report), m_Out(fs::canonical(options.m_Out)), m_Site(m_Out),
-          m_Files(m_Site, report) {}
+          m_Files(m_Site, options.m_bOverwrite, report) {}
 
     void Run() {
         const bool bAtOnce = Claim() || m_Options.m_bOverwrite;
@@ -35,8 +37,16 @@ public:
         if (m_Options.m_bIndex)
             Try(m_Out / kIndexName,
                 [&] { m_Files.AddPage(m_Out / kIndexName, IndexPage(m_Cards), "all effects"); });
-        if (!bAtOnce && !m_Files.HasObstacles())
-            m_Files.Write();
+        if (bAtOnce)
+            return;
+        if (!m_Files.HasObstacles())
+            return m_Files.Write();
+        m_Report.Error(
+            m_Options.m_Out.string(),
+            fmt::format(
+                "has no mark of preview, which older versions made none of; if all that lies there may be "
+                "replaced, put an empty file {} there",
+                kMarkName));
     }
 
 private:

@@ -106,10 +106,10 @@ void Publish(const CPublishOptions& options, CReport& report) {
     // The files first: a page never refers to what isn't there yet.
     const fs::path folder = fs::canonical(fs::absolute(pagePlace).parent_path());
     const fs::path pageFile = fs::canonical(pagePlace);
-    CPlannedFiles files(site, report);
+    CPlannedFiles files(site, options.m_bOverwrite, report);
     files.AddFiles(effect, options.m_File, folder, pageFile,
-                   [&](std::string_view address) { return page.ReferredTo(address); });
-    if (!options.m_bOverwrite && files.HasObstacles())
+                   [&](std::string_view address) { return page.Loaded(address); });
+    if (files.HasObstacles())
         return;
     files.Write();
     if (*after == before || WritePage(pageFile, before, *after, pageName, report))
