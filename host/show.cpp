@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <unordered_map>
 
 namespace orrelix {
 
@@ -45,9 +46,15 @@ private:
 
 Json CReadableFile::KeysToJson(const char* pKeys, const char* pValue) {
     Json object = Json::object();
-    for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys))
-        object.get_ref<Json::object_t&>().emplace_back(Text(key),
+    std::unordered_map<std::string, size_t> times; // that a name has been met
+    for (const std::string& key : m_Object.Ask<vignel::Items>(pKeys)) {
+        std::string name = Text(key);
+        // Keys that differ in invalid bytes only are alike by now, and readers of JSON would keep one of them.
+        while (const size_t nTimes = times[name]++)
+            name += fmt::format(" ({})", nTimes + 1);
+        object.get_ref<Json::object_t&>().emplace_back(std::move(name),
                                                        Text(m_Object.Ask<std::string>(pValue, key)));
+    }
     return object;
 }
 
