@@ -13,8 +13,8 @@ constexpr size_t kNowhere = std::string_view::npos;
 constexpr std::string_view kBlanks = " \t\r\n\f";
 
 // Elements whose content is text up to their own end tag, whatever it looks like.
-constexpr std::string_view kRawTextElements[] = {"script", "style",   "textarea", "title",
-                                                 "xmp",    "noembed", "noframes", "iframe"};
+constexpr std::string_view kRawTextElements[] = {"script",  "style",    "textarea", "title",    "xmp",
+                                                 "noembed", "noframes", "iframe",   "noscript", "plaintext"};
 
 bool IsLetter(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
@@ -29,13 +29,24 @@ size_t EmptyCommentLength(std::string_view text) {
     return 0;
 }
 
+// The length of code that a server runs, of which browsers get to see nothing; else 0. Its end may be the page's. What a
+// name follows, such as "<?xml", is none.
+size_t ServerCodeLength(std::string_view text) {
+    const bool bPhp = text.starts_with("<?") &&
+                      (text.size() == 2 || !IsLetter(text[2]) || EqualsNoCase(text.substr(2, 3), "php"));
+    if (!bPhp && !text.starts_with("<%"))
+        return 0;
+    const size_t nEnd = text.find(bPhp ? "?>" : "%>", 1);
+    return nEnd == kNowhere ? text.size() : nEnd + 2;
+}
+
 } // namespace
 
 bool CHtmlScanner::Next(CHtmlPiece& piece) {
     while ((m_nPosition = m_Page.find('<', m_nPosition)) != kNowhere) {
         const std::string_view rest = m_Page.substr(m_nPosition);
-        if (const size_t nComment = EmptyCommentLength(rest)) {
-            m_nPosition += nComment;
+        if (const size_t nPassed = std::max(EmptyCommentLength(rest), ServerCodeLength(rest))) {
+            m_nPosition += nPassed;
             continue;
         }
         if (rest.starts_with("<!--"))

@@ -1,5 +1,5 @@
 // The tags and comments of an HTML page, one after the other, as far as one has to know them to find places
-// in it. What looks like a tag within a comment, a script or an attribute's value is none.
+// in it. What looks like a tag within a comment, a script, an attribute's value or a server's code is none.
 #pragma once
 
 #include <cstddef>

@@ -28,6 +28,7 @@ struct CPlaces {
     std::optional<size_t> m_HeadEnd;
     std::optional<size_t> m_HtmlBegin;
     std::optional<size_t> m_Body;
+    std::optional<size_t> m_Frames;
     std::optional<size_t> m_Charset; // behind what declares it, where that stands in front of the effect
 
     // Where a script goes into the head: before its end, which may be told by the body's beginning only, and behind
@@ -98,7 +99,7 @@ private:
             {CHtmlPiece::kTag, "head", places.m_HeadBegin, piece.m_nEnd},
             {CHtmlPiece::kEndTag, "head", places.m_HeadEnd, piece.m_nBegin},
             {CHtmlPiece::kTag, "body", places.m_Body, piece.m_nBegin},
-            {CHtmlPiece::kTag, "frameset", places.m_Body, piece.m_nBegin},
+            {CHtmlPiece::kTag, "frameset", places.m_Frames, piece.m_nBegin},
         };
         for (const auto& row : rows) {
             if (!row.m_Place && piece.m_Kind == row.m_Kind && piece.m_Name == row.m_pName)
@@ -233,6 +234,10 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
         return std::nullopt;
     if (places.m_Marks.size() != 1) {
         problem = WhyNoMark(title, places);
+        return std::nullopt;
+    }
+    if (places.m_Frames && !places.m_Body) {
+        problem = "is made of frames and shows nothing else; put the effect into the page of a frame";
         return std::nullopt;
     }
     const auto scriptPlace = places.ScriptPlace();
