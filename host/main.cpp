@@ -24,7 +24,7 @@ namespace {
 
 constexpr char kHelp[] = "help";
 constexpr char kOverwriteHelp[] =
-    "Replace files that this program didn't put there, and take images of any name";
+    "Replace files that this program didn't put there, and take images of any name and servers' code";
 
 // One command of the program: its arguments, and what it does with them.
 struct CCommand {

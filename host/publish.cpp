@@ -56,6 +56,23 @@ void WarnOfSurroundings(const CMarkedPage& page, const CGeneratedEffect& effect,
     }
 }
 
+// What begins code that a server runs. A stranger's effect mustn't bring any into a page.
+bool HasServerCode(const CGeneratedEffect& effect, const std::string& subject, CReport& report) {
+    for (const CString* pText : {&effect.m_Script, &effect.m_Cursor}) {
+        for (const char* pBegin : {"<?", "<%", "<!--#"}) {
+            if (pText->View().find(pBegin) == std::string_view::npos)
+                continue;
+            report.Error(
+                subject,
+                fmt::format("its texts have \"{}\", behind which servers run code; take it out, or say "
+                            "--overwrite. Nothing has been written",
+                            pBegin));
+            return true;
+        }
+    }
+    return false;
+}
+
 // The page as it was when it was read is `before`.
 bool WritePage(const fs::path& path, const std::string& before, const std::string& after,
                const std::string& subject, CReport& report) {
@@ -90,6 +107,8 @@ void Publish(const CPublishOptions& options, CReport& report) {
     const CEffectObject object;
     OpenEffect(options.m_File, object);
     const CGeneratedEffect effect = GenerateEffect(object, kPublish);
+    if (!options.m_bOverwrite && HasServerCode(effect, options.m_File.string(), report))
+        return;
     CMarkedPage page(before);
     std::string problem;
     const auto after =
