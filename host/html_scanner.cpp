@@ -158,6 +158,10 @@ std::string_view FindAttribute(std::string_view attributes, std::string_view nam
     return {};
 }
 
+std::string_view FindAttribute(std::string_view page, const CHtmlPiece& tag, std::string_view name) {
+    return FindAttribute(page.substr(tag.m_nInnerBegin, tag.m_nInnerEnd - tag.m_nInnerBegin), name);
+}
+
 std::vector<std::string_view> TextsOfElements(std::string_view html, std::string_view name) {
     std::vector<std::string_view> texts;
     CHtmlScanner scanner(html);

@@ -46,6 +46,9 @@ private:
 // The value of an attribute in the text of a tag; empty when it isn't there.
 std::string_view FindAttribute(std::string_view attributes, std::string_view name);
 
+// That of a tag of the page.
+std::string_view FindAttribute(std::string_view page, const CHtmlPiece& tag, std::string_view name);
+
 // What stands in the elements of a name whose content is text, such as "script".
 std::vector<std::string_view> TextsOfElements(std::string_view html, std::string_view name);
 

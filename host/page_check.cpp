@@ -79,16 +79,26 @@ bool ForbidsInlineScripts(std::string_view page) {
     while (scanner.Next(piece) && piece.m_Name != "body") {
         if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
             continue;
-        const auto attributes = page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
-        if (!EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-security-policy"))
+        if (!EqualsNoCase(FindAttribute(page, piece, "http-equiv"), "content-security-policy"))
             continue;
-        CString policies = FindAttribute(attributes, "content");
+        CString policies = FindAttribute(page, piece, "content");
         policies.MakeLower().Replace("&#39;", "'");
         const auto all = Split(policies.View(), ",");
         if (std::any_of(all.begin(), all.end(), PolicyForbids))
             return true;
     }
     return false;
+}
+
+std::string_view BaseOf(std::string_view page) {
+    CHtmlScanner scanner(page);
+    CHtmlPiece piece;
+    std::string_view base;
+    while (base.empty() && scanner.Next(piece)) {
+        if (piece.m_Kind == CHtmlPiece::kTag && piece.m_Name == "base")
+            base = Trim(FindAttribute(page, piece, "href"));
+    }
+    return base;
 }
 
 std::vector<std::string> DisputedStyles(std::string_view html, std::string_view otherHtml) {

@@ -40,11 +40,9 @@ std::string_view CharsetOfContentType(std::string_view content) {
 std::string_view CharsetOf(const CHtmlPiece& piece, std::string_view page) {
     if (piece.m_Kind != CHtmlPiece::kTag || piece.m_Name != "meta")
         return {};
-    const std::string_view attributes =
-        page.substr(piece.m_nInnerBegin, piece.m_nInnerEnd - piece.m_nInnerBegin);
-    const std::string_view charset = Trim(FindAttribute(attributes, "charset"));
-    if (charset.empty() && EqualsNoCase(FindAttribute(attributes, "http-equiv"), "content-type"))
-        return CharsetOfContentType(FindAttribute(attributes, "content"));
+    const std::string_view charset = Trim(FindAttribute(page, piece, "charset"));
+    if (charset.empty() && EqualsNoCase(FindAttribute(page, piece, "http-equiv"), "content-type"))
+        return CharsetOfContentType(FindAttribute(page, piece, "content"));
     return charset;
 }
 

@@ -42,6 +42,13 @@ void WarnOfSurroundings(const CMarkedPage& page, const CGeneratedEffect& effect,
         report.Warning(
             subject, "its Content-Security-Policy forbids inline scripts: of the effect only what stands in "
                      "the page itself will show; add 'unsafe-inline' to its script-src");
+    // Without a slash, its folder is the page's.
+    if (const auto base = BaseOf(page.GetOutline()); base.find_first_of("/\\") != base.npos)
+        report.Warning(
+            subject,
+            fmt::format("by its <base>, browsers look for the effect's files from \"{}\" on; where that "
+                        "isn't the page's own folder, give the effect web paths that begin with \"/\"",
+                        base));
     for (const COtherEffect& other : page.GetOthers()) {
         const auto styles = DisputedStyles(effect.m_Cursor, other.m_Cursor);
         if (styles.empty())
