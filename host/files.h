@@ -14,8 +14,7 @@ namespace orrelix {
 // component takes for a separator.
 std::filesystem::path PathForComponent(const std::filesystem::path& path);
 
-// The same as the component and platform/files spell it. Throws CFileError when one of its names holds a backslash, for which the
-// component has no spelling.
+// The same, with the same failure, as the component and platform/files spell it.
 CString ComponentPath(const std::filesystem::path& path);
 
 // The other way round, for messages and for the system's own operations.
@@ -36,8 +35,8 @@ std::error_code WriteFileContent(const std::filesystem::path& path, std::string_
 // Throws CFileError when one of them keeps it too long.
 CFileLock LockFile(const std::filesystem::path& path);
 
-// Whether a file is a script of ours of any age, where `script` belongs: all that we have ever shipped begin with the same
-// line, and so does the next one.
+// Whether a file is a script of ours of any age, where `script` belongs: all that we have ever shipped begin with the
+// same line, and so does the next one.
 bool IsOlderScript(const CString& file, const CString& script);
 
 // Whether both are files that hold the same bytes.

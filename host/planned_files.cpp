@@ -25,8 +25,8 @@ constexpr std::string_view kPictures =
 constexpr std::string_view kPrograms =
     " .asp .aspx .cgi .jsp .phar .php .php3 .php4 .php5 .php7 .phtml .shtml ";
 
-// Whether no server runs or obeys a file of this name: it has the ending of a picture, doesn't begin with a dot, and has no
-// other ending that a server runs. Strangers choose the names of images.
+// Whether no server runs or obeys a file of this name, which a stranger may have chosen: it has a picture's ending, doesn't
+// begin with a dot, and has no other ending that a server runs.
 bool IsPictureName(const fs::path& target) {
     CString lower = CString(target.filename().native()).MakeLower();
     lower.Replace(";", "."); // where some servers take a name for ended

@@ -43,9 +43,9 @@ public:
     // nothing can be in the way. A page has to come after its files.
     void WriteAtOnce() { m_bAtOnce = true; }
 
-    // Whether files with other content stand in the way that aren't ours, and mustn't be overwritten: ours are those that
-    // the page's effect loads already, and our scripts, whatever their age. Each is reported. What is left out counts: its
-    // place would be taken for ours as soon as the page refers to it.
+    // Whether files with other content stand in the way that aren't ours, and mustn't be overwritten: ours are those
+    // that the page's effect loads already, and our scripts, whatever their age. Each is reported. What is left out
+    // counts: its place would be taken for ours as soon as the page loads it.
     bool HasObstacles() const;
 
     // Writes what is planned, the pages last, as they never refer to what isn't there yet, and prints their paths. What
@@ -60,7 +60,7 @@ private:
         std::string m_Content;          // of a page
         bool m_bScript = false;
         bool m_bLoaded = false;
-        bool m_bLeftOut = false;
+        bool m_bLeftOut = false; // has been reported, and isn't written
 
         std::string GetName() const;
         bool IsWritten() const;

@@ -98,8 +98,8 @@ void Encode(CConverter& encoder, std::string_view characters, CConvertedText& re
     }
 }
 
-// The labels that browsers know, each between blanks, by iconv's name for what they take where a tag says it: a page whose
-// tags are in ASCII is in no UTF-16.
+// The labels that browsers know, each between blanks, by iconv's name for what they take where a tag says it: a page
+// whose tags are in ASCII is in no UTF-16.
 constexpr struct {
     const char* m_pLabels;
     const char* m_pEncoding;
