@@ -68,9 +68,11 @@ CDeclaration FindDeclaration(std::string_view page) {
     CHtmlPiece piece;
     while (scanner.Next(piece)) {
         const CDeclaration found{CharsetOf(piece, page), piece.m_nEnd};
+        if (found.m_Charset.empty())
+            continue;
         if (!EncodingOfLabel(found.m_Charset).empty())
             return found;
-        if (unknown.m_Charset.empty() && !found.m_Charset.empty())
+        if (unknown.m_Charset.empty())
             unknown = found;
     }
     const CDeclaration xml = XmlDeclaration(page);
