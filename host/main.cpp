@@ -48,7 +48,10 @@ CCommand AddPreview(CLI::App& program) {
     CLI::App* pPreview =
         program.add_subcommand("preview", "Make a page to look at for each configuration file");
     pPreview->add_option("FILE", pOptions->m_Files, "The configuration files")->required()->check(NotEmpty);
-    pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")->required()->type_name("DIR");
+    pPreview->add_option("--out", pOptions->m_Out, "The folder for the pages")
+        ->required()
+        ->check(NotEmpty)
+        ->type_name("DIR");
     pPreview->add_flag("--index", pOptions->m_bIndex, "Write an index.html that shows all of them");
     pPreview->add_flag("--overwrite", pOptions->m_bOverwrite, kOverwriteHelp);
     return {pPreview, [pOptions](CReport& report) { Preview(*pOptions, report); }};
@@ -60,9 +63,11 @@ CCommand AddPublish(CLI::App& program) {
     pPublish->add_option("FILE", pOptions->m_File, "The configuration file")->required()->check(NotEmpty);
     pPublish->add_option("--page", pOptions->m_Page, "The page, marked with <!-- vignel: TITLE -->")
         ->required()
+        ->check(NotEmpty)
         ->type_name("PAGE");
     pPublish->add_option("--site", pOptions->m_Site, "The folder of the site's root")
         ->required()
+        ->check(NotEmpty)
         ->type_name("DIR");
     pPublish->add_flag("--overwrite", pOptions->m_bOverwrite, kOverwriteHelp);
     return {pPublish, [pOptions](CReport& report) { Publish(*pOptions, report); }};
