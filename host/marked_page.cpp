@@ -38,6 +38,13 @@ struct CPlaces {
         const auto place = bHeadEnds ? m_HeadEnd : m_Body ? m_Body : m_HeadBegin ? m_HeadBegin : m_HtmlBegin;
         return std::max(place, m_Charset);
     }
+
+    // Up to where browsers look for the page's charset.
+    size_t CharsetLimit() const {
+        constexpr size_t kAnywhere = 1024; // bytes
+        return std::max(kAnywhere,
+                        std::min(m_HeadEnd.value_or(std::string::npos), m_Body.value_or(std::string::npos)));
+    }
 };
 
 // A mark or a comment of ours, as positions in the comment's text.
@@ -247,7 +254,8 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
     }
     m_Others = places.m_Others;
     const size_t nCursor = places.m_Marks.front().m_nEnd;
-    m_bCharsetBehind = m_Text.NeedsCharset() && m_Text.GetCharsetEnd() * m_Text.GetUnitSize() > nCursor;
+    m_bCharsetMissed =
+        m_Text.NeedsCharset() && m_Text.GetCharsetEnd() > std::min(nCursor, places.CharsetLimit());
     std::vector<CEdit> edits = {{{nCursor, nCursor}, Enclose("cursor", title, cursor)}};
     for (const auto& ranges : {places.m_Cursors, places.m_Scripts}) {
         for (const CRange& old : ranges) {

@@ -45,8 +45,8 @@ public:
     // Those of the first number that stand in a script.
     size_t GetUnfitInScriptsCount() const { return m_nUnfitInScripts; }
 
-    // Whether the page tells its encoding behind the effect only.
-    bool IsCharsetBehind() const { return m_bCharsetBehind; }
+    // Whether the page tells its encoding only where browsers miss it, which may be so since the effect is in front of that.
+    bool IsCharsetMissed() const { return m_bCharsetMissed; }
 
     // The other effects that Place found.
     const std::vector<COtherEffect>& GetOthers() const { return m_Others; }
@@ -65,7 +65,7 @@ private:
     size_t m_nUnfit = 0;
     size_t m_nUnfitInScripts = 0;
     size_t m_nInvalid = 0;
-    bool m_bCharsetBehind = false;
+    bool m_bCharsetMissed = false;
     std::vector<COtherEffect> m_Others;
     std::string m_Replaced; // as the page has it
 };

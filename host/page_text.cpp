@@ -60,8 +60,9 @@ CDeclaration XmlDeclaration(std::string_view page) {
     return {Trim(FindAttribute(page.substr(kBegin.size(), nEnd - kBegin.size()), "encoding")), nEnd + 1};
 }
 
-// Browsers take the first charset that they know, wherever its tag stands, and without any the XML declaration's. One
-// that they don't know is found where there is no other.
+// Browsers take the first charset that they know, and without any the XML declaration's. They look for tags in the head and
+// in the first 1024 bytes; one behind these tells at least what the page's author meant. One that they don't know is found
+// where there is no other.
 CDeclaration FindDeclaration(std::string_view page) {
     CDeclaration unknown;
     CHtmlScanner scanner(page);

@@ -30,10 +30,10 @@ void WarnOfCharacters(const CMarkedPage& page, const std::string& subject, CRepo
                                           "stands; give the page UTF-8",
                                           nInScripts)));
     report.WarnOfInvalidBytes(subject, page.GetInvalidCount());
-    if (page.IsCharsetBehind())
-        report.Warning(subject,
-                       "declares its charset behind the effect, where browsers may miss it; put that "
-                       "tag at the beginning of its head");
+    if (page.IsCharsetMissed())
+        report.Warning(
+            subject,
+            "declares its charset where browsers miss it; put that tag at the beginning of its head");
 }
 
 void WarnOfSurroundings(const CMarkedPage& page, const CGeneratedEffect& effect, const std::string& subject,
