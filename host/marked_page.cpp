@@ -243,7 +243,7 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
         problem = WhyNoMark(title, places);
         return std::nullopt;
     }
-    if (places.m_Frames && !places.m_Body) {
+    if (places.m_Frames && *places.m_Frames < places.m_Body.value_or(std::string::npos)) {
         problem = "is made of frames and shows nothing else; put the effect into the page of a frame";
         return std::nullopt;
     }
@@ -276,7 +276,7 @@ std::optional<std::string> CMarkedPage::Place(const std::string& title, std::str
 
 bool CMarkedPage::Loaded(std::string_view address) const {
     for (const char* pQuote : {"\"", "'"}) {
-        const std::string attribute = "src=" + (pQuote + std::string(address)) + pQuote;
+        const std::string attribute = fmt::format("src={0}{1}{0}", pQuote, address);
         if (m_Replaced.find(m_Text.ToPage(attribute).m_Text) != std::string::npos)
             return true;
     }
