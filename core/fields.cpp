@@ -71,25 +71,25 @@ public:
     void Fields(const char*, std::initializer_list<CParameterField> fields) override {
         for (const CParameterField& field : fields) {
             if (field.m_pText)
-                Text("", field);
+                Add(field, false, field.m_bMasked, {field.m_pText});
         }
     }
-    void Text(const char*, CParameterField field) override {
-        if (Takes(field.m_pName))
-            m_Fields.push_back({field.m_pName, false, field.m_bFileName, {field.m_pText}});
-    }
+    void Text(const char*, CParameterField field) override { Add(field, false, true, {field.m_pText}); }
     void Unstored(CParameterField field) override { Text("", field); }
 
     std::vector<CNamedField> m_Fields;
 
 protected:
     void DoItems(const char*, const CParameterColumn& column) override {
-        if (Takes(column.m_pName))
-            m_Fields.push_back({column.m_pName, true, column.m_bFileName, column.m_Items});
+        Add(column, true, column.m_bMasked, column.m_Items);
     }
 
 private:
-    bool Takes(const char* pName) const { return !m_Only || IsNameOf(pName, *m_Only); }
+    template <class TField>
+    void Add(const TField& field, bool bList, bool bKeepsCommas, const std::vector<CString*>& values) {
+        if (!m_Only || IsNameOf(field.m_pName, *m_Only))
+            m_Fields.push_back({field.m_pName, bList, field.m_bFileName, bKeepsCommas, values});
+    }
 
     const std::optional<std::string_view> m_Only;
 };

@@ -27,6 +27,7 @@ struct CNamedField {
     CString m_Name;
     bool m_bList = false;
     bool m_bFileName = false;
+    bool m_bKeepsCommas = true; // no comma of its values parts them in a file
     std::vector<CString*> m_Values;
 };
 

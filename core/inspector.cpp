@@ -143,6 +143,11 @@ CItems CInspector::GetFieldItems(const CString& name) {
     return items;
 }
 
+bool CInspector::KeepsCommas(const CString& name) {
+    const std::vector<CNamedField> fields = ListFields(Gadget(), name.View());
+    return FieldOf(fields, name).m_bKeepsCommas;
+}
+
 CString CInspector::SetField(const CString& name, const CString& value) {
     return m_Orrelix.ChangeEffect([&] {
         const std::vector<CNamedField> fields = ListFields(Gadget());
@@ -451,6 +456,7 @@ std::span<const CMember> GetInspectorMembers() {
         Method<&I::GetText>("GetText"),
         Method<&I::GetIconFile>("GetIconFile"),
         Property<&I::GetMostHtml, &I::SetMostHtml>("MostHTML"),
+        Method<&I::KeepsCommas>("KeepsCommas"),
     };
     return kMembers;
 }

@@ -35,6 +35,9 @@ public:
     int GetFieldMaximum(const CString& field);
     CString GetField(const CString& field);
     CItems GetFieldItems(const CString& field);
+    // Whether a file brings commas of the field's values back. Of another field's value, a comma, or the "~@^`" that stands
+    // for one, ends it there, and shifts the fields behind it. Of a file the name alone counts.
+    bool KeepsCommas(const CString& field);
 
     // Sets a field and what derives from it. The result is empty, or a sentence: the value is set, but a file will not
     // bring it back. A value that the field can't have is refused.

@@ -1,6 +1,7 @@
 #include "host/fields.h"
 
 #include "host/nearest_word.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -34,9 +35,16 @@ const std::vector<CNamedField>& EmptyFields(const CEffectObject& effect) {
             known->second.push_back({name,
                                      effect.Ask<std::string>("GetFieldKind", name),
                                      effect.Ask<bool>("IsFieldList", name),
+                                     effect.Ask<bool>("KeepsCommas", name),
                                      {}});
     }
     return known->second;
+}
+
+// Whether a value has a comma, or what a file takes for one, that would part it in a file. Of files, it has their names.
+bool IsParted(const CNamedField& field, const CString& value) {
+    const CString stored = field.IsFile() ? FileNameOfPath(FromSystemPath(value)) : value;
+    return !field.m_bKeepsCommas && (stored.Find(',') >= 0 || stored.Find("~@^`") >= 0);
 }
 
 // What is given to one field.
@@ -55,10 +63,10 @@ std::string Set(const CEffectObject& effect, const CSetting& setting, std::vecto
             : effect.Ask<std::string>("SetField", name, setting.m_Values.front(), result);
     if (!result)
         return result.message;
-    const bool bComma =
+    const bool bParted =
         std::any_of(setting.m_Values.begin(), setting.m_Values.end(),
-                    [](const std::string& value) { return value.find(',') != std::string::npos; });
-    if (!remark.empty() && bComma)
+                    [&setting](const std::string& value) { return IsParted(*setting.m_pField, value); });
+    if (!remark.empty() && bParted)
         return remark + "; it can't have a comma";
     if (!remark.empty())
         remarks.push_back(remark);
@@ -95,6 +103,20 @@ std::string WhyNotInFile(const std::vector<CNamedField>& fields) {
         }
     }
     return {};
+}
+
+std::string WhatCommasBreak(const std::vector<CNamedField>& fields) {
+    std::vector<std::string> names;
+    for (const CNamedField& field : fields) {
+        if (std::any_of(field.m_Values.begin(), field.m_Values.end(),
+                        [&field](const CString& value) { return IsParted(field, value); }))
+            names.push_back(field.m_Name);
+    }
+    return names.empty()
+               ? ""
+               : fmt::format("{} can't have a comma, or the \"~@^`\" that stands for one: the file would "
+                             "take what is behind it for the next field",
+                             fmt::join(names, ", "));
 }
 
 std::string SetFields(const CEffectObject& effect, const CFieldValues& values,

@@ -11,6 +11,7 @@ struct CNamedField {
     std::string m_Name;
     std::string m_Kind; // "text", "number", "colour", "choice", "file", "directory" or "border"
     bool m_bList;
+    bool m_bKeepsCommas;           // a file brings those of its values back
     std::vector<CString> m_Values; // one, or the list's items; of files the system's paths
 
     bool IsFile() const { return m_Kind == "file"; }
@@ -22,6 +23,10 @@ std::vector<CNamedField> ListFields(const CEffectObject& effect);
 // Why an effect of these fields can't be in a file; empty when it can. A file takes a line of a text for the end of the
 // effect's HTML.
 std::string WhyNotInFile(const std::vector<CNamedField>& fields);
+
+// The fields with commas, or what a file takes for one, that keep the file from bringing the effect back; a sentence's rest,
+// empty where there are none.
+std::string WhatCommasBreak(const std::vector<CNamedField>& fields);
 
 // Values by name, with "m_" or without: one for a field, as many as it is to have items for a list.
 using CFieldValues = std::map<std::string, std::vector<CString>>;
