@@ -28,6 +28,10 @@ seed page again 65001 t '<script>1</script>' text \
 seed page wide 65001 t '' text
 printf '\xff\xfe' >>"$folder/page/wide"
 iconv -t UTF-16LE <<<"$page" >>"$folder/page/wide"
+mkdir -p "$folder/shapes"
+for example in examples/*.cfg; do
+    sed -n '/^Segment Position = cursor/,/Segment End/{//!p}' "$example" >"$folder/shapes/$(basename "$example" .cfg)"
+done
 for label in utf-8 gb2312 shift_jis euc-kr big5 windows-1252 iso-2022-jp koi8-r; do
     seed encodings $label $label 932 $'text \xd6\xd0 \x83\x5c' $'\xe4\xb8\xad'
 done

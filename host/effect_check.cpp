@@ -211,17 +211,6 @@ private:
         return ToUtf8(html.View()).m_Text;
     }
 
-    // That of harmless texts recurs with every trial, and among effects that are alike.
-    static const std::vector<CHtmlElement>& OutlineOfHarmless(const std::string& html) {
-        constexpr size_t kMostOutlines = 32;
-        static std::map<std::string, std::vector<CHtmlElement>> outlines;
-        if (const auto known = outlines.find(html); known != outlines.end())
-            return known->second;
-        if (outlines.size() >= kMostOutlines)
-            outlines.clear();
-        return outlines.emplace(html, OutlineOfHtml(html)).first->second;
-    }
-
     bool IsDead(const CHtmlElement& element) {
         return !std::all_of(element.m_Scripts.begin(), element.m_Scripts.end(),
                             [this](const CHtmlScript& script) {
@@ -236,8 +225,7 @@ private:
     EDamage Judge(const CRows& rows, TTextOf textOf) {
         // In this order, as at first the object has the author's texts.
         const auto elements = OutlineOfHtml(Generate(rows, textOf));
-        const auto& whole =
-            OutlineOfHarmless(Generate(rows, [this](size_t i) { return m_Texts[i].m_Harmless; }));
+        const auto whole = OutlineOfHtml(Generate(rows, [this](size_t i) { return m_Texts[i].m_Harmless; }));
         auto element = elements.begin();
         for (const CHtmlElement& expected : whole) {
             element = std::find_if(element, elements.end(), [&](const CHtmlElement& other) {

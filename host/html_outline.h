@@ -1,6 +1,8 @@
 // What a browser's parser makes of HTML: its elements, without what they say.
 #pragma once
 
+#include "host/recall.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -21,6 +23,6 @@ struct CHtmlElement {
 
 // The elements of a text, in UTF-8, that stands in a page's body; last an element of ours behind the text,
 // which nothing of it may swallow. HTML in attributes and in the strings of scripts counts too.
-std::vector<CHtmlElement> OutlineOfHtml(std::string_view html);
+std::vector<CHtmlElement> OutlineOfHtml(std::string_view html, Judged judged = Judged::ByShape);
 
 } // namespace orrelix

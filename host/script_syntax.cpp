@@ -1,5 +1,7 @@
 #include "host/script_syntax.h"
 
+#include "host/script_shape.h"
+
 #include <algorithm>
 #include <charconv>
 #include <duktape.h>
@@ -54,13 +56,23 @@ std::string ReadString(std::string_view& script) {
 
 } // namespace
 
-CScriptSyntax::CScriptSyntax() : m_pEngine(duk_create_heap_default(), DestroyEngine) {
+CScriptSyntax::CScriptSyntax(Judged judged)
+    : m_Judged(judged), m_pEngine(duk_create_heap_default(), DestroyEngine) {
     if (!m_pEngine)
         throw std::bad_alloc();
 }
 
+std::string CScriptSyntax::ShapeOf(std::string_view script) const {
+    return m_Judged == Judged::ByShape ? ShapeOfScript(script) : std::string(script);
+}
+
+bool CScriptSyntax::IsScript(std::string_view text) {
+    return m_Scripts.Get(ShapeOf(text), [this](std::string_view shape) { return Compiles(shape, 0); });
+}
+
 bool CScriptSyntax::IsHandler(std::string_view text) {
-    return Compiles("function (event) {" + std::string(text) + "\n}", DUK_COMPILE_FUNCTION);
+    return m_Handlers.Get(ShapeOf("function (event) {" + std::string(text) + "\n}"),
+                          [this](std::string_view shape) { return Compiles(shape, DUK_COMPILE_FUNCTION); });
 }
 
 bool CScriptSyntax::Compiles(std::string_view text, unsigned nFlags) {

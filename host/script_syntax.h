@@ -1,6 +1,8 @@
 // The scripts of a page as a JavaScript engine reads them. They are compiled and never run.
 #pragma once
 
+#include "host/recall.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -10,19 +12,24 @@ namespace orrelix {
 
 class CScriptSyntax {
 public:
-    CScriptSyntax();
+    explicit CScriptSyntax(Judged judged = Judged::ByShape);
 
     // Whether browsers take the text, in UTF-8, for a script. The engine knows the language that the
     // generated text is in and little of what came later.
-    bool IsScript(std::string_view text) { return Compiles(text, 0); }
+    bool IsScript(std::string_view text);
 
     // The same of the value of an attribute such as "onclick".
     bool IsHandler(std::string_view text);
 
 private:
     bool Compiles(std::string_view text, unsigned nFlags);
+    std::string ShapeOf(std::string_view script) const;
+
+    const Judged m_Judged;
 
     std::unique_ptr<void, void (*)(void*)> m_pEngine;
+    CRecall<bool> m_Scripts; // what has been compiled, by its shape
+    CRecall<bool> m_Handlers;
 };
 
 // The texts of a script's string literals. Of a script that doesn't compile, anything.
