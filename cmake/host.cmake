@@ -8,7 +8,8 @@ find_path(GUMBO_INCLUDE gumbo.h)
 find_library(GUMBO_LIBRARY gumbo)
 find_path(DUKTAPE_INCLUDE duktape.h)
 find_library(DUKTAPE_LIBRARY duktape)
-set(parsing_sources host/effect_check.cpp host/html_outline.cpp host/html_shape.cpp host/script_shape.cpp host/script_syntax.cpp)
+set(parsing_sources host/effect_check.cpp host/effect_trial.cpp host/html_outline.cpp host/html_shape.cpp
+    host/script_shape.cpp host/script_syntax.cpp)
 set(parserless_sources host/effect_check_without_parsers.cpp)
 
 file(GLOB host_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} host/*.cpp)

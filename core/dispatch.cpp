@@ -38,7 +38,9 @@ HRESULT TakeNumber(const VARIANT& argument, VARTYPE type, TNumber VARIANT::*pMem
 bool IsName(const OLECHAR* pGiven, const char* pName) {
     for (; *pName && *pGiven; ++pName, ++pGiven) {
         const char given = *pGiven < 0x80 ? static_cast<char>(*pGiven) : '\0';
-        if (given != *pName && !EqualsNoCase({&given, 1}, {pName, 1}))
+        const bool bSameLetter =
+            (given | 0x20) == (*pName | 0x20); // or two characters that aren't both letters
+        if (given != *pName && (!bSameLetter || !EqualsNoCase({&given, 1}, {pName, 1})))
             return false;
     }
     return !*pName && !*pGiven;

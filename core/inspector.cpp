@@ -11,10 +11,12 @@
 #include "toolkit/desktop_loader.h"
 
 #include <algorithm>
+#include <charconv>
 #include <climits>
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <span>
 
 namespace orrelix {
 
@@ -64,6 +66,25 @@ CString ShownValue(const CNamedField& field, const CString& value) {
 // The other way round.
 CString KeptValue(const CNamedField& field, const CString& value) {
     return field.m_bFileName && !value.IsEmpty() ? FullPath(value) : value;
+}
+
+// The values of each field, as GetAllFields gives them.
+std::vector<std::span<const CString>> ValuesByField(const CItems& values, size_t nFields) {
+    std::vector<std::span<const CString>> byField;
+    std::span<const CString> left(values.m_Items.begin(), values.m_Items.end());
+    while (!left.empty()) {
+        size_t nValues = 0;
+        const std::string_view count = left[0].View();
+        if (std::from_chars(count.data(), count.data() + count.size(), nValues).ptr !=
+                count.data() + count.size() ||
+            nValues >= left.size())
+            break;
+        byField.push_back(left.subspan(1, nValues));
+        left = left.subspan(1 + nValues);
+    }
+    if (!left.empty() || byField.size() != nFields)
+        throw CRefusal("these aren't the values of the effect's fields");
+    return byField;
 }
 
 } // namespace
@@ -156,6 +177,36 @@ CString CInspector::SetField(const CString& name, const CString& value) {
             KeptValue(field, AsDialogStores(field, TypeOfField(fields, field).m_Kind, value));
         UpdateBorder(fields, field);
         return RemarkOn(name);
+    });
+}
+
+CItems CInspector::GetAllFields() {
+    CItems values;
+    for (const CNamedField& field : ListFields(Gadget())) {
+        values.m_Items.Add(ToText(std::ssize(field.m_Values)));
+        for (const CString* pValue : field.m_Values)
+            values.m_Items.Add(ShownValue(field, *pValue).GetString());
+    }
+    return values;
+}
+
+void CInspector::PutAllFields(const CItems& values) {
+    m_Orrelix.ChangeEffect([&] {
+        std::vector<CNamedField> fields = ListFields(Gadget());
+        const auto byField = ValuesByField(values, fields.size());
+        size_t nItems = 0;
+        for (size_t nField = 0; nField < fields.size(); ++nField)
+            nItems = std::max(nItems, fields[nField].m_bList ? byField[nField].size() : 0);
+        ResizeLists(Gadget(), static_cast<CStringArray::Index>(nItems));
+        fields = ListFields(Gadget()); // their items have moved
+        for (size_t nField = 0; nField < fields.size(); ++nField) {
+            const CNamedField& field = fields[nField];
+            const auto& given = byField[nField];
+            if (given.size() > field.m_Values.size())
+                throw CRefusal(std::string(field.m_Name.View()) + " has too many values");
+            for (size_t i = 0; i < field.m_Values.size(); ++i)
+                *field.m_Values[i] = i < given.size() ? KeptValue(field, given[i]) : CString();
+        }
     });
 }
 
@@ -457,6 +508,8 @@ std::span<const CMember> GetInspectorMembers() {
         Method<&I::GetIconFile>("GetIconFile"),
         Property<&I::GetMostHtml, &I::SetMostHtml>("MostHTML"),
         Method<&I::KeepsCommas>("KeepsCommas"),
+        Method<&I::GetAllFields>("GetAllFields"),
+        Method<&I::PutAllFields>("PutAllFields"),
     };
     return kMembers;
 }

@@ -50,6 +50,12 @@ public:
     void PutField(const CString& field, const CString& value);
     void PutFieldItems(const CString& field, const CItems& items);
 
+    // All that the fields hold as one list: of each, in the order of their names, how many values it has, and those up
+    // to a zero byte. Putting such a list makes the effect's lists as long as the longest that it has; what is of
+    // another form is refused.
+    CItems GetAllFields();
+    void PutAllFields(const CItems& values);
+
     // The file that was read last, since a host asked for this interface: its keys in the order of the file, its records as they were read, and what is wrong
     // with its form, a sentence's rest each. What a file doesn't have is empty.
     CItems GetDescriptionKeys();

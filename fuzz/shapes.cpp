@@ -29,8 +29,9 @@ void RequireSameOutline(std::string_view html) {
     Require(std::equal(shapes.begin(), shapes.end(), texts.begin(), texts.end(),
                        [](const CHtmlElement& shape, const CHtmlElement& text) {
                            return shape.m_nKind == text.m_nKind &&
-                                  std::equal(shape.m_Scripts.begin(), shape.m_Scripts.end(), text.m_Scripts.begin(),
-                                             text.m_Scripts.end(), [](const auto& one, const auto& other) {
+                                  std::equal(shape.m_Scripts.begin(), shape.m_Scripts.end(),
+                                             text.m_Scripts.begin(), text.m_Scripts.end(),
+                                             [](const auto& one, const auto& other) {
                                                  return s_Shapes.IsRight(one) == s_Texts.IsRight(other);
                                              });
                        }),

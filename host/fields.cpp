@@ -77,13 +77,12 @@ std::string Set(const CEffectObject& effect, const CSetting& setting, std::vecto
 
 std::vector<CNamedField> ListFields(const CEffectObject& effect) {
     std::vector<CNamedField> fields = EmptyFields(effect);
+    const auto values = effect.Ask<vignel::Items>("GetAllFields");
+    auto value = values.begin();
     for (CNamedField& field : fields) {
-        if (field.m_bList) {
-            for (const std::string& item : effect.Ask<vignel::Items>("GetFieldItems", field.m_Name))
-                field.m_Values.emplace_back(item);
-        } else {
-            field.m_Values.emplace_back(effect.Ask<std::string>("GetField", field.m_Name));
-        }
+        const auto end = value + 1 + std::stoi(*value);
+        field.m_Values.assign(value + 1, end);
+        value = end;
     }
     return fields;
 }
