@@ -1,7 +1,6 @@
 #include "host/effect_check.h"
 
 #include "host/effect_trial.h"
-#include "host/fields.h"
 #include "host/text_encoding.h"
 #include "host/title.h"
 
@@ -131,7 +130,7 @@ private:
         const CEffectObject fresh;
         fresh.SetEffect(std::string(m_Object.GetEffect().View()));
         for (const CNamedField& field : ListFields(fresh)) {
-            if (field.m_Name == text.m_Field && !field.m_bList &&
+            if (text.m_pField && field.m_Name == text.m_pField->m_Name && !field.m_bList &&
                 m_Trial.JudgeOne(nText, field.m_Values[0]) == EDamage::kNone)
                 return field.m_Values[0];
         }
@@ -182,9 +181,9 @@ private:
     }
 
     std::string Advice(size_t nText, char character, const std::vector<char>& harmful) {
-        if (m_Texts[nText].m_Field.empty())
+        if (!m_Texts[nText].m_pField)
             return kTitleAdvice;
-        if (m_Texts[nText].m_bFileName)
+        if (m_Texts[nText].m_pField->IsFile())
             return "give the file a name without it";
         const CString text = WithOthersHarmless(nText, character, harmful);
         for (const std::string& writing : WritingsOf(character, m_Trial.JudgeOne(nText, text))) {

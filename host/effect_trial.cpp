@@ -1,6 +1,5 @@
 #include "host/effect_trial.h"
 
-#include "host/fields.h"
 #include "host/generated_effect.h"
 #include "host/text_encoding.h"
 #include "host/title.h"
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <fmt/format.h>
+#include <iterator>
 
 namespace orrelix {
 
@@ -47,27 +47,23 @@ CScriptSyntax& Engine() {
 } // namespace
 
 std::string CAuthorText::GetName() const {
-    return m_Field.empty() ? "the title"
-           : m_nItem == 0  ? m_Field
-                           : fmt::format("{} (item {})", m_Field, m_nItem);
+    return !m_pField      ? "the title"
+           : m_nItem == 0 ? m_pField->m_Name
+                          : fmt::format("{} (item {})", m_pField->m_Name, m_nItem);
 }
 
-CEffectTrial::CEffectTrial(const CEffectObject& object) : m_Object(object), m_Syntax(Engine()) {
-    const std::vector<CNamedField> fields = ListFields(object);
-    m_nFields = fields.size();
-    m_PutTitle = object.GetTitle();
-    m_Texts.push_back({"", m_nFields, 0, false, m_PutTitle, TitleFrom(m_PutTitle.View())});
-    bool bMore = true;
-    for (size_t nRow = 0; bMore; ++nRow) {
-        bMore = nRow == 0;
-        for (size_t nField = 0; nField < m_nFields; ++nField) {
-            const CNamedField& field = fields[nField];
+CEffectTrial::CEffectTrial(const CEffectObject& object)
+    : m_Object(object), m_Syntax(Engine()), m_Fields(ListFields(object)), m_PutTitle(object.GetTitle()) {
+    m_Texts.push_back({nullptr, 0, m_PutTitle, TitleFrom(m_PutTitle.View())});
+    size_t nRows = 0;
+    for (const CNamedField& field : m_Fields)
+        nRows = std::max(nRows, field.m_bList ? field.m_Values.size() : 0);
+    for (size_t nRow = 0; nRow <= nRows; ++nRow) {
+        for (const CNamedField& field : m_Fields) {
             const size_t nValue = field.m_bList ? nRow - 1 : 0;
-            if (field.m_bList != (nRow > 0) || nValue >= field.m_Values.size())
-                continue;
-            const CString& value = field.m_Values[nValue];
-            m_Texts.push_back({field.m_Name, nField, nRow, field.IsFile(), value, HarmlessText(value)});
-            bMore = true;
+            if (field.m_bList == (nRow > 0) && nValue < field.m_Values.size())
+                m_Texts.push_back(
+                    {&field, nRow, field.m_Values[nValue], HarmlessText(field.m_Values[nValue])});
         }
     }
     m_Put =
@@ -86,14 +82,15 @@ CEffectTrial::CRows CEffectTrial::RowsOf(size_t nBegin, size_t nEnd) const {
 // The texts that textOf(index) gives, as the component takes all fields.
 template <class TTextOf>
 vignel::Items CEffectTrial::ValuesOf(const CRows& rows, TTextOf textOf) const {
-    std::vector<vignel::Items> byField(m_nFields);
+    std::vector<vignel::Items> byField(m_Fields.size());
     for (size_t i = 1; i < m_Texts.size(); ++i) {
         const size_t nItem = m_Texts[i].m_nItem;
         if (nItem == 0 || (nItem >= rows.m_nBegin && nItem < rows.m_nEnd))
-            byField[m_Texts[i].m_nField].emplace_back(textOf(i).View());
+            byField[static_cast<size_t>(m_Texts[i].m_pField - m_Fields.data())].emplace_back(
+                textOf(i).View());
     }
     vignel::Items values;
-    values.reserve(m_nFields + m_Texts.size());
+    values.reserve(m_Fields.size() + m_Texts.size());
     for (vignel::Items& texts : byField) {
         values.push_back(std::to_string(texts.size()));
         std::move(texts.begin(), texts.end(), std::back_inserter(values));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/component.h"
+#include "host/fields.h"
 #include "host/html_outline.h"
 #include "host/script_syntax.h"
 
@@ -18,10 +19,8 @@ enum class EDamage { kNone, kScript, kMarkup };
 
 // One text of the author's: the title, a field, or a list's item.
 struct CAuthorText {
-    std::string m_Field; // empty for the title
-    size_t m_nField;     // its place among the effect's
-    size_t m_nItem;      // from 1; 0 for no item
-    bool m_bFileName;
+    const CNamedField* m_pField; // null for the title
+    size_t m_nItem;              // from 1; 0 for no item
     CString m_Text;
     CString m_Harmless; // breaks nothing wherever it stands
 
@@ -32,6 +31,8 @@ class CEffectTrial {
 public:
     // The object has other texts after the first trial but one of all texts.
     explicit CEffectTrial(const CEffectObject& object);
+    CEffectTrial(const CEffectTrial&) = delete;
+    CEffectTrial& operator=(const CEffectTrial&) = delete;
 
     // The title, the other texts, the lists row by row.
     const std::vector<CAuthorText>& GetTexts() const { return m_Texts; }
@@ -59,8 +60,8 @@ private:
 
     const CEffectObject& m_Object;
     CScriptSyntax& m_Syntax;
+    const std::vector<CNamedField> m_Fields;
     std::vector<CAuthorText> m_Texts;
-    size_t m_nFields;
     CString m_PutTitle;  // what the object has by now
     vignel::Items m_Put; // and of the fields
 };

@@ -115,6 +115,7 @@ public:
             return std::make_shared<const CParsedElements>(Parsed(html));
         });
         std::vector<size_t> kinds;
+        kinds.reserve(pElements->size());
         for (const CParsedElement& element : *pElements) {
             const size_t nParentKind = kinds.empty() ? nKind : kinds[element.m_nParent];
             kinds.push_back(Combine(nParentKind, element.m_nKind));

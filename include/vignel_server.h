@@ -339,14 +339,41 @@ static inline uint32_t VignelDecodeUtf8(const char* pBytes, size_t nLeft, size_t
     return character;
 }
 
+/* How many bytes of ASCII the bytes begin with, or nearly so many. */
+static inline size_t VignelAsciiBytes(const char* pBytes, size_t nBytes) {
+    size_t nAt = 0;
+    uint64_t eight;
+    for (; nAt + sizeof eight <= nBytes; nAt += sizeof eight) {
+        memcpy(&eight, pBytes + nAt, sizeof eight);
+        if (eight & 0x8080808080808080u)
+            break;
+    }
+    return nAt;
+}
+
+/* The same of a string's units. */
+static inline size_t VignelAsciiUnits(const VignelChar* text, size_t nUnits) {
+    size_t nAt = 0;
+    uint64_t four;
+    for (; nAt + 4 <= nUnits; nAt += 4) {
+        memcpy(&four, text + nAt, sizeof four);
+        if (four & 0xFF80FF80FF80FF80u)
+            break;
+    }
+    return nAt;
+}
+
 /* A string from nBytes bytes of UTF-8. Null when memory runs out. */
 static inline VignelString VignelFromUtf8(const char* pBytes, size_t nBytes) {
-    size_t nUnits = 0, nAt, nLength = 1;
+    const size_t nAscii = VignelAsciiBytes(pBytes, nBytes);
+    size_t nUnits = nAscii, nAt, nLength = 1;
     VignelString text;
-    for (nAt = 0; nAt < nBytes; nAt += nLength)
+    for (nAt = nAscii; nAt < nBytes; nAt += nLength)
         nUnits += VignelDecodeUtf8(pBytes + nAt, nBytes - nAt, &nLength) >= 0x10000 ? 2 : 1;
     text = VignelAllocString(NULL, nUnits);
-    for (nAt = 0, nUnits = 0; text && nAt < nBytes; nAt += nLength) {
+    for (nAt = 0; text && nAt < nAscii; ++nAt)
+        text[nAt] = (VignelChar)(unsigned char)pBytes[nAt];
+    for (nUnits = nAscii; text && nAt < nBytes; nAt += nLength) {
         const uint32_t character = VignelDecodeUtf8(pBytes + nAt, nBytes - nAt, &nLength);
         if (character >= 0x10000) {
             text[nUnits++] = (VignelChar)(0xD7C0 + (character >> 10));
@@ -361,10 +388,12 @@ static inline VignelString VignelFromUtf8(const char* pBytes, size_t nBytes) {
 /* UTF-8 of a string, with a zero behind it; free it with free. Its length without the zero goes to *pnBytes, which
  * may be null. What is no character becomes "?". Null when memory runs out. */
 static inline char* VignelToUtf8(const VignelChar* text, size_t* pnBytes) {
-    const size_t nUnits = VignelStringLength(text);
+    const size_t nUnits = VignelStringLength(text), nAscii = VignelAsciiUnits(text, nUnits);
     char* pBytes = (char*)malloc(3 * nUnits + 1);
-    size_t nAt, nBytes = 0;
-    for (nAt = 0; pBytes && nAt < nUnits; ++nAt) {
+    size_t nAt, nBytes = nAscii;
+    for (nAt = 0; pBytes && nAt < nAscii; ++nAt)
+        pBytes[nAt] = (char)(unsigned char)text[nAt];
+    for (; pBytes && nAt < nUnits; ++nAt) {
         uint32_t character = text[nAt];
         if ((character & 0xFC00) == 0xD800 && nAt + 1 < nUnits && (text[nAt + 1] & 0xFC00) == 0xDC00)
             character = 0x10000 + ((character - 0xD800) << 10) + (text[++nAt] - 0xDC00u);
